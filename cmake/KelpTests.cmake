@@ -1,0 +1,39 @@
+# Tests are GoogleTest programs under CTest, one a folder and label: logic, parts, e2e, fuzz-replay.
+
+if(KELP_BUILD_TESTS)
+    find_package(GTest REQUIRED)
+    include(GoogleTest)
+endif()
+
+# The environment of every test: no display, no session of the user's, nothing of the user's files.
+set(KELP_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen" "LC_ALL=C.UTF-8" "KELP_LANG=en" "KELP_NO_UPDATE_CHECK=1"
+    "TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp:halt_on_error=1:second_deadlock_stack=1"
+    "LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp"
+    "UBSAN_OPTIONS=print_stacktrace=1")
+
+# kelp_test(<name> LABEL logic SOURCES a.cpp … LINK libs … [QT] [TIMEOUT s])
+#   QT: compiled with Qt's definitions and the automatic meta-object compiler.
+#   The test's own main() comes from GTest::gtest_main unless MAIN names a source that has one.
+function(kelp_test name)
+    cmake_parse_arguments(arg "QT;OWN_MAIN" "LABEL;TIMEOUT" "SOURCES;LINK" ${ARGN})
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 60)
+    endif()
+    add_executable(${name} ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE "${PROJECT_SOURCE_DIR}" "${PROJECT_SOURCE_DIR}/tests")
+    if(arg_QT)
+        kelp_qt_defaults(${name})
+    else()
+        kelp_warnings(${name})
+    endif()
+    set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+    if(arg_OWN_MAIN)
+        target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock)
+    else()
+        target_link_libraries(${name} PRIVATE ${arg_LINK} GTest::gtest GTest::gmock GTest::gtest_main)
+    endif()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60
+        PROPERTIES LABELS "${arg_LABEL}" TIMEOUT ${arg_TIMEOUT} ENVIRONMENT "${KELP_TEST_ENVIRONMENT}"
+        SKIP_REGULAR_EXPRESSION "\\[  SKIPPED \\]")
+endfunction()

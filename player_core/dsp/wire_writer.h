@@ -1,0 +1,49 @@
+#pragma once
+
+#include "player_core/output/wire_format.h"
+
+#include <cstddef>
+#include <cstdint>
+
+namespace kelp_core {
+
+/// Turns PCM doubles into the bytes a device takes. Audio thread: no allocation, no lock.
+///
+/// Without dither an integer source of up to validBits bits comes out bit for bit. With dither, triangular
+/// noise of two least significant bits' width is added before rounding (own generator, so runs are
+/// reproducible). Values outside −1 … +1 are clipped and counted.
+class PcmWriter
+{
+public:
+    explicit PcmWriter(const WireFormat &wire);
+    void write(const double *in, size_t frames, uint8_t *out, bool dither);
+    /// Samples clipped since construction.
+    uint64_t clipped() const { return clipped_; }
+
+private:
+    WireFormat wire_;
+    uint64_t clipped_ = 0;
+    uint64_t noise_ = 0x9E3779B97F4A7C15ull;
+};
+
+/// Packs DSD bytes (one a channel and frame, oldest bit in bit 7) into DoP 1.1 or native frames.
+/// Keeps the DoP marker in step over all calls, silence included. Audio thread: no allocation, no lock.
+class DsdWriter
+{
+public:
+    explicit DsdWriter(const WireFormat &wire);
+    /// DSD frames (bytes a channel) that one frame at the device holds: DoP 2, DSD_U8 1, DSD_U16 2,
+    /// DSD_U32 4.
+    size_t dsdFramesPerWireFrame() const;
+    /// dsdFrames must be a multiple of dsdFramesPerWireFrame(). Returns the number of frames at the device.
+    size_t write(const uint8_t *dsd, size_t dsdFrames, uint8_t *out);
+    /// Writes so many device frames of the DSD silence pattern 0x69.
+    void silence(size_t wireFrames, uint8_t *out);
+
+private:
+    void packFrame(const uint8_t *dsd, size_t strideBytes, uint8_t *out);
+    WireFormat wire_;
+    bool marker_ = false; ///< false: the next DoP marker is 0x05
+};
+
+} // namespace kelp_core
