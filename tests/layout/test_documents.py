@@ -1,0 +1,53 @@
+"""The documents at the door tell the truth: paths and commands they name exist."""
+import os
+import re
+import unittest
+
+ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/ARCHITECTURE.md", "player_core/README.md", "licenses/THIRD-PARTY.md"]
+# What looks like a path: a word in backticks with a slash or a known ending, without blanks and wild cards.
+PATH = re.compile(r"`([A-Za-z0-9_.-]+(?:/[A-Za-z0-9_.-]+)*/?)`")
+MADE_BY_BUILDING = ("build/", "build-")
+
+
+def read(path):
+    with open(os.path.join(ROOT, path), encoding="utf-8") as file:
+        return file.read()
+
+
+class Documents(unittest.TestCase):
+    def test_they_exist(self):
+        for document in DOCUMENTS:
+            self.assertTrue(os.path.isfile(os.path.join(ROOT, document)), document)
+
+    def test_paths_they_name_exist(self):
+        named = 0
+        for document in DOCUMENTS:
+            for path in PATH.findall(read(document)):
+                known = "/" in path or path.endswith((".md", ".txt", ".json", ".cmake", ".py"))
+                if not known or path.startswith(MADE_BY_BUILDING):
+                    continue
+                named += 1
+                self.assertTrue(os.path.exists(os.path.join(ROOT, path)), f"{document} names {path}, which does not exist")
+        self.assertGreater(named, 20)
+
+    def test_links_lead_somewhere(self):
+        for document in DOCUMENTS:
+            for link in re.findall(r"\]\(([^)#:]+)\)", read(document)):
+                target = os.path.normpath(os.path.join(ROOT, os.path.dirname(document), link))
+                self.assertTrue(os.path.exists(target), f"{document} links to {link}, which does not exist")
+
+    def test_commands_at_the_root_can_be_run(self):
+        for document in DOCUMENTS:
+            for command in set(re.findall(r"(?:^|[`\s])\./(run|test|tools/[a-z-]+)", read(document))):
+                self.assertTrue(os.access(os.path.join(ROOT, command), os.X_OK), f"{document}: ./{command}")
+
+    def test_every_library_that_is_linked_has_a_notice(self):
+        notices = read("licenses/THIRD-PARTY.md").lower()
+        for library in ("Qt", "FFmpeg", "ALSA", "PulseAudio", "libsoxr", "FFTW", "D-Bus", "GoogleTest", "Google Benchmark",
+                        "Inter", "DejaVu"):
+            self.assertIn(library.lower(), notices, library)
+
+
+if __name__ == "__main__":
+    unittest.main()
