@@ -1,0 +1,154 @@
+#!/usr/bin/env python3
+"""Figures of the whole program, each beside a baseline of the same run. Nothing here fails on a time.
+
+usage: bench/program.py [start] [idle] [engine] [latency]      all of them without a name
+"""
+import os
+import shutil
+import statistics
+import subprocess
+import sys
+import time
+
+sys.dont_write_bytecode = True
+ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
+sys.path.insert(0, os.path.join(ROOT, "tests", "e2e"))
+import support  # noqa: E402
+from support import BUILD, ENGINE, PROGRAM, Stage  # noqa: E402
+
+TICKS = os.sysconf("SC_CLK_TCK")
+OTHERS = ["audacious", "strawberry"]
+
+
+def row(name, value, unit, note=""):
+    print(f"{name:52s} {value:10.2f} {unit:6s} {note}", flush=True)
+
+
+def bare_display(stage):
+    """A display without a window manager."""
+    reading, writing = os.pipe()
+    stage.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1920x1200x24", "-nolisten", "tcp"], pass_fds=[writing],
+                stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    os.close(writing)
+    with os.fdopen(reading) as answer:
+        stage.env.update(DISPLAY=":" + answer.readline().strip(), QT_QPA_PLATFORM="xcb", KELP_GUI_ALLOW_MULTI="1")
+
+
+def first_window(stage, command):
+    done = subprocess.run([os.path.join(BUILD, "bench", "first_window"), *command], env=stage.env, capture_output=True, text=True)
+    return float(done.stdout) if done.returncode == 0 else None
+
+
+def bench_start(rounds=15):
+    with Stage() as stage:
+        bare_display(stage)
+        stage.bus()
+        programs = {"a bare Qt window of 300 widgets": [os.path.join(BUILD, "bench", "bare_window")], "KelpPlayer": [PROGRAM]}
+        programs.update({name: [name] for name in OTHERS if shutil.which(name)})
+        times = {name: [] for name in programs}
+        for number in range(rounds + 2):
+            for name, command in programs.items():
+                if number > 4 and name in OTHERS:
+                    continue
+                took = first_window(stage, command)
+                if number >= 2 and took is not None:  # two rounds warm the caches
+                    times[name].append(took)
+        ours = statistics.median(times["KelpPlayer"])
+        for name, took in times.items():
+            if took:
+                middle = statistics.median(took)
+                row(f"start to first painted window, {name}", middle, "ms", f"KelpPlayer is {ours / middle:.2f} of it")
+
+
+def cpu_seconds(pid):
+    with open(f"/proc/{pid}/stat", encoding="utf-8") as file:
+        fields = file.read().rsplit(")", 1)[1].split()
+    return (int(fields[11]) + int(fields[12])) / TICKS
+
+
+def resident_mib(pid):
+    with open(f"/proc/{pid}/smaps_rollup", encoding="utf-8") as file:
+        return next(int(line.split()[1]) for line in file if line.startswith("Rss:")) / 1024
+
+
+def bench_idle(seconds=10):
+    with Stage() as stage:
+        bare_display(stage)
+        stage.bus()
+        resident = {}
+        for name, command in [("KelpPlayer", [PROGRAM])] + [(other, [other]) for other in OTHERS if shutil.which(other)]:
+            process = stage.start(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            time.sleep(5)
+            before, began = cpu_seconds(process.pid), time.monotonic()
+            time.sleep(seconds)
+            share = (cpu_seconds(process.pid) - before) / (time.monotonic() - began) * 100
+            resident[name] = resident_mib(process.pid)
+            row(f"idle, {name}: CPU", share, "%", "of one core")
+            row(f"idle, {name}: resident memory", resident[name], "MiB", f"KelpPlayer is {resident['KelpPlayer'] / resident[name]:.2f} of it")
+            support.end_process(process)
+
+
+def bench_engine():
+    with Stage() as stage:
+        baseline_path, _ = stage.make("flac", "long.flac", seconds=600, signal="noise", rate=44100, bits=16)
+        began = time.monotonic()
+        subprocess.run(["ffmpeg", "-v", "error", "-threads", "1", "-i", baseline_path, "-f", "s16le", "-y", "/dev/null"], check=True)
+        baseline = 600 / (time.monotonic() - began)
+        row("FLAC 44.1/16 decoded by ffmpeg alone", baseline, "x", "real time")
+        for name, kind, seconds, options, flags in (
+                ("FLAC 44.1/16 decode to null", "flac", 600, dict(rate=44100, bits=16, signal="noise"), []),
+                ("DSD64 to PCM to null, standard filter", "dsf", 60, dict(signal="sine"), ["-pcm", "-pcm-filter", "standard"]),
+                ("DSD64 to PCM to null, best filter", "dsf", 60, dict(signal="sine"), ["-pcm", "-pcm-filter", "best"])):
+            path, _ = stage.make(kind, f"long.{kind}", seconds=seconds, **options)
+            before, began = os.times(), time.monotonic()
+            done = stage.engine("-i", path, "-dev", "null", *flags)
+            took, after = time.monotonic() - began, os.times()
+            assert done.returncode == 0, done.stdout
+            used = after.children_user + after.children_system - before.children_user - before.children_system
+            row(name, seconds / took, "x", f"real time, {seconds / used:.0f} x a core; {seconds / took / baseline:.2f} of ffmpeg alone")
+        path, _ = stage.make("flac", "played.flac", seconds=12, signal="noise")
+        before = os.times()
+        began = time.monotonic()
+        stage.engine("-i", path, KELP_ENGINE_PACE="realtime")
+        took, after = time.monotonic() - began, os.times()
+        used = after.children_user + after.children_system - before.children_user - before.children_system
+        row("playing FLAC 44.1/16 in real time: CPU", used / took * 100, "%", "of one core")
+
+
+def bench_latency(rounds=30):
+    """From the load line to the first sample in the device's file."""
+    with Stage() as stage:
+        captured = stage.alsa_capture()
+        path, _ = stage.make("flac", "t.flac", seconds=0.3, signal="noise")
+        took = []
+        session = support.EngineSession(stage, "-dev", "cap", KELP_ENGINE_PACE="realtime")
+        for number in range(rounds):
+            before = os.path.getsize(captured) if os.path.exists(captured) else 0
+            began = time.monotonic()
+            session.send("load " + path)
+            while not sounding(captured, before):
+                time.sleep(0.0005)
+            took.append((time.monotonic() - began) * 1000)
+            session.wait_line("DONE", count=number + 1)
+        session.stop()
+        row("load line to first sample, median", statistics.median(took), "ms", f"largest {max(took):.1f} ms")
+
+
+def sounding(captured, before):
+    """Whether a sample that is not silence stands behind the given place of the capture."""
+    try:
+        with open(captured, "rb") as file:
+            file.seek(before)
+            return bool(file.read().strip(b"\0"))
+    except FileNotFoundError:
+        return False
+
+
+def main():
+    chosen = sys.argv[1:] or ["start", "idle", "engine", "latency"]
+    for name in chosen:
+        globals()["bench_" + name]()
+
+
+if __name__ == "__main__":
+    main()

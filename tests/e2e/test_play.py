@@ -1,0 +1,109 @@
+"""The program plays what it is given, in a session of either kind, and ends cleanly."""
+import os
+import subprocess
+import time
+import unittest
+
+import support
+from support import ENGINE, PROGRAM, Stage, read_text, wait_until
+
+KINDS = [("flac", dict(rate=44100, bits=16)), ("wav", dict(rate=96000, bits=24)), ("dsf", {}), ("dff", {})]
+
+
+class Play(unittest.TestCase):
+    def play_to_the_end(self, stage, path, inproc, finished=1):
+        player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_QUIT_AFTER=6)
+        player.wait_log("Playback finished", count=finished)
+        player.wait_log(r"OPENED ")
+        self.assertEqual(player.wait_end(), 0, read_text(player.output_path))
+        log = player.log()
+        self.assertRegex(log, r"播放会话|session")
+        self.assertRegex(log, r"\[控制\] 闭合: queued=\d+ recv=\d+ diff=\d+ —— 通过" if inproc else "")
+        self.assertNotIn("[crash-guard]", log)
+        return log
+
+    def test_files_of_all_kinds_play_in_both_kinds_of_session(self):
+        with Stage() as stage:
+            stage.display()
+            stage.bus()
+            for kind, options in KINDS:
+                path, _ = stage.make(kind, f"a track, {kind}.{kind}", seconds=1, **options)
+                for inproc in (1, 0):
+                    with self.subTest(kind=kind, inproc=inproc):
+                        self.play_to_the_end(stage, path, inproc)
+
+    def test_a_cue_sheet_plays_its_tracks(self):
+        with Stage() as stage:
+            path, _ = stage.make("wav", "album.wav", seconds=2)
+            sheet = stage.path("album.cue")
+            with open(sheet, "w", encoding="utf-8") as file:
+                file.write('TITLE "海带"\nPERFORMER "Someone"\nFILE "album.wav" WAVE\n  TRACK 01 AUDIO\n    TITLE "Eins"\n'
+                           "    INDEX 01 00:00:00\n  TRACK 02 AUDIO\n    TITLE \"Zwei\"\n    INDEX 01 00:01:00\n")
+            log = self.play_to_the_end(stage, sheet, 1, finished=2)
+            self.assertIn("CUE: 海带 — Someone", log)
+            self.assertIn("load-cue 2 ", log)
+
+    def test_names_that_are_hard_to_pass_on(self):
+        names = ["blank and 'quotes\" 海带 قائمة 🎧.flac", "-dash.flac", "http:colon.flac", " leading.flac"]
+        with Stage() as stage:
+            for name in names:
+                with self.subTest(name=name):
+                    path, _ = stage.make("flac", name, seconds=1)
+                    self.play_to_the_end(stage, path, 1)
+
+    def test_a_damaged_file_ends_with_one_clear_line(self):
+        with Stage() as stage:
+            for name, content in (("empty.flac", b""), ("text.flac", b"this is no music\n" * 100), ("cut.wav", b"RIFF\x24\x10\0\0WAVEfmt ")):
+                path = stage.path(name)
+                with open(path, "wb") as file:
+                    file.write(content)
+                run = stage.engine("-i", path, "-dev", "null")
+                self.assertEqual(run.returncode, 1, name + run.stdout + run.stderr)
+                self.assertEqual(len([line for line in run.stdout.split("\n") if "FAILED" in line]), 1, run.stdout)
+                self.assertNotIn("DONE", run.stdout)
+                player = stage.player(path, KELP_GUI_INPROC=1, KELP_GUI_QUIT_AFTER=3)
+                player.wait_log("FAILED")
+                self.assertEqual(player.wait_end(), 0)
+                self.assertNotIn("Playback finished", player.log())
+
+    def test_the_console_role_answers_in_the_terminal(self):
+        with Stage() as stage:
+            path, _ = stage.make("flac", "t.flac", seconds=1)
+            for program in (PROGRAM, ENGINE):
+                environment = {k: v for k, v in stage.env.items() if k not in ("QT_QPA_PLATFORM", "DISPLAY")}
+                listing = subprocess.run([program, "-list"], env=environment, capture_output=True, text=True, timeout=20)
+                self.assertEqual(listing.returncode, 0, listing.stderr)
+                playing = subprocess.run([program, "-i", path], env=environment, capture_output=True, text=True, timeout=20,
+                                         stdin=subprocess.DEVNULL)
+                self.assertEqual(playing.returncode, 0, playing.stdout + playing.stderr)
+                self.assertIn("DONE", playing.stdout)
+
+    def test_a_second_program_is_refused_and_a_dead_one_does_not_block(self):
+        with Stage() as stage:
+            trace = stage.path("guard.txt")
+            first = stage.player(KELP_GUARD_TRACE=trace)
+            wait_until(lambda: "GetLastError=0" in read_text(trace), what="the first program's guard line")
+            second = stage.player(KELP_GUARD_TRACE=trace)
+            wait_until(lambda: "GetLastError=183" in read_text(trace), what="the second program's guard line")
+            first.process.kill()
+            first.process.wait()
+            second.process.kill()
+            second.process.wait()
+            third = stage.player(KELP_GUARD_TRACE=trace, KELP_GUI_QUIT_AFTER=1)
+            self.assertEqual(third.wait_end(), 0)
+            self.assertEqual(read_text(trace).count("GetLastError=0"), 2)
+
+    def test_closing_the_window_ends_the_engine(self):
+        with Stage() as stage:
+            path, _ = stage.make("flac", "long.flac", seconds=20)
+            for inproc in (1, 0):
+                player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_AUTOCLOSE=1)
+                self.assertEqual(player.wait_end(20), 0)
+                self.assertIn("测试钩子: 自动关窗", player.log())
+                time.sleep(0.1)
+                left = subprocess.run(["pgrep", "-f", f"KelpPlayerEngine.*-parent-pid {player.process.pid}"], capture_output=True)
+                self.assertNotEqual(left.returncode, 0, "an engine process was left behind")
+
+
+if __name__ == "__main__":
+    support.main()
