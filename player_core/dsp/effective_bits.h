@@ -24,14 +24,14 @@ struct VolumeFacts
 };
 
 /// Bits of the source that still reach the device, 0 when nothing audible does: each halving of the level
-/// pushes the samples one bit down, and first into the bits that the device has to spare. Without dither the
-/// fraction counts (a gain of −3 dB costs half a bit); dither's noise costs nothing that the source had.
+/// pushes the samples one bit down, and first into the bits that the device has to spare.
 double effectiveBits(double gain, int sourceBits, int deviceBits);
 
-/// The whole "volume: …" line. It holds exactly one of the words by which the front end tells the cases
-/// ("unity", "effective bits about N bit", "used up", "headroom", "applied on the DEVICE",
-/// "NOT applied on a DoP stream", "DSD direct", "SOFTWARE gain" alone when a depth is not known), and before
-/// all of them, where known, " on a N bit device".
+/// The whole "volume: …" line. The front end takes the first of these words that it holds, in this order:
+/// "unity", "effective bits" (with "about N bit"), "used up", "headroom", "applied on the DEVICE",
+/// "NOT applied on a DoP stream", "DSD direct", "SOFTWARE gain"; the last one alone is for depths that are
+/// not known. In front of them stands " on a N bit device" where that is known. A source deeper than the
+/// device is never "unity", since its lowest bits do not get through.
 std::string volumeLine(const VolumeFacts &facts);
 
 } // namespace kelp_core

@@ -16,7 +16,7 @@ constexpr int lowestPcmHz = 44100;
 /// DSD frames taken in one go: bounds the memory and keeps the history in the cache.
 constexpr size_t pieceFrames = 8192;
 
-/// Sums of eight independent chains, so that the additions need not wait for each other. The order is fixed
+/// Sums in independent chains, so that the additions need not wait for each other. The order is fixed
 /// by the filter alone, hence the same for every cutting of the input.
 double filterBytes(const double *table, const uint8_t *bytes, size_t count)
 {
@@ -46,16 +46,25 @@ double filterSamples(const double *taps, const double *samples, size_t count)
     return ((sums[0] + sums[1]) + (sums[2] + sums[3])) + ((sums[4] + sums[5]) + (sums[6] + sums[7]));
 }
 
+template<typename Value>
+void dropFront(std::vector<Value> &line, size_t count)
+{
+    line.erase(line.begin(), line.begin() + static_cast<std::ptrdiff_t>(count));
+}
+
 } // namespace
 
 /// Each channel has its bytes and its intermediate samples in a line of its own; what a stage no longer needs
 /// is cut off at the front after each piece.
+/// Each channel has its bytes and the samples behind each stage in lines of its own; what a stage no longer
+/// needs is cut off at the front after each piece.
 struct PdmDecimator::State
 {
     struct Channel
     {
         std::vector<uint8_t> bytes;
-        std::vector<double> samples;
+        std::vector<std::vector<double>>
+            lines; ///< in front of each halving, and the last one at the PCM rate
     };
 
     std::shared_ptr<const PdmFilterTables> tables;
@@ -66,13 +75,14 @@ struct PdmDecimator::State
 
     uint64_t wantedFrames() const { return (bytesIn * 8 + ratio / 2) / ratio; }
 
-    /// The idle pattern stands before the first byte, as long as the two stages look back.
+    /// The idle pattern stands before the first byte, as far as the stages look back.
     void prime()
     {
-        const size_t before = tables->lengthBytes / 2 + tables->second.size() / 2 * tables->bytesPerStep;
         for (Channel &channel : channels) {
-            channel.bytes.assign(before, dsdSilence);
-            channel.samples.clear();
+            channel.bytes.assign(tables->lookBackBytes(), dsdSilence);
+            channel.lines.resize(tables->halvings.size() + 1);
+            for (std::vector<double> &line : channel.lines)
+                line.clear();
         }
         bytesIn = framesOut = 0;
     }
@@ -81,31 +91,38 @@ struct PdmDecimator::State
     {
         size_t at = 0;
         for (; at + tables->lengthBytes <= channel.bytes.size(); at += tables->bytesPerStep)
-            channel.samples.push_back(
+            channel.lines.front().push_back(
                 filterBytes(tables->table.data(), channel.bytes.data() + at, tables->lengthBytes));
-        channel.bytes.erase(channel.bytes.begin(), channel.bytes.begin() + static_cast<std::ptrdiff_t>(at));
+        dropFront(channel.bytes, at);
+    }
+
+    void runHalving(Channel &channel, size_t stage) const
+    {
+        const std::vector<double> &filter = tables->halvings[stage];
+        std::vector<double> &line = channel.lines[stage];
+        size_t at = 0;
+        for (; at + filter.size() <= line.size(); at += 2)
+            channel.lines[stage + 1].push_back(filterSamples(filter.data(), line.data() + at, filter.size()));
+        dropFront(line, at);
     }
 
     /// Turns the bytes that stand ready into at most `most` frames.
     void run(std::vector<double> &out, uint64_t most)
     {
-        for (Channel &channel : channels)
+        for (Channel &channel : channels) {
             runFirstStage(channel);
-        const size_t length = std::max<size_t>(1, tables->second.size());
-        const size_t have = channels.front().samples.size();
-        size_t frames = have < length ? 0 : (have - length) / tables->decimation + 1;
-        frames = static_cast<size_t>(std::min<uint64_t>(frames, most));
+            for (size_t stage = 0; stage < tables->halvings.size(); ++stage)
+                runHalving(channel, stage);
+        }
+        const auto frames =
+            static_cast<size_t>(std::min<uint64_t>(channels.front().lines.back().size(), most));
         const size_t start = out.size();
         out.resize(start + frames * channels.size());
         for (size_t c = 0; c < channels.size(); ++c) {
-            std::vector<double> &samples = channels[c].samples;
-            for (size_t frame = 0; frame < frames; ++frame) {
-                const double *from = samples.data() + frame * tables->decimation;
-                out[start + frame * channels.size() + c] =
-                    tables->second.empty() ? *from : filterSamples(tables->second.data(), from, length);
-            }
-            samples.erase(samples.begin(),
-                          samples.begin() + static_cast<std::ptrdiff_t>(frames * tables->decimation));
+            std::vector<double> &line = channels[c].lines.back();
+            for (size_t frame = 0; frame < frames; ++frame)
+                out[start + frame * channels.size() + c] = line[frame];
+            dropFront(line, frames);
         }
         framesOut += frames;
     }

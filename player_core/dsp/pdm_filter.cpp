@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <map>
 #include <mutex>
 #include <tuple>
+#include <utility>
 
 namespace kelp_core {
 
@@ -30,8 +32,13 @@ constexpr std::array<FilterRow, 3> filters{{
 constexpr double widestStopHz = 100000.0;
 /// 20 kHz of 44.1 kHz.
 constexpr double passPart = 20000.0 / 44100.0;
-/// Below this rate a single stage would need a very long filter at the full bit rate.
-constexpr int intermediateHz = 176400;
+
+/// Time of a table look-up in multiplications of a filter, measured. A table that leaves the second-level
+/// cache costs several times that.
+constexpr double lookUpCost = 3.0;
+constexpr double farLookUpCost = 12.0;
+constexpr size_t nearTableBytes = 128;
+constexpr int mostHalvings = 6;
 
 const FilterRow &rowOf(PdmFilter filter)
 {
@@ -53,27 +60,64 @@ std::vector<double> byteTable(const std::vector<double> &taps)
     return table;
 }
 
+/// The specifications of all stages when the first one leaves a rate of pcmRateHz · 2^(stages − 1).
+struct Plan
+{
+    std::vector<LowPassSpec> stages;
+    double cost = 0.0; ///< of a second of one channel, in multiplications
+};
+
+/// Whole bytes on either side of the middle, so that it lies on the border between two bytes.
+size_t firstLengthBytes(const LowPassSpec &spec)
+{
+    return (kaiserLength(spec) + 15) / 16 * 2;
+}
+
+Plan planWith(int halvings, const LowPassSpec &whole, int pcmRateHz)
+{
+    Plan plan;
+    double rateHz = whole.rateHz;
+    for (int left = halvings; left >= 0; --left) {
+        const double outHz = std::ldexp(pcmRateHz, left);
+        LowPassSpec stage = whole;
+        stage.rateHz = rateHz;
+        // What a later stage passes or has not yet stopped must be free of this one's aliases.
+        if (left > 0)
+            stage.stopHz = outHz - whole.stopHz;
+        const size_t bytes = firstLengthBytes(stage);
+        plan.cost += outHz * (plan.stages.empty() ? static_cast<double>(bytes) *
+                                                        (bytes > nearTableBytes ? farLookUpCost : lookUpCost)
+                                                  : static_cast<double>(kaiserLength(stage)));
+        plan.stages.push_back(stage);
+        rateHz = outHz;
+    }
+    return plan;
+}
+
+/// The cheapest split. A single stage would need a filter of thousands of bits for a narrow transition.
+Plan cheapestPlan(const LowPassSpec &whole, int dsdRateHz, int pcmRateHz)
+{
+    Plan best = planWith(0, whole, pcmRateHz);
+    for (int halvings = 1; halvings <= mostHalvings && dsdRateHz / (pcmRateHz << halvings) % 8 == 0 &&
+                           dsdRateHz / (pcmRateHz << halvings) > 0;
+         ++halvings) {
+        Plan plan = planWith(halvings, whole, pcmRateHz);
+        if (plan.cost < best.cost)
+            best = std::move(plan);
+    }
+    return best;
+}
+
 PdmFilterTables makeTables(PdmFilter filter, int dsdRateHz, int pcmRateHz)
 {
-    const LowPassSpec whole = pdmBand(filter, dsdRateHz, pcmRateHz);
+    const Plan plan = cheapestPlan(pdmBand(filter, dsdRateHz, pcmRateHz), dsdRateHz, pcmRateHz);
     PdmFilterTables tables;
-    LowPassSpec first = whole;
-    int firstRateHz = pcmRateHz;
-    while (firstRateHz < intermediateHz && dsdRateHz / (firstRateHz * 2) % 8 == 0) {
-        firstRateHz *= 2;
-        tables.decimation *= 2;
-    }
-    if (tables.decimation > 1) {
-        // What the second stage passes or has not yet stopped must be free of the first one's aliases.
-        first.stopHz = firstRateHz - whole.stopHz;
-        LowPassSpec second = whole;
-        second.rateHz = firstRateHz;
-        tables.second = kaiserLowPass(second, kaiserLength(second) | 1);
-    }
-    tables.bytesPerStep = static_cast<size_t>(dsdRateHz / firstRateHz / 8);
-    // An even number of bytes puts the filter's middle on the border between two of them.
-    tables.lengthBytes = std::max((kaiserLength(first) + 15) / 16 * 2, (tables.bytesPerStep + 1) / 2 * 2);
-    tables.table = byteTable(kaiserLowPass(first, tables.lengthBytes * 8));
+    const size_t halvings = plan.stages.size() - 1;
+    tables.bytesPerStep = static_cast<size_t>(dsdRateHz / (pcmRateHz << halvings) / 8);
+    tables.lengthBytes = firstLengthBytes(plan.stages.front());
+    tables.table = byteTable(kaiserLowPass(plan.stages.front(), tables.lengthBytes * 8));
+    for (size_t i = 1; i <= halvings; ++i)
+        tables.halvings.push_back(kaiserLowPass(plan.stages[i], kaiserLength(plan.stages[i]) | 1));
     return tables;
 }
 
@@ -107,6 +151,17 @@ LowPassSpec pdmBand(PdmFilter filter, int dsdRateHz, int pcmRateHz)
     if (filter == PdmFilter::fast && band.passHz >= passPart * pcmRateHz)
         band.stopHz = pcmRateHz - band.passHz;
     return band;
+}
+
+size_t PdmFilterTables::lookBackBytes() const
+{
+    size_t bytes = lengthBytes / 2;
+    size_t stepBytes = bytesPerStep;
+    for (const std::vector<double> &halving : halvings) {
+        bytes += halving.size() / 2 * stepBytes;
+        stepBytes *= 2;
+    }
+    return bytes;
 }
 
 std::shared_ptr<const PdmFilterTables> pdmFilterTables(PdmFilter filter, int dsdRateHz, int pcmRateHz)
