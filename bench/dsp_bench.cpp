@@ -1,5 +1,5 @@
-// How fast the engine's processing stages are. "x_real_time" is seconds of stereo music per second of one
-// core; "per_core" lines give the baseline, a bare copy of the same samples, to set them in proportion.
+// How fast the engine's processing stages are. "x_real_time" is seconds of stereo music a second of one core;
+// copyBaseline, a bare copy of the samples in the same run, sets them in proportion to the machine.
 
 #include "player_core/dsp/meters.h"
 #include "player_core/dsp/pdm_decimator.h"

@@ -8,6 +8,13 @@
 
 namespace kelp_core {
 
+namespace {
+
+/// +60 dBFS: a float file may hold an infinity, and no line shall.
+constexpr double highestPeak = 1000.0;
+
+} // namespace
+
 void LevelMeter::add(const double *pcm, size_t frames, int channels)
 {
     const auto width = static_cast<size_t>(channels);
@@ -20,7 +27,8 @@ void LevelMeter::add(const double *pcm, size_t frames, int channels)
 
 std::array<double, 2> LevelMeter::take()
 {
-    const std::array<double, 2> levels{decibels(peak_[0]), decibels(peak_[1])};
+    const std::array<double, 2> levels{decibels(std::min(peak_[0], highestPeak)),
+                                       decibels(std::min(peak_[1], highestPeak))};
     peak_ = {0.0, 0.0};
     return levels;
 }

@@ -14,8 +14,7 @@ class LevelMeter
 {
 public:
     void add(const double *pcm, size_t frames, int channels);
-    /// Left and right peak in dBFS, 0.01 dB steps, −120.00 at the least; mono gives the same for both.
-    /// Resets.
+    /// Left and right peak in dBFS, 0.01 dB steps, −120.00 … +60.00; mono gives the same for both. Resets.
     std::array<double, 2> take();
     /// "LVL <left> <right>" with two decimals. Resets.
     std::string line();

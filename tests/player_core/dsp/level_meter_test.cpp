@@ -1,6 +1,8 @@
 #include "player_core/dsp/meters.h"
 
 #include <array>
+#include <cmath>
+#include <limits>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -34,4 +36,7 @@ TEST(LevelMeter, WritesItsLine)
     const std::vector<double> over{1.5, 1e-7};
     meter.add(over.data(), 1, 2);
     EXPECT_EQ(meter.line(), "LVL 3.52 -120.00");
+    const std::vector<double> broken{std::numeric_limits<double>::infinity(), std::nan("")};
+    meter.add(broken.data(), 1, 2);
+    EXPECT_EQ(meter.line(), "LVL 60.00 -120.00");
 }

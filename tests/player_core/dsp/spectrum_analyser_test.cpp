@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <numbers>
 #include <thread>
 #include <vector>
@@ -174,4 +175,17 @@ TEST(SpectrumAnalyser, ManyAreMadeAtOnce)
         thread.join();
     EXPECT_TRUE(fftwPlannerMutex().try_lock());
     fftwPlannerMutex().unlock();
+}
+
+TEST(SpectrumAnalyser, WhatIsNotANumberReadsAsNothing)
+{
+    SpectrumAnalyser analyser(44100);
+    std::vector<double> pcm(8192, std::nan(""));
+    pcm[100] = std::numeric_limits<double>::infinity();
+    analyser.add(pcm.data(), 8192, 1);
+    for (double db : frameOf(analyser).main)
+        EXPECT_EQ(db, -96.0);
+    pcm.assign(8192, 0.0);
+    analyser.add(pcm.data(), 8192, 1);
+    EXPECT_EQ(frameOf(analyser).second, std::vector<double>(64, -96.0));
 }
