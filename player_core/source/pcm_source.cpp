@@ -103,6 +103,9 @@ std::string PcmSource::openDecoder()
         return "the file holds no audio";
     if (std::string refusal = codecRefusal(stream->codecpar->codec_id); !refusal.empty())
         return refusal;
+    // The demuxer counted the samples of such a file before it saw that each takes four bytes.
+    if (stream->codecpar->codec_id == AV_CODEC_ID_PCM_F24LE && stream->duration > 0)
+        stream->duration = av_rescale(stream->duration, 24, 32);
     correctSampleWidth(*stream->codecpar, reader_->file());
     const AVCodec *codec = avcodec_find_decoder(stream->codecpar->codec_id);
     decoder_.reset(codec ? avcodec_alloc_context3(codec) : nullptr);
