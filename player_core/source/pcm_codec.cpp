@@ -1,5 +1,7 @@
 #include "player_core/source/pcm_codec.h"
 
+#include "player_core/source/endian.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -41,12 +43,6 @@ const Codec *findCodec(AVCodecID id)
     const auto found =
         std::find_if(codecs.begin(), codecs.end(), [id](const Codec &c) { return c.id == id; });
     return found == codecs.end() ? nullptr : &*found;
-}
-
-uint32_t littleU32(const uint8_t *bytes)
-{
-    return static_cast<uint32_t>(bytes[0]) | static_cast<uint32_t>(bytes[1]) << 8 |
-           static_cast<uint32_t>(bytes[2]) << 16 | static_cast<uint32_t>(bytes[3]) << 24;
 }
 
 /// What a WavPack stream holds, from the flags of its first block.
