@@ -1,5 +1,6 @@
 #include "player_core/output/pcm_chain.h"
 
+#include <algorithm>
 #include <array>
 
 namespace kelp_core {
@@ -24,7 +25,15 @@ constexpr std::array<StageName, 4> harmlessStages{{{"Hardware PCM card ", Stage:
                                                    {"Null PCM", Stage::null},
                                                    {"File PCM (", Stage::file},
                                                    {"Hooks PCM", Stage::hooks}}};
+// Stages that change samples but neither mix nor scale them.
+constexpr std::array<std::string_view, 6> converterStages{"Plug PCM",
+                                                          "Rate conversion PCM",
+                                                          "Route conversion PCM",
+                                                          "Linear conversion PCM",
+                                                          "Linear Integer <-> Linear Float conversion PCM",
+                                                          "Copy conversion PCM"};
 constexpr std::string_view slavePrefix = "Slave: ";
+constexpr std::string_view plugPrefix = "Plug PCM: ";
 constexpr size_t maxBlockerChars = 60;
 
 /// The harmless stage that a line names, or null.
@@ -36,13 +45,33 @@ const StageName *harmless(std::string_view line)
     return nullptr;
 }
 
+bool converts(std::string_view line)
+{
+    return std::any_of(converterStages.begin(), converterStages.end(),
+                       [line](std::string_view name) { return line.starts_with(name); });
+}
+
+/// Takes what one stage says into account.
+void addStage(PcmChain &chain, std::string_view line)
+{
+    const StageName *stage = harmless(line);
+    if (!stage) {
+        if (chain.blocker.empty())
+            chain.blocker = std::string(line.substr(0, maxBlockerChars));
+        chain.mixes |= !converts(line);
+        return;
+    }
+    chain.hardware |= stage->stage == Stage::hardware;
+    chain.file |= stage->stage == Stage::file;
+    chain.clocked &= stage->stage != Stage::null;
+}
+
 } // namespace
 
 PcmChain parsePcmChain(std::string_view dump)
 {
     PcmChain chain;
     bool first = true;
-    bool ended = false;
     while (!dump.empty()) {
         const size_t end = dump.find('\n');
         std::string_view line = dump.substr(0, end);
@@ -52,20 +81,15 @@ PcmChain parsePcmChain(std::string_view dump)
         else if (!first)
             continue;
         first = false;
-        if (line == "Null PCM")
-            chain.clocked = false;
-        const StageName *stage = harmless(line);
-        if (!stage) {
-            if (chain.blocker.empty())
-                chain.blocker = std::string(line.substr(0, maxBlockerChars));
-            continue;
-        }
-        chain.hardware |= stage->stage == Stage::hardware;
-        chain.file |= stage->stage == Stage::file;
-        ended |= stage->stage == Stage::hardware || stage->stage == Stage::null;
+        addStage(chain, line);
+        // A plug prints the stage that it put in, or its slave, on its own line.
+        if (line.starts_with(plugPrefix))
+            addStage(chain, line.substr(plugPrefix.size()));
     }
-    if (!ended && chain.blocker.empty())
+    if (!chain.hardware && chain.clocked && chain.blocker.empty()) {
         chain.blocker = "a chain without a known end";
+        chain.mixes = true;
+    }
     chain.untouched = chain.blocker.empty();
     return chain;
 }

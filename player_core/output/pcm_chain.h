@@ -12,6 +12,7 @@ struct PcmChain
     bool hardware = false;  ///< it ends at a sound card
     bool clocked = true;    ///< false when it ends at a null device, which takes everything at once
     bool file = false;      ///< a copy goes to a file
+    bool mixes = false;     ///< a stage mixes, scales or is a server: more than a plain converter
     std::string blocker;    ///< the first stage that is not known to be harmless, as ALSA names it
 };
 

@@ -31,7 +31,7 @@ TEST(PcmChain, OnlyKnownHarmlessStagesAreUntouched)
         {"tee", "File PCM (file=a)\n" + setup + "Slave: Hardware PCM card 1 'DAC' device 0 subdevice 0\n",
          true, true, true, ""},
         {"hooks", "Hooks PCM\nSlave: Hardware PCM card 1 'DAC' device 0 subdevice 0\n", true, true, true, ""},
-        {"plug", "Plug PCM: Hardware PCM card 0 'HDA Intel' device 0 subdevice 0\n" + setup, false, false,
+        {"plug", "Plug PCM: Hardware PCM card 0 'HDA Intel' device 0 subdevice 0\n" + setup, false, true,
          true, "Plug PCM: Hardware PCM card 0 'HDA Intel' device 0 subdevice"},
         {"rate", "Rate conversion PCM (48000)\nConverter: libspeex (external)\nSlave: Null PCM\n", false,
          false, false, "Rate conversion PCM (48000)"},
@@ -58,6 +58,16 @@ TEST(PcmChain, OnlyKnownHarmlessStagesAreUntouched)
         EXPECT_EQ(chain.clocked, row.clocked) << row.name;
         EXPECT_EQ(chain.blocker, row.blocker) << row.name;
     }
+}
+
+TEST(PcmChain, ToldApartAreConvertersAndMixers)
+{
+    EXPECT_FALSE(
+        parsePcmChain("Plug PCM: Rate conversion PCM (48000)\nSlave: Hardware PCM card 0 'x'\n").mixes);
+    EXPECT_TRUE(parsePcmChain("Plug PCM: Direct Stream Mixing PCM\n").mixes);
+    EXPECT_TRUE(parsePcmChain("Soft volume PCM\nSlave: Hardware PCM card 0 'x'\n").mixes);
+    EXPECT_FALSE(parsePcmChain("Null PCM\n").mixes);
+    EXPECT_TRUE(parsePcmChain("").mixes) << "what is not known is taken for the worst";
 }
 
 TEST(PcmChain, AFileNameCannotSpeakForTheChain)
