@@ -94,11 +94,22 @@ void AudioLoop::run()
         if (done == Step::wait)
             std::this_thread::sleep_for(idlePoll);
     }
-    if (quit_ && !hurry_.load()) {
-        output_.drain();
-        state_.delay = 0;
-        board_.publish(state_);
+    if (quit_ && !hurry_.load())
+        playOut();
+}
+
+void AudioLoop::playOut()
+{
+    // While the buffer empties, the listener's position still moves; the device's own way of draining is only
+    // for the last moment, or for a device that did not start on so few frames.
+    const auto low = static_cast<int64_t>(2 * chunkFrames_);
+    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load(); publish()) {
+        before = state_.delay;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
+    output_.drain();
+    state_.delay = 0;
+    board_.publish(state_);
 }
 
 void AudioLoop::takeCommands()

@@ -92,6 +92,7 @@ private:
     };
 
     void run();
+    void playOut();
     void takeCommands();
     void apply(const AudioCommand &command);
     Step step();
