@@ -23,7 +23,8 @@ AlsaOutput::AlsaOutput(Parts parts)
     : opened_(std::move(parts.opened))
     , reservation_(std::move(parts.reservation))
     , pcm_(std::move(parts.pcm))
-    , setup_(parts.setup), takesAtOnce_(parts.takesAtOnce)
+    , setup_(parts.setup)
+    , takesAtOnce_(parts.takesAtOnce)
 {
     if (parts.paced)
         clock_.emplace(opened_.wire.frameRateHz, opened_.wire.frameRateHz * bufferTime / 1s);

@@ -35,7 +35,10 @@ SinkFacts factsOf(const pa_sink_info &info)
     const char *format = pa_sample_format_to_string(info.sample_spec.format);
     facts.format = format ? format : "";
     facts.channels = info.sample_spec.channels;
-    const double db = pa_sw_volume_to_dB(pa_cvolume_max(&info.volume));
+    const pa_volume_t volume = pa_cvolume_max(&info.volume);
+    facts.volumePercent =
+        static_cast<int>((static_cast<uint64_t>(volume) * 100 + PA_VOLUME_NORM / 2) / PA_VOLUME_NORM);
+    const double db = pa_sw_volume_to_dB(volume);
     facts.volumeDb = db < silenceDb ? silenceDb : db;
     facts.muted = info.mute != 0;
     const char *card = pa_proplist_gets(info.proplist, "alsa.card");

@@ -22,6 +22,7 @@ struct SinkFacts
     int rateHz = 0;
     std::string format; ///< as the server spells it: "s16le"
     int channels = 0;
+    int volumePercent = 100;
     double volumeDb = 0.0; ///< loudest channel; −200 for silence
     bool muted = false;
     int card = -1; ///< of ALSA, −1 when it is none

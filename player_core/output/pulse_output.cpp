@@ -73,7 +73,8 @@ PulseOutput::PulseOutput(std::unique_ptr<PulseConnection> connection, OpenedOutp
 bool PulseOutput::carries(const WireFormat &wire)
 {
     const pa_sample_spec spec = specOf(wire);
-    return wire.carrier == Carrier::pcm && wire.channels <= static_cast<int>(PA_CHANNELS_MAX) && pa_sample_spec_valid(&spec);
+    return wire.carrier == Carrier::pcm && wire.channels <= static_cast<int>(PA_CHANNELS_MAX) &&
+           pa_sample_spec_valid(&spec);
 }
 
 std::unique_ptr<PulseOutput> PulseOutput::open(std::unique_ptr<PulseConnection> connection,
