@@ -16,4 +16,22 @@ int printAnswer(const ProbeAnswer &answer)
     return answer.code;
 }
 
+std::optional<ProbeAnswer> answerFrom(std::span<const Probe> probes, const std::vector<std::string> &args)
+{
+    for (const Probe &probe : probes) {
+        if (!args.empty() && probe.flag == args.front())
+            return probe.answer(args);
+    }
+    return std::nullopt;
+}
+
+std::string operandOf(const std::vector<std::string> &args, std::string_view flag)
+{
+    for (size_t i = 0; i + 1 < args.size(); ++i) {
+        if (args[i] == flag)
+            return args[i + 1];
+    }
+    return {};
+}
+
 } // namespace kelp_core

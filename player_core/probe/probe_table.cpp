@@ -1,17 +1,10 @@
 #include "player_core/probe/probe_table.h"
 
-#include <algorithm>
-#include <string_view>
+#include "player_core/probe/device_answers.h"
 
 namespace kelp_core {
 
 namespace {
-
-struct Probe
-{
-    std::string_view flag;
-    ProbeAnswer (*answer)(const std::vector<std::string> &args);
-};
 
 /// A question that a host may ask and that this engine has no answer for yet.
 ProbeAnswer notYet(const std::vector<std::string> &args)
@@ -28,13 +21,8 @@ constexpr Probe probes[] = {
 
 std::optional<ProbeAnswer> answerProbe(const std::vector<std::string> &args)
 {
-    if (args.empty())
-        return std::nullopt;
-    const auto *probe = std::find_if(std::begin(probes), std::end(probes),
-                                     [&](const Probe &p) { return p.flag == args.front(); });
-    if (probe == std::end(probes))
-        return std::nullopt;
-    return probe->answer(args);
+    const auto answer = answerDeviceProbe(args);
+    return answer ? answer : answerFrom(probes, args);
 }
 
 ProbeAnswer unknownProbe(const std::vector<std::string> &args)

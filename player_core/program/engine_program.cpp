@@ -1,9 +1,13 @@
 // KelpPlayerEngine: the engine as a program of its own.
 //
-// Everything is in the library next to us.
+// Questions about devices are answered from here: hosts ask them while they start, and FFmpeg's libraries
+// take longer to load than a list of devices takes to make. Everything else is in the library next to us.
+
+#include "player_core/probe/device_answers.h"
 
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #include <climits>
 #include <cstdlib>
@@ -44,6 +48,10 @@ void *openLibrary(std::string &error)
 
 int main(int argc, char **argv)
 {
+    const std::vector<std::string> args(argv + (argc > 0 ? 1 : 0), argv + argc);
+    if (const auto answer = kelp_core::answerDeviceProbe(args))
+        return kelp_core::printAnswer(*answer);
+
     std::string error;
     void *library = openLibrary(error);
     void *entry = library ? ::dlsym(library, "kelp_player_main") : nullptr;
