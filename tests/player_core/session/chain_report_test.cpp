@@ -36,7 +36,7 @@ ChainFacts cleanFacts()
     return f;
 }
 
-struct Case
+struct ChainCase
 {
     const char *name;
     std::function<void(ChainFacts &)> change;
@@ -44,7 +44,7 @@ struct Case
     const char *bitPerfect;
 };
 
-const Case cases[] = {
+const ChainCase cases[] = {
     {"clean", [](ChainFacts &) {}, "clean (", "YES: "},
     {"not read back", [](ChainFacts &f) { f.output.readBack = {}; }, "unknown (nothing of ours",
      "not known: "},
@@ -94,7 +94,7 @@ const Case cases[] = {
 
 TEST(ChainReportTest, NamesTheFirstStageThatChangesBits)
 {
-    for (const Case &c : cases) {
+    for (const ChainCase &c : cases) {
         ChainFacts facts = cleanFacts();
         c.change(facts);
         EXPECT_THAT(chainVerdict(facts), StartsWith(c.chain)) << c.name;

@@ -21,13 +21,13 @@ TEST(ControlLineTest, PathsAreTheRestOfTheLineAsItStands)
     EXPECT_EQ(parseControlLine("load-iso 2 /d.iso").kind, ControlKind::loadIso);
 }
 
-struct Case
+struct ControlCase
 {
     const char *line;
     ControlKind kind;
 };
 
-class ControlKinds : public testing::TestWithParam<Case>
+class ControlKinds : public testing::TestWithParam<ControlCase>
 {
 };
 
@@ -40,19 +40,20 @@ TEST_P(ControlKinds, AreTold)
 
 INSTANTIATE_TEST_SUITE_P(
     Lines, ControlKinds,
-    testing::Values(Case{"stop", ControlKind::stop}, Case{"pause", ControlKind::pause},
-                    Case{"resume", ControlKind::resume}, Case{"play", ControlKind::resume},
-                    Case{"report", ControlKind::report}, Case{"vol 0", ControlKind::volume},
-                    Case{"vol 100", ControlKind::volume}, Case{"spectrum on", ControlKind::spectrum},
-                    Case{"scope off", ControlKind::scope}, Case{"", ControlKind::empty},
-                    Case{"\r\n", ControlKind::empty}, Case{"load", ControlKind::malformed},
-                    Case{"load ", ControlKind::malformed}, Case{"loadat x /a", ControlKind::malformed},
-                    Case{"loadat 1", ControlKind::malformed}, Case{"loadat -1 /a", ControlKind::malformed},
-                    Case{"load-cue /a.cue", ControlKind::malformed}, Case{"vol", ControlKind::malformed},
-                    Case{"vol 101", ControlKind::malformed}, Case{"vol 1 2", ControlKind::malformed},
-                    Case{"vol 3.5", ControlKind::malformed}, Case{"spectrum", ControlKind::malformed},
-                    Case{"verify", ControlKind::notSupported}, Case{"fx eq on", ControlKind::notSupported},
-                    Case{"Stop", ControlKind::notSupported}, Case{"stopp", ControlKind::notSupported}));
+    testing::Values(
+        ControlCase{"stop", ControlKind::stop}, ControlCase{"pause", ControlKind::pause},
+        ControlCase{"resume", ControlKind::resume}, ControlCase{"play", ControlKind::resume},
+        ControlCase{"report", ControlKind::report}, ControlCase{"vol 0", ControlKind::volume},
+        ControlCase{"vol 100", ControlKind::volume}, ControlCase{"spectrum on", ControlKind::spectrum},
+        ControlCase{"scope off", ControlKind::scope}, ControlCase{"", ControlKind::empty},
+        ControlCase{"\r\n", ControlKind::empty}, ControlCase{"load", ControlKind::malformed},
+        ControlCase{"load ", ControlKind::malformed}, ControlCase{"loadat x /a", ControlKind::malformed},
+        ControlCase{"loadat 1", ControlKind::malformed}, ControlCase{"loadat -1 /a", ControlKind::malformed},
+        ControlCase{"load-cue /a.cue", ControlKind::malformed}, ControlCase{"vol", ControlKind::malformed},
+        ControlCase{"vol 101", ControlKind::malformed}, ControlCase{"vol 1 2", ControlKind::malformed},
+        ControlCase{"vol 3.5", ControlKind::malformed}, ControlCase{"spectrum", ControlKind::malformed},
+        ControlCase{"verify", ControlKind::notSupported}, ControlCase{"fx eq on", ControlKind::notSupported},
+        ControlCase{"Stop", ControlKind::notSupported}, ControlCase{"stopp", ControlKind::notSupported}));
 
 TEST(ControlLineTest, OnlyAudibleWishesAreMissed)
 {

@@ -218,7 +218,7 @@ void FakeWorld::start(const std::vector<std::string> &args)
         if (command.kind == CommandKind::session) {
             LineWriter lines(pipe_[1], {});
             Session session(command.options, services(), lines);
-            code = session.run({-1, &FakeWorld::readQueue, this});
+            code = session.run({-1, &FakeWorld::readQueue, queue_});
         }
         ::close(std::exchange(pipe_[1], -1));
         const std::lock_guard lock(mutex_);
@@ -227,29 +227,38 @@ void FakeWorld::start(const std::vector<std::string> &args)
     });
 }
 
+FakeWorld::Queue *FakeWorld::newQueue()
+{
+    static std::mutex mutex;
+    static auto *all = new std::vector<std::unique_ptr<Queue>>; // not destroyed at exit either
+    const std::lock_guard lock(mutex);
+    all->push_back(std::make_unique<Queue>());
+    return all->back().get();
+}
+
 void FakeWorld::send(const std::string &line)
 {
-    const std::lock_guard lock(mutex_);
-    queue_.push_back(line);
-    changed_.notify_all();
+    const std::lock_guard lock(queue_->mutex);
+    queue_->lines.push_back(line);
+    queue_->changed.notify_all();
 }
 
 void FakeWorld::closeQueue()
 {
-    const std::lock_guard lock(mutex_);
-    queueClosed_ = true;
-    changed_.notify_all();
+    const std::lock_guard lock(queue_->mutex);
+    queue_->closed = true;
+    queue_->changed.notify_all();
 }
 
-int FakeWorld::readQueue(void *world, char *buffer, int size)
+int FakeWorld::readQueue(void *address, char *buffer, int size)
 {
-    auto *self = static_cast<FakeWorld *>(world);
-    std::unique_lock lock(self->mutex_);
-    self->changed_.wait(lock, [self] { return self->queueClosed_ || !self->queue_.empty(); });
-    if (self->queue_.empty())
+    auto *queue = static_cast<Queue *>(address);
+    std::unique_lock lock(queue->mutex);
+    queue->changed.wait(lock, [queue] { return queue->closed || !queue->lines.empty(); });
+    if (queue->lines.empty())
         return 0;
-    const std::string line = self->queue_.front();
-    self->queue_.pop_front();
+    const std::string line = queue->lines.front();
+    queue->lines.pop_front();
     if (line.size() >= static_cast<size_t>(size))
         return -1;
     std::memcpy(buffer, line.c_str(), line.size() + 1);

@@ -72,13 +72,22 @@ public:
     std::vector<int16_t> written16();
 
 private:
-    static int readQueue(void *world, char *buffer, int size);
+    /// A host's queue. An engine that ended by itself may still wait in it, so it is never destroyed, only
+    /// closed.
+    struct Queue
+    {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::deque<std::string> lines; // guarded by mutex
+        bool closed = false;           // guarded by mutex
+    };
+    static Queue *newQueue();
+    static int readQueue(void *queue, char *buffer, int size);
     void readLines();
 
+    Queue *queue_ = newQueue();
     std::mutex mutex_;
     std::condition_variable changed_;
-    std::deque<std::string> queue_;
-    bool queueClosed_ = false;
     std::vector<std::string> lines_;
     size_t waited_ = 0; ///< waitLine looks from here on
     std::optional<int> code_;

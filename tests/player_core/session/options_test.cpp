@@ -90,13 +90,13 @@ TEST(OptionsTest, DefaultsAreThoseOfAnUntouchedHost)
     EXPECT_FALSE(o.staysUp());
 }
 
-struct Case
+struct FlagCase
 {
     std::vector<std::string> args;
     size_t warnings;
 };
 
-class NeutralOrMissing : public testing::TestWithParam<Case>
+class NeutralOrMissing : public testing::TestWithParam<FlagCase>
 {
 };
 
@@ -111,15 +111,17 @@ TEST_P(NeutralOrMissing, WarnsOnlyWhenItWouldBeHeard)
 
 INSTANTIATE_TEST_SUITE_P(
     Flags, NeutralOrMissing,
-    testing::Values(Case{{"-mode", "standard"}, 0}, Case{{"-mode", "btl", "-devs", "a;b"}, 1},
-                    Case{{"-mode", "crossover", "-devs", "a;b", "-xo", "2000"}, 1},
-                    Case{{"-rig", "direct"}, 0}, Case{{"-rig", "bs775"}, 1}, Case{{"-dsp-plugins-on"}, 1},
-                    Case{{"-prefetch", "on"}, 0}, Case{{"-peak-guard", "on"}, 1},
-                    Case{{"-peak-guard", "off"}, 0}, Case{{"-denoise", "strong", "-keep-harmonics", "on"}, 1},
-                    Case{{"-replaygain", "album"}, 1}, Case{{"-speed", "1.00", "-pitch-lock", "on"}, 0},
-                    Case{{"-speed", "1.25", "-pitch-lock", "on"}, 1},
-                    Case{{"-pcm2dsd", "-pcm2dsd-target", "2822400", "-pcm2dsd-taps", "2048"}, 1},
-                    Case{{"-ext-decoder", "/x.so"}, 1}, Case{{"-dop", "asio"}, 1}));
+    testing::Values(FlagCase{{"-mode", "standard"}, 0}, FlagCase{{"-mode", "btl", "-devs", "a;b"}, 1},
+                    FlagCase{{"-mode", "crossover", "-devs", "a;b", "-xo", "2000"}, 1},
+                    FlagCase{{"-rig", "direct"}, 0}, FlagCase{{"-rig", "bs775"}, 1},
+                    FlagCase{{"-dsp-plugins-on"}, 1}, FlagCase{{"-prefetch", "on"}, 0},
+                    FlagCase{{"-peak-guard", "on"}, 1}, FlagCase{{"-peak-guard", "off"}, 0},
+                    FlagCase{{"-denoise", "strong", "-keep-harmonics", "on"}, 1},
+                    FlagCase{{"-replaygain", "album"}, 1},
+                    FlagCase{{"-speed", "1.00", "-pitch-lock", "on"}, 0},
+                    FlagCase{{"-speed", "1.25", "-pitch-lock", "on"}, 1},
+                    FlagCase{{"-pcm2dsd", "-pcm2dsd-target", "2822400", "-pcm2dsd-taps", "2048"}, 1},
+                    FlagCase{{"-ext-decoder", "/x.so"}, 1}, FlagCase{{"-dop", "asio"}, 1}));
 
 class BadCommand : public testing::TestWithParam<std::vector<std::string>>
 {
