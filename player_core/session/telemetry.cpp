@@ -231,12 +231,23 @@ void Telemetry::sayProgress()
         return;
     const double seconds = positionSec(state);
     lines_.frame(progressLine(seconds, track_->totalSec));
-    for (const Segment &segment : track_->segments) {
-        if (seconds >= segment.startSec && seconds < segment.endSec && segment.number != segment_) {
-            segment_ = segment.number;
-            lines_.say(segmentLine(segment.startSec, segment.endSec, segment.number));
-        }
-    }
+    saySegment(seconds);
+}
+
+void Telemetry::saySegment(double seconds)
+{
+    const std::vector<SourceSegment> &all = track_->segments;
+    const double perSecond = static_cast<double>(track_->facts.format.framesPerSecond());
+    const auto frame = static_cast<int64_t>(seconds * perSecond);
+    const auto next = std::upper_bound(all.begin(), all.end(), frame,
+                                       [](int64_t f, const SourceSegment &s) { return f < s.startFrame; });
+    if (next == all.begin() || std::prev(next)->number == segment_)
+        return;
+    const SourceSegment &now = *std::prev(next);
+    segment_ = now.number;
+    const double end =
+        next == all.end() ? track_->totalSec : static_cast<double>(next->startFrame) / perSecond;
+    lines_.say(segmentLine(static_cast<double>(now.startFrame) / perSecond, end, now.number));
 }
 
 void Telemetry::takeSamples()

@@ -62,6 +62,7 @@ private:
     void saySpectrumHead();
     void sayWaveHead();
     void sayProgress();
+    void saySegment(double seconds);
     void sayLatency();
     double positionSec(const PlaybackState &state) const;
 
