@@ -103,7 +103,8 @@ void AudioLoop::playOut()
     // While the buffer empties, the listener's position still moves; the device's own way of draining is only
     // for the last moment, or for a device that did not start on so few frames.
     const auto low = static_cast<int64_t>(2 * chunkFrames_);
-    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load(); publish()) {
+    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load();
+         publish()) {
         before = state_.delay;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }

@@ -28,8 +28,6 @@ struct SessionServices
 {
     std::function<OpenedSource(const SourceRequest &)> openSource;
     std::function<OutputOutcome(const OutputRequest &)> openOutput;
-    /// The parts of a sheet that is played as a whole.
-    std::function<std::vector<Segment>(const std::string &cuePath)> segments;
 };
 
 /// How kelp_player_main ends.

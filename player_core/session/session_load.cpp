@@ -117,8 +117,7 @@ DeckTrack Session::enter(const LoadRequest &request, std::unique_ptr<Source> sou
     info.startSec = request.startSec;
     info.totalSec = totalSeconds(info.facts);
     info.fromCommandLine = request.fromCommandLine;
-    if (!request.source.cuePath.empty() && request.source.track < 1 && services_.segments)
-        info.segments = services_.segments(request.source.cuePath);
+    info.segments = source->segments();
     DeckTrack track;
     const StreamFormat format = info.facts.format;
     track.startFrame = std::llround(request.startSec * static_cast<double>(format.framesPerSecond()));

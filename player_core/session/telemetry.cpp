@@ -15,7 +15,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+// Shorter while a start or an end is on its way to the ear.
 constexpr auto tickPeriod = 25ms;
+constexpr auto shortTick = 5ms;
 constexpr auto levelPeriod = 50ms;
 constexpr auto progressPeriod = 100ms;
 constexpr auto latencyPeriod = 500ms;
@@ -45,6 +47,8 @@ void Telemetry::attach(AudioLoop &loop, const Output &output)
 {
     const std::lock_guard lock(mutex_);
     const OpenedOutput &opened = output.opened();
+    attached_ = true;
+    wake_.notify_one();
     loop_ = &loop;
     output_ = &output;
     dsd_ = opened.wire.carrier != Carrier::pcm;
@@ -114,10 +118,10 @@ void Telemetry::run()
 {
     pthread_setname_np(pthread_self(), "kelp-telemetry");
     std::unique_lock lock(mutex_);
-    auto next = Clock::now();
     while (!ending_) {
-        next = std::max(next + tickPeriod, Clock::now());
-        wake_.wait_until(lock, next, [this] { return ending_; });
+        const bool expecting = loop_ && (!track_ || !pending_.empty());
+        wake_.wait_for(lock, expecting ? shortTick : tickPeriod, [this] { return ending_ || attached_; });
+        attached_ = false;
         if (!ending_ && loop_)
             tick(Clock::now());
     }
@@ -227,12 +231,23 @@ void Telemetry::sayProgress()
         return;
     const double seconds = positionSec(state);
     lines_.frame(progressLine(seconds, track_->totalSec));
-    for (const Segment &segment : track_->segments) {
-        if (seconds >= segment.startSec && seconds < segment.endSec && segment.number != segment_) {
-            segment_ = segment.number;
-            lines_.say(segmentLine(segment.startSec, segment.endSec, segment.number));
-        }
-    }
+    saySegment(seconds);
+}
+
+void Telemetry::saySegment(double seconds)
+{
+    const std::vector<SourceSegment> &all = track_->segments;
+    const double perSecond = static_cast<double>(track_->facts.format.framesPerSecond());
+    const auto frame = static_cast<int64_t>(seconds * perSecond);
+    const auto next = std::upper_bound(all.begin(), all.end(), frame,
+                                       [](int64_t f, const SourceSegment &s) { return f < s.startFrame; });
+    if (next == all.begin() || std::prev(next)->number == segment_)
+        return;
+    const SourceSegment &now = *std::prev(next);
+    segment_ = now.number;
+    const double end =
+        next == all.end() ? track_->totalSec : static_cast<double>(next->startFrame) / perSecond;
+    lines_.say(segmentLine(static_cast<double>(now.startFrame) / perSecond, end, now.number));
 }
 
 void Telemetry::takeSamples()

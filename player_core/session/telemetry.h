@@ -28,8 +28,8 @@ struct HeardPosition
 /// Tells the host what is heard: positions, levels, spectrum, scope, and the start and end of tracks at the
 /// moment when they reach the converter, which is later than when they were written.
 ///
-/// A thread of its own looks at the audio thread's events, board and taps forty times a second, writes
-/// lines, and posts what the session must decide on.
+/// A thread of its own looks at the audio thread's events, board and taps forty times a second or more often,
+/// writes lines, and posts what the session must decide on.
 class Telemetry
 {
 public:
@@ -62,6 +62,7 @@ private:
     void saySpectrumHead();
     void sayWaveHead();
     void sayProgress();
+    void saySegment(double seconds);
     void sayLatency();
     double positionSec(const PlaybackState &state) const;
 
@@ -72,6 +73,7 @@ private:
     std::mutex mutex_; // guards all that follows but the thread
     std::condition_variable wake_;
     bool ending_ = false;
+    bool attached_ = false; ///< a moment ago: look at once
     AudioLoop *loop_ = nullptr;
     const Output *output_ = nullptr;
     bool dsd_ = false;

@@ -5,6 +5,7 @@
 #include "player_core/source/pcm_codec.h"
 #include "player_core/source/pcm_convert.h"
 #include "player_core/source/read_failure.h"
+#include "player_core/source/wav_head.h"
 
 #include <algorithm>
 
@@ -68,7 +69,7 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
     if (!frame_ || !packet_)
         return "cannot open: not enough memory";
     std::string error;
-    AvReader::Options options{kind.demuxer, request.cancelled};
+    AvReader::Options options{kind.demuxer, kind.options, request.cancelled};
     reader_ = AvReader::open(path, options, error);
     if (!reader_)
         return error;
@@ -92,7 +93,7 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
 std::string PcmSource::openReader()
 {
     std::string error;
-    reader_ = AvReader::open(path_, {kind_.demuxer, nullptr}, error);
+    reader_ = AvReader::open(path_, {kind_.demuxer, kind_.options, nullptr}, error);
     return error;
 }
 
@@ -126,6 +127,12 @@ std::string PcmSource::openDecoder()
 std::string PcmSource::measure(const SourceRequest &request)
 {
     const AVStream *stream = reader_->audio();
+    const auto head = readWavHead(reader_->file());
+    const bool plain = av_get_bits_per_sample(stream->codecpar->codec_id) > 0;
+    if (plain && head && head->dataBytes > 0 && head->blockAlign > 0) {
+        facts_.totalFrames = head->dataBytes / head->blockAlign;
+        return {};
+    }
     const bool stated = reader_->context()->duration_estimation_method == AVFMT_DURATION_FROM_STREAM &&
                         stream->duration > 0 && stream->codecpar->codec_id != AV_CODEC_ID_DTS;
     if (!stated)
