@@ -81,14 +81,16 @@ void AudioLoop::finish()
 void AudioLoop::run()
 {
     pthread_setname_np(pthread_self(), "kelp-audio");
-    raisePriority();
+    // At a device without a clock we would run at full speed, and must not push everybody else aside.
+    if (opened_.clocked)
+        raisePriority();
     while (true) {
         takeCommands();
         if (quit_ || hurry_.load(std::memory_order_relaxed))
             break;
         const Step done = step();
         if (done == Step::gone) {
-            event(AudioEventKind::deviceGone, 0, nullptr, 0);
+            event(AudioEventKind::deviceGone, 0, 0);
             break;
         }
         if (done == Step::wait)
@@ -96,6 +98,7 @@ void AudioLoop::run()
     }
     if (quit_ && !hurry_.load())
         playOut();
+    left_.store(true);
 }
 
 void AudioLoop::playOut()
@@ -177,15 +180,15 @@ void AudioLoop::finishSwitch()
 void AudioLoop::release(Deck *&deck)
 {
     if (deck)
-        event(AudioEventKind::deckFree, 0, deck, 0);
+        event(AudioEventKind::deckFree, deck->number(), 0);
     deck = nullptr;
 }
 
-void AudioLoop::event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames)
+void AudioLoop::event(AudioEventKind kind, uint32_t serial, int64_t frames)
 {
     // Room for 1,024 events is more than a telemetry tick can bring; a lost one would hang a track's end, so
     // rather wait.
-    while (!events_.push({kind, serial, deck, state_.written, frames}) && !hurry_.load())
+    while (!events_.push({kind, serial, state_.written, frames}) && !hurry_.load())
         std::this_thread::sleep_for(idlePoll);
 }
 
@@ -221,7 +224,7 @@ AudioLoop::Step AudioLoop::playMusic()
 void AudioLoop::noteStart()
 {
     while (const auto start = current_->takeTrackStart()) {
-        event(AudioEventKind::trackStarted, start->serial, current_, state_.trackFrames);
+        event(AudioEventKind::trackStarted, start->serial, state_.trackFrames);
         state_.serial = start->serial;
         state_.trackFrames = 0;
         state_.trackWrittenAt = state_.written;
@@ -240,7 +243,7 @@ void AudioLoop::toNextDeck()
     sounding_ = false;
     if (current_)
         return;
-    event(AudioEventKind::chainEnded, state_.serial, nullptr, state_.trackFrames);
+    event(AudioEventKind::chainEnded, state_.serial, state_.trackFrames);
     quit_ = setup_.drainAtEnd;
 }
 

@@ -43,7 +43,7 @@ Telemetry::~Telemetry()
     thread_.join();
 }
 
-void Telemetry::attach(AudioLoop &loop, const Output &output)
+void Telemetry::attach(AudioLoop &loop, const Output &output, uint32_t opening)
 {
     const std::lock_guard lock(mutex_);
     const OpenedOutput &opened = output.opened();
@@ -51,6 +51,7 @@ void Telemetry::attach(AudioLoop &loop, const Output &output)
     wake_.notify_one();
     loop_ = &loop;
     output_ = &output;
+    opening_ = opening;
     dsd_ = opened.wire.carrier != Carrier::pcm;
     frameRateHz_ = std::max(1, opened.wire.frameRateHz);
     pending_.clear();
@@ -156,9 +157,9 @@ void Telemetry::takeEvents()
     AudioEvent event{};
     while (loop_->events().pop(event)) {
         if (event.kind == AudioEventKind::deckFree)
-            mailbox_.post({.kind = MessageKind::deckFree, .text = {}, .deck = event.deck});
+            mailbox_.post({.kind = MessageKind::deckFree, .text = {}, .serial = event.serial});
         else if (event.kind == AudioEventKind::deviceGone)
-            mailbox_.post({.kind = MessageKind::deviceGone, .text = output_->message()});
+            mailbox_.post({.kind = MessageKind::deviceGone, .text = output_->message(), .serial = opening_});
         else
             pending_.push_back(event);
     }
@@ -296,11 +297,10 @@ void Telemetry::sayLevels()
 
 void Telemetry::saySpectrumHead()
 {
-    if (dsd_ || !spectrumOn_) {
-        spectrum_.reset();
-        lines_.say("SPC none");
+    if (dsd_)
+        return lines_.say("SPC none");
+    if (!spectrumOn_)
         return;
-    }
     if (!spectrum_)
         spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_);
     lines_.say("SPC cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(SpectrumAnalyser::bands));
@@ -309,11 +309,10 @@ void Telemetry::saySpectrumHead()
 
 void Telemetry::sayWaveHead()
 {
-    if (dsd_ || !scopeOn_) {
-        scope_.reset();
-        lines_.say("WVF none");
+    if (dsd_)
+        return lines_.say("WVF none");
+    if (!scopeOn_)
         return;
-    }
     if (!scope_)
         scope_ = std::make_unique<WaveformBuckets>(frameRateHz_);
     lines_.say("WVF cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(WaveformBuckets::buckets));

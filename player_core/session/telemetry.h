@@ -39,7 +39,8 @@ public:
     Telemetry &operator=(const Telemetry &) = delete;
 
     // Session thread.
-    void attach(AudioLoop &loop, const Output &output);
+    /// opening: the number that a message on the device's end carries.
+    void attach(AudioLoop &loop, const Output &output, uint32_t opening);
     /// Both may be destroyed afterwards; what was not heard yet is forgotten.
     void detach();
     /// The listener has chosen this track: nothing of an earlier one is told any more.
@@ -76,6 +77,7 @@ private:
     bool attached_ = false; ///< a moment ago: look at once
     AudioLoop *loop_ = nullptr;
     const Output *output_ = nullptr;
+    uint32_t opening_ = 0;
     bool dsd_ = false;
     int frameRateHz_ = 0;
     std::deque<AudioEvent> pending_; ///< not heard yet
