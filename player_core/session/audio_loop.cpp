@@ -15,6 +15,8 @@ namespace {
 constexpr auto deviceStuckAfter = std::chrono::seconds(10);
 constexpr auto idlePoll = std::chrono::milliseconds(2);
 constexpr double tapSec = 0.5;
+/// While nothing plays so little silence is kept in hand, so that the next track is heard at once.
+constexpr double idleFillSec = 0.04;
 
 /// A tenth of a second has ten chunks of this: short enough for quick answers, long enough to cost nothing.
 size_t chunkFor(const WireFormat &wire)
@@ -160,6 +162,10 @@ void AudioLoop::beginSwitch(Deck *deck)
     // DSD cannot be faded; and what is silent already needs no fade.
     const bool silent = !current_ || (paused_ && ramp_.settled());
     paused_ = false;
+    // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running on
+    // little: stopping it could make a converter click.
+    if (silent && opened_.mixer && state_.written > 0)
+        output_.drop();
     if (isDsd() || silent)
         return finishSwitch();
     ramp_.setTarget(0.0);
@@ -361,6 +367,9 @@ AudioLoop::Step AudioLoop::starve()
 AudioLoop::Step AudioLoop::silence()
 {
     const size_t frames = chunkFrames_;
+    if (opened_.clocked && !opened_.mixer &&
+        output_.delayFrames() > static_cast<int64_t>(idleFillSec * wire_.frameRateHz))
+        return Step::wait;
     if (!opened_.clocked) {
         const auto now = std::chrono::steady_clock::now();
         if (now < silenceUntil_)
