@@ -94,6 +94,27 @@ TEST(InProcRunnerEdges, DestructionLeavesAHangingEngineToItselfAndRestoresTheDes
     EXPECT_EQ(kelp::InprocCtlQueue::aliveCount(), queues);
 }
 
+TEST(InProcRunnerEdges, ANewSessionRunsBesideAnEngineThatWasLeftToItself)
+{
+    const ScratchDirectory scratch;
+    const auto before = StandardDescriptors::now();
+    {
+        Pieces hanging;
+        InProcRunner runner(testEngine(), quickOptions());
+        ASSERT_EQ(runner.start(engineArgs("hang", scratch.file("release")), hanging.sink()), 0);
+        ASSERT_TRUE(eventually([&] { return hanging.contains("HANGING\n"); }));
+    }
+    Pieces pieces;
+    InProcRunner runner(testEngine());
+    ASSERT_EQ(runner.start(engineArgs("echo"), pieces.sink()), 0);
+    EXPECT_TRUE(runner.sendLine("load a"));
+    EXPECT_EQ(runner.stop(10000), 3);
+    EXPECT_TRUE(pieces.contains("[echo] load a\n"));
+    EXPECT_EQ(StandardDescriptors::now(), before);
+    scratch.touch("release");
+    EXPECT_TRUE(eventually([] { return threads() <= idleThreads; }));
+}
+
 TEST(InProcRunnerEdges, DestructionStopsAnEngineThatListens)
 {
     const auto before = StandardDescriptors::now();
