@@ -32,8 +32,7 @@ void resetDeviceAfterKill(const QString &playerBin, const QString &reason, const
         return;
     if (finished && process.error() != QProcess::FailedToStart)
         log(translated(QT_TRANSLATE_NOOP("DeviceReset", "%1 ⇒ -reset-device rc=%2 (设备已清)"))
-                .arg(reason)
-                .arg(process.exitCode()),
+                .arg(reason, QString::number(process.exitCode())),
             false);
     else
         log(translated(QT_TRANSLATE_NOOP("DeviceReset", "设备复位 (-reset-device) 超时：%1")).arg(reason),

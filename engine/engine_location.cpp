@@ -43,6 +43,12 @@ EngineLocation locateEngine(const EngineLocationFacts &facts)
     return {};
 }
 
+bool isUsableEngineFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.size() > 0;
+}
+
 EngineLocationFacts engineLocationFacts()
 {
     return {qEnvironmentVariable("KELP_PLAYER_BIN"), QCoreApplication::applicationDirPath(),
@@ -52,8 +58,5 @@ EngineLocationFacts engineLocationFacts()
 #else
             QString(),
 #endif
-            [](const QString &path) {
-                const QFileInfo info(path);
-                return info.isFile() && info.size() > 0;
-            }};
+            isUsableEngineFile};
 }

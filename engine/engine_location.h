@@ -25,5 +25,8 @@ struct EngineLocation
 /// The first usable candidate: the environment's, the one beside the program, the builds of a source tree.
 EngineLocation locateEngine(const EngineLocationFacts &facts);
 
+/// Whether path names a regular file that is not empty.
+bool isUsableEngineFile(const QString &path);
+
 /// The facts of this process, with a test on the real file system. Needs the application object.
 EngineLocationFacts engineLocationFacts();

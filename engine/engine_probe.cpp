@@ -122,7 +122,9 @@ void logResult(int rc, const QByteArray &output, const ProbeCommand &command, co
     if (!log)
         return;
     if (qEnvironmentVariableIsSet("KELP_GUI_PROBE_TRACE"))
-        log(u"[probe] %1 rc=%2 bytes=%3"_s.arg(command.name).arg(rc).arg(output.size()), false);
+        log(u"[probe] %1 rc=%2 bytes=%3"_s.arg(command.name, QString::number(rc),
+                                               QString::number(output.size())),
+            false);
     if (rc != 0 && output.isEmpty())
         log(translated(QT_TRANSLATE_NOOP("EngineProbe", "探测返回非零（%1）：%2")).arg(rc).arg(command.name),
             true);

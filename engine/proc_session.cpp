@@ -10,6 +10,7 @@ namespace {
 
 constexpr int startWaitMs = 3000;
 constexpr int writeWaitMs = 200;
+constexpr int killWaitMs = 2000;
 
 } // namespace
 
@@ -36,6 +37,10 @@ ProcSession::~ProcSession()
         return;
     // The end that comes with the object's own is nobody's news any more.
     m_process->disconnect();
+    if (m_process->state() != QProcess::NotRunning) {
+        m_process->kill();
+        m_process->waitForFinished(killWaitMs);
+    }
     delete m_process;
 }
 
