@@ -12,8 +12,8 @@ AudioLoop::Step AudioLoop::playMusic()
     noteStart();
     if (!current_->finished())
         return isDsd() ? playDsd() : playPcm();
-    if (isDsd() && dsdCarry_ > 0) {
-        // The last bits of the track, filled up to a frame of the device.
+    if (isDsd() && dsdCarry_ > 0 && !next_) {
+        // The last bits of the chain, filled up to a frame of the device.
         const size_t filled = dsdPerWire_ - dsdCarry_;
         std::fill_n(dsd_.begin() + static_cast<std::ptrdiff_t>(dsdCarry_ * channels_), filled * channels_,
                     dsdSilence);
@@ -41,6 +41,8 @@ void AudioLoop::toNextDeck()
 {
     if (switchTo_)
         return finishSwitch();
+    release(leaving_); // the new track was shorter than its fade
+    fadeLength_ = 0;
     release(current_);
     current_ = next_;
     next_ = nullptr;
