@@ -125,7 +125,7 @@ TEST(StackSample, ADeepStackIsCutAtTheLimit)
 
 TEST(StackSample, AllocatesNothingInTheStoppedThread)
 {
-#if KELP_TEST_COUNTS_ALLOCATIONS
+#ifdef KELP_TEST_COUNTS_ALLOCATIONS
     sem_t gate;
     sem_init(&gate, 0, 0);
     std::atomic<SystemThreadId> id{0};
