@@ -20,7 +20,7 @@ void eachParam(Params &params, const Visit &visit)
     visit(settings::outputPath, params.outputPath);
     visit(settings::peakGuard, params.peakGuard);
     visit(settings::extDecoder, params.extDecoder);
-    visit(settings::pcm, params.pcm);
+    visit(settings::forcedPcm, params.forcedPcm);
     visit(settings::speedRatio, params.speedRatio);
     visit(settings::crossfadeSec, params.crossfadeSec);
     visit(settings::gapless, params.gapless);
@@ -33,13 +33,13 @@ void eachParam(Params &params, const Visit &visit)
     visit(settings::replayGain, params.replayGain);
     visit(settings::pcmFilter, params.pcmFilter);
     visit(settings::pcmFilterExplicit, params.pcmFilterExplicit);
-    visit(settings::pcm2dsd, params.pcm2dsd);
-    visit(settings::pcm2dsdTarget, params.pcm2dsdTargetHz);
-    visit(settings::pcm2dsdTaps, params.pcm2dsdTaps);
+    visit(settings::pcmToDsd, params.pcmToDsd);
+    visit(settings::pcmToDsdTarget, params.pcmToDsdTargetHz);
+    visit(settings::pcmToDsdTaps, params.pcmToDsdTaps);
     visit(settings::orderAxis, params.orderAxis);
     visit(settings::repeatAxis, params.repeatAxis);
-    visit(settings::xoHz, params.xoHz);
-    visit(settings::xoBridged, params.xoBridged);
+    visit(settings::crossoverHz, params.crossoverHz);
+    visit(settings::crossoverBridged, params.crossoverBridged);
     visit(settings::volume, params.volume);
     visit(settings::prefetchDecode, params.prefetchDecode);
     visit(settings::resample, params.resample);
@@ -49,7 +49,7 @@ void eachParam(Params &params, const Visit &visit)
 
 struct Load
 {
-    const SettingsStore &store;
+    const SettingsAccess &store;
 
     template<class Value>
     void operator()(const Setting<Value> &setting, Value &field) const
@@ -65,7 +65,7 @@ struct Load
 
 struct Save
 {
-    SettingsStore &store;
+    SettingsAccess &store;
 
     template<class Value>
     void operator()(const Setting<Value> &setting, const Value &field) const
@@ -82,14 +82,14 @@ struct Save
 
 /// The panel's own value where there is one; the copy is read only without it.
 template<class Value>
-Value ofPanel(const SettingsStore &store, const Setting<Value> &panel, const Setting<Value> &copy)
+Value ofPanel(const SettingsAccess &store, const Setting<Value> &panel, const Setting<Value> &copy)
 {
     return storedSetting(store, panel).value_or(readSetting(store, copy));
 }
 
 } // namespace
 
-StoredParams loadParams(SettingsStore &store)
+StoredParams loadParams(SettingsAccess &store)
 {
     StoredParams params;
     eachParam(params, Load{store});
@@ -108,7 +108,7 @@ StoredParams loadParams(SettingsStore &store)
     return params;
 }
 
-void saveParams(const StoredParams &params, SettingsStore &store)
+void saveParams(const StoredParams &params, SettingsAccess &store)
 {
     eachParam(params, Save{store});
     const int tier = clampedDenoiseTier(params.denoiseTier);
@@ -119,7 +119,7 @@ void saveParams(const StoredParams &params, SettingsStore &store)
     writeSetting(store, settings::fxKeepHarmonics, kept);
 }
 
-int vizModeAtTrackStart(const SettingsStore &store)
+int vizModeAtTrackStart(const SettingsAccess &store)
 {
     return storedSetting(store, settings::vizMode).value_or(vizModeOfNewUser);
 }

@@ -3,7 +3,7 @@
 /// every change that matters.
 #pragma once
 
-#include "platform/settings_store.h"
+#include "platform/settings_access.h"
 
 /// A field without a value leaves its widget as it stands, and is not written. Combo texts are restored by
 /// findComboRow. The window applies the fields in this order.
@@ -19,7 +19,7 @@ struct StoredParams
     int denoiseTier = 0;        ///< 0 to 3
     bool keepHarmonics = false; ///< never while the tier is 0
     QString extDecoder;
-    std::optional<bool> pcm;
+    std::optional<bool> forcedPcm;
     double speedRatio = 1.0;
     double crossfadeSec = 0.0;
     bool gapless = true;
@@ -34,13 +34,13 @@ struct StoredParams
     int replayGain = 0;
     QString pcmFilter;
     bool pcmFilterExplicit = false;
-    bool pcm2dsd = false;
-    int pcm2dsdTargetHz = 0;
-    int pcm2dsdTaps = 0;
+    bool pcmToDsd = false;
+    int pcmToDsdTargetHz = 0;
+    int pcmToDsdTaps = 0;
     int orderAxis = 0;
     int repeatAxis = 0;
-    std::optional<double> xoHz;
-    std::optional<bool> xoBridged;
+    std::optional<double> crossoverHz;
+    std::optional<bool> crossoverBridged;
     std::optional<int> volume;
     bool prefetchDecode = false;
     std::optional<bool> resample;
@@ -49,11 +49,11 @@ struct StoredParams
 };
 
 /// Reads the record. The former single key of order and repeat is migrated here, which writes the two axes.
-StoredParams loadParams(SettingsStore &store);
+StoredParams loadParams(SettingsAccess &store);
 
 /// Writes the record. The tier and the harmonics go to the panel's group as well, which is their truth.
-void saveParams(const StoredParams &params, SettingsStore &store);
+void saveParams(const StoredParams &params, SettingsAccess &store);
 
 /// The display mode for the engine's flags at track start. The default differs from the display's (0) on
 /// purpose: a new user who has chosen nothing gets spectrum frames, and the instruments show them.
-int vizModeAtTrackStart(const SettingsStore &store);
+int vizModeAtTrackStart(const SettingsAccess &store);

@@ -1,8 +1,8 @@
 # Every persistent choice, and the store that holds them.
 add_library(platform_settings STATIC
     player_conf_path.cpp
-    settings_store.cpp
-    user_settings.cpp)
+    settings_access.cpp
+    qsettings_access.cpp)
 kelp_qt_defaults(platform_settings)
 set_target_properties(platform_settings PROPERTIES AUTOMOC OFF)
 target_link_libraries(platform_settings PUBLIC Qt6::Core)

@@ -30,7 +30,7 @@ inline constexpr Setting<bool> peakGuard{"param/peak_guard"_L1, ofWidget, "peak 
 inline constexpr Setting<int> denoiseTier{"param/denoise_tier"_L1, 0, "0 to 3; a copy, fx/ is the truth"_L1};
 inline constexpr Setting<bool> keepHarmonics{"param/keep_harmonics"_L1, false, "forced off while the tier is 0; a copy, fx/ is the truth"_L1};
 inline constexpr Setting<QString> extDecoder{"param/ext_decoder"_L1, ""_L1, "path of an external decoder"_L1};
-inline constexpr Setting<bool> pcm{"param/pcm"_L1, ofWidget, "DSD is decoded to PCM in any case"_L1};
+inline constexpr Setting<bool> forcedPcm{"param/pcm"_L1, ofWidget, "DSD is decoded to PCM in any case"_L1};
 inline constexpr Setting<double> speedRatio{"param/speed_ratio"_L1, 1.0, "playback speed"_L1};
 inline constexpr Setting<double> crossfadeSec{"param/crossfade_sec"_L1, 0.0, "crossfade in seconds"_L1};
 inline constexpr Setting<bool> gapless{"param/gapless"_L1, true, "seamless track change"_L1};
@@ -43,14 +43,14 @@ inline constexpr Setting<bool> hotkeys{"param/hotkeys"_L1, false, "global hotkey
 inline constexpr Setting<int> replayGain{"param/replaygain"_L1, 0, "0 off, 1 track, 2 album"_L1};
 inline constexpr Setting<QString> pcmFilter{"param/pcm_filter"_L1, "standard"_L1, "filter from DSD to PCM"_L1};
 inline constexpr Setting<bool> pcmFilterExplicit{"param/pcm_filter_explicit"_L1, false, "the filter was chosen by the user"_L1};
-inline constexpr Setting<bool> pcm2dsd{"param/pcm2dsd"_L1, false, "PCM to DSD"_L1};
-inline constexpr Setting<int> pcm2dsdTarget{"param/pcm2dsd_target"_L1, 2822400, "its target rate in Hz"_L1};
-inline constexpr Setting<int> pcm2dsdTaps{"param/pcm2dsd_taps"_L1, 0, "its taps, 0 automatic"_L1};
+inline constexpr Setting<bool> pcmToDsd{"param/pcm2dsd"_L1, false, "PCM to DSD"_L1};
+inline constexpr Setting<int> pcmToDsdTarget{"param/pcm2dsd_target"_L1, 2822400, "its target rate in Hz"_L1};
+inline constexpr Setting<int> pcmToDsdTaps{"param/pcm2dsd_taps"_L1, 0, "its taps, 0 automatic"_L1};
 inline constexpr Setting<int> playOrder{"param/play_order"_L1, -1, "former single key for order and repeat, read once"_L1};
 inline constexpr Setting<int> orderAxis{"param/order_axis"_L1, 0, "0 sequential, 1 random"_L1};
 inline constexpr Setting<int> repeatAxis{"param/repeat_axis"_L1, 0, "0 none, 1 list, 2 track"_L1};
-inline constexpr Setting<double> xoHz{"param/xo_hz"_L1, ofWidget, "crossover in Hz"_L1};
-inline constexpr Setting<bool> xoBridged{"param/xo_br"_L1, ofWidget, "bridged crossover"_L1};
+inline constexpr Setting<double> crossoverHz{"param/xo_hz"_L1, ofWidget, "crossover in Hz"_L1};
+inline constexpr Setting<bool> crossoverBridged{"param/xo_br"_L1, ofWidget, "bridged crossover"_L1};
 inline constexpr Setting<int> volume{"param/vol"_L1, ofWidget, "volume slider"_L1};
 inline constexpr Setting<bool> prefetchDecode{"param/prefetch_decode"_L1, false, "the next track is decoded ahead"_L1};
 inline constexpr Setting<bool> resample{"param/resample"_L1, ofWidget, "resampling"_L1};
@@ -151,11 +151,11 @@ inline constexpr Setting<QString> fxEqBands{"fx/eq_bands"_L1, ""_L1, "freq:gain:
 inline constexpr std::array all{
     rowOf(engineInproc), rowOf(engineSrcQuality), rowOf(keepEngineLog), rowOf(mode), rowOf(layout),
     rowOf(rig), rowOf(pcmBits), rowOf(dop), rowOf(outputPath), rowOf(peakGuard), rowOf(denoiseTier),
-    rowOf(keepHarmonics), rowOf(extDecoder), rowOf(pcm), rowOf(speedRatio), rowOf(crossfadeSec),
+    rowOf(keepHarmonics), rowOf(extDecoder), rowOf(forcedPcm), rowOf(speedRatio), rowOf(crossfadeSec),
     rowOf(gapless), rowOf(lyrics), rowOf(lyricsOnline), rowOf(dspPlugins), rowOf(theme), rowOf(vizMode),
-    rowOf(hotkeys), rowOf(replayGain), rowOf(pcmFilter), rowOf(pcmFilterExplicit), rowOf(pcm2dsd),
-    rowOf(pcm2dsdTarget), rowOf(pcm2dsdTaps), rowOf(playOrder), rowOf(orderAxis), rowOf(repeatAxis),
-    rowOf(xoHz), rowOf(xoBridged), rowOf(volume), rowOf(prefetchDecode), rowOf(resample), rowOf(streamRead),
+    rowOf(hotkeys), rowOf(replayGain), rowOf(pcmFilter), rowOf(pcmFilterExplicit), rowOf(pcmToDsd),
+    rowOf(pcmToDsdTarget), rowOf(pcmToDsdTaps), rowOf(playOrder), rowOf(orderAxis), rowOf(repeatAxis),
+    rowOf(crossoverHz), rowOf(crossoverBridged), rowOf(volume), rowOf(prefetchDecode), rowOf(resample), rowOf(streamRead),
     rowOf(customRig), rowOf(sideWidth), rowOf(geometry), rowOf(showInfo), rowOf(showStats),
     rowOf(reduceMotion), rowOf(accent), rowOf(coverAccent), rowOf(language), rowOf(playlist),
     rowOf(playlistRow), rowOf(lastPlayed), rowOf(lastPlayedKey), rowOf(resumePath), rowOf(resumeSec),

@@ -19,13 +19,13 @@ TEST(StoredParams, OfAnEmptyStoreAreTheDefaults)
     EXPECT_EQ(params.dop, u"auto"_s);
     EXPECT_EQ(params.outputPath, u"auto"_s);
     EXPECT_EQ(params.pcmFilter, u"standard"_s);
-    EXPECT_EQ(params.pcm2dsdTargetHz, 2822400);
+    EXPECT_EQ(params.pcmToDsdTargetHz, 2822400);
     EXPECT_TRUE(params.gapless);
     EXPECT_TRUE(params.lyrics);
     EXPECT_FALSE(params.lyricsOnline);
     EXPECT_FALSE(params.peakGuard);
     EXPECT_FALSE(params.volume);
-    EXPECT_FALSE(params.xoHz);
+    EXPECT_FALSE(params.crossoverHz);
     EXPECT_TRUE(store.values.isEmpty());
 }
 
@@ -40,7 +40,7 @@ TEST(StoredParams, SurviveSavingAndLoading)
     params.gapless = false;
     params.vizMode = 3;
     params.repeatAxis = 2;
-    params.xoHz = 90.5;
+    params.crossoverHz = 90.5;
     params.volume = 42;
     params.streamRead = true;
     params.customRig = u"{}"_s;
@@ -55,7 +55,7 @@ TEST(StoredParams, SurviveSavingAndLoading)
     EXPECT_FALSE(read.gapless);
     EXPECT_EQ(read.vizMode, 3);
     EXPECT_EQ(read.repeatAxis, 2);
-    EXPECT_EQ(read.xoHz, 90.5);
+    EXPECT_EQ(read.crossoverHz, 90.5);
     EXPECT_EQ(read.volume, 42);
     EXPECT_EQ(read.streamRead, true);
     EXPECT_FALSE(read.resample);

@@ -2,11 +2,11 @@
 /// A settings store in memory, which keeps account of what was read and written.
 #pragma once
 
-#include "platform/settings_store.h"
+#include "platform/settings_access.h"
 
 #include <QMap>
 
-class MemorySettings final : public SettingsStore
+class MemorySettings final : public SettingsAccess
 {
 public:
     QVariant value(QLatin1StringView key) const override

@@ -1,4 +1,4 @@
-#include "platform/settings_store.h"
+#include "platform/settings_access.h"
 
 #include <cmath>
 #include <utility>

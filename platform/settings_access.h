@@ -8,13 +8,13 @@
 
 /// A store of values by key. Implementations report nothing: what cannot be read is absent, and what cannot
 /// be written is lost, since the program must run from a read-only home.
-class SettingsStore
+class SettingsAccess
 {
 public:
-    SettingsStore() = default;
-    virtual ~SettingsStore() = default;
-    SettingsStore(const SettingsStore &) = delete;
-    SettingsStore &operator=(const SettingsStore &) = delete;
+    SettingsAccess() = default;
+    virtual ~SettingsAccess() = default;
+    SettingsAccess(const SettingsAccess &) = delete;
+    SettingsAccess &operator=(const SettingsAccess &) = delete;
 
     /// An invalid QVariant when absent. The value may be a text whatever was written: an INI file knows no
     /// types.
@@ -33,7 +33,7 @@ QString toText(const QVariant &value);
 
 /// The stored value, or empty when there is none or it has not the form of its type.
 template<class Value>
-std::optional<Value> storedSetting(const SettingsStore &store, const Setting<Value> &setting)
+std::optional<Value> storedSetting(const SettingsAccess &store, const Setting<Value> &setting)
 {
     const QVariant value = store.value(setting.key);
     if (!value.isValid())
@@ -54,7 +54,7 @@ std::optional<Value> storedSetting(const SettingsStore &store, const Setting<Val
 
 /// The stored value, else the default of the table, else an empty value.
 template<class Value>
-Value readSetting(const SettingsStore &store, const Setting<Value> &setting)
+Value readSetting(const SettingsAccess &store, const Setting<Value> &setting)
 {
     if (std::optional<Value> value = storedSetting(store, setting))
         return *std::move(value);
@@ -65,7 +65,7 @@ Value readSetting(const SettingsStore &store, const Setting<Value> &setting)
 }
 
 template<class Value>
-void writeSetting(SettingsStore &store, const Setting<Value> &setting,
+void writeSetting(SettingsAccess &store, const Setting<Value> &setting,
                   const std::type_identity_t<Value> &value)
 {
     store.setValue(setting.key, QVariant::fromValue(value));

@@ -1,9 +1,10 @@
-#include "platform/user_settings.h"
+#include "platform/qsettings_access.h"
 
 #include "platform/settings_table.h"
 
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -11,20 +12,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The user's store in a private folder.
-class UserSettingsTest : public testing::Test
+class QSettingsAccessTest : public testing::Test
 {
 protected:
-    UserSettingsTest() { QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_folder.path()); }
-
-    QString filePath() const { return m_folder.filePath(u"KELP/KelpPlayer.ini"_s); }
+    QString path() const { return m_folder.filePath(u"KelpPlayer.ini"_s); }
     QTemporaryDir m_folder;
 };
 
-TEST_F(UserSettingsTest, WhatOneOpeningWroteTheNextReads)
+TEST_F(QSettingsAccessTest, WhatOneOpeningWroteTheNextReads)
 {
     {
-        UserSettings store;
+        QSettings file(path(), QSettings::IniFormat);
+        QSettingsAccess store(file);
         writeSetting(store, settings::gapless, false);
         writeSetting(store, settings::speedRatio, 1.25);
         writeSetting(store, settings::vizMode, 3);
@@ -32,8 +31,9 @@ TEST_F(UserSettingsTest, WhatOneOpeningWroteTheNextReads)
         writeSetting(store, settings::geometry, QByteArray("\0\1\xff@", 4));
         writeSetting(store, settings::deviceProfiles, u"a=b\nc=d, e"_s);
     }
-    ASSERT_TRUE(QFile::exists(filePath()));
-    const UserSettings store;
+    ASSERT_TRUE(QFile::exists(path()));
+    QSettings file(path(), QSettings::IniFormat);
+    const QSettingsAccess store(file);
     EXPECT_FALSE(readSetting(store, settings::gapless));
     EXPECT_EQ(readSetting(store, settings::speedRatio), 1.25);
     EXPECT_EQ(readSetting(store, settings::vizMode), 3);
@@ -42,38 +42,40 @@ TEST_F(UserSettingsTest, WhatOneOpeningWroteTheNextReads)
     EXPECT_EQ(readSetting(store, settings::deviceProfiles), u"a=b\nc=d, e"_s);
 }
 
-TEST_F(UserSettingsTest, ListsTheKeysOfAGroupAndRemovesOne)
+TEST_F(QSettingsAccessTest, RemovesOneKeyAndNoOther)
 {
-    UserSettings store;
-    store.setValue("param/smart/one"_L1, u"x"_s);
-    store.setValue("param/smart/two"_L1, u"y"_s);
-    EXPECT_EQ(store.childKeys(settings::smart.key), (QStringList{u"one"_s, u"two"_s}));
-    store.remove("param/smart/one"_L1);
-    store.sync();
-    EXPECT_EQ(store.childKeys(settings::smart.key), QStringList{u"two"_s});
+    QSettings file(path(), QSettings::IniFormat);
+    QSettingsAccess store(file);
+    writeSetting(store, settings::theme, 2);
+    writeSetting(store, settings::volume, 50);
+    store.remove(settings::theme.key);
+    EXPECT_EQ(storedSetting(store, settings::theme), std::nullopt);
+    EXPECT_EQ(storedSetting(store, settings::volume), 50);
 }
 
-TEST_F(UserSettingsTest, AFileThatCannotBeReadGivesDefaults)
+TEST_F(QSettingsAccessTest, AFileThatCannotBeReadGivesDefaults)
 {
     // A folder where the file should be: it can be neither read nor written, not even by root.
-    ASSERT_TRUE(QDir().mkpath(filePath()));
+    ASSERT_TRUE(QDir().mkpath(path()));
     {
-        UserSettings store;
+        QSettings file(path(), QSettings::IniFormat);
+        QSettingsAccess store(file);
         writeSetting(store, settings::theme, 2);
     }
-    const UserSettings store;
+    QSettings file(path(), QSettings::IniFormat);
+    const QSettingsAccess store(file);
     EXPECT_EQ(readSetting(store, settings::theme), 0);
     EXPECT_TRUE(readSetting(store, settings::engineInproc));
 }
 
-TEST_F(UserSettingsTest, ADamagedFileGivesDefaults)
+TEST_F(QSettingsAccessTest, ADamagedFileGivesDefaults)
 {
-    ASSERT_TRUE(QDir().mkpath(m_folder.filePath(u"KELP"_s)));
-    QFile file(filePath());
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("[param\n\xff\xfe=\0\n]]vol=@Invalid(\ngapless=@Size(1\n");
-    file.close();
-    const UserSettings store;
+    QFile damaged(path());
+    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
+    damaged.write("[param\n\xff\xfe=\0\n]]vol=@Invalid(\n[param]\ngapless=@Size(1\nvol=\"5\n");
+    damaged.close();
+    QSettings file(path(), QSettings::IniFormat);
+    const QSettingsAccess store(file);
     EXPECT_EQ(storedSetting(store, settings::volume), std::nullopt);
     EXPECT_TRUE(readSetting(store, settings::gapless));
 }

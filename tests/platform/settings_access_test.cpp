@@ -1,4 +1,4 @@
-#include "platform/settings_store.h"
+#include "platform/settings_access.h"
 
 #include "platform/settings_table.h"
 #include "tests/support/memory_settings.h"
@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(SettingsStore, AnEmptyStoreGivesTheDefaultsOfTheTable)
+TEST(SettingsAccess, AnEmptyStoreGivesTheDefaultsOfTheTable)
 {
     const MemorySettings store;
     EXPECT_TRUE(readSetting(store, settings::engineInproc));
@@ -26,7 +26,7 @@ TEST(SettingsStore, AnEmptyStoreGivesTheDefaultsOfTheTable)
     EXPECT_EQ(storedSetting(store, settings::gapless), std::nullopt);
 }
 
-TEST(SettingsStore, ReadsBackWhatItWrote)
+TEST(SettingsAccess, ReadsBackWhatItWrote)
 {
     MemorySettings store;
     writeSetting(store, settings::gapless, false);
@@ -43,7 +43,7 @@ TEST(SettingsStore, ReadsBackWhatItWrote)
     EXPECT_EQ(readSetting(store, settings::geometry), QByteArray("\0\xff", 2));
 }
 
-TEST(SettingsStore, ReadsTheTextsOfAnIniFile)
+TEST(SettingsAccess, ReadsTheTextsOfAnIniFile)
 {
     MemorySettings store;
     const auto boolOf = [&](const QString &text) {
@@ -69,7 +69,7 @@ TEST(SettingsStore, ReadsTheTextsOfAnIniFile)
     EXPECT_EQ(readSetting(store, settings::extDecoder), u"/opt/a, b"_s);
 }
 
-TEST(SettingsStore, ANumberThatIsNoneGivesTheDefault)
+TEST(SettingsAccess, ANumberThatIsNoneGivesTheDefault)
 {
     MemorySettings store;
     for (const QString &text : {u"nan"_s, u"inf"_s, u"-inf"_s, u"fast"_s, QString()}) {
