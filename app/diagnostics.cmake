@@ -1,7 +1,6 @@
 # The log, and the watch over a frozen user interface.
 add_library(app_diagnostics STATIC
     crash_guard.cpp
-    log_batch.cpp
     stall_sampler.cpp)
 kelp_qt_defaults(app_diagnostics)
 set_target_properties(app_diagnostics PROPERTIES AUTOMOC OFF)

@@ -3,27 +3,28 @@
 #pragma once
 
 #include <QList>
-#include <QString>
+#include <utility>
 
-/// Collects lines until the event loop comes round, so that a burst of them costs one repaint. GUI thread.
+/// Collects entries until the event loop comes round, so that a burst of lines costs one repaint. GUI thread.
+template<class Entry>
 class LogBatch
 {
 public:
-    struct Entry
+    /// \return whether a flush has to be posted to the event loop: true for the first entry after a take only
+    [[nodiscard]] bool add(Entry entry)
     {
-        QString text;
-        bool isError = false;
-    };
+        m_entries.append(std::move(entry));
+        return !std::exchange(m_flushPosted, true);
+    }
 
-    /// \return whether a flush has to be posted to the event loop: true for the first line after a take only
-    [[nodiscard]] bool add(const QString &text, bool isError);
-    /// The lines in the order in which they came. Lines added from now on need a new flush.
-    QList<Entry> take();
+    /// The entries in the order in which they came. Entries added from now on need a new flush.
+    [[nodiscard]] QList<Entry> take()
+    {
+        m_flushPosted = false;
+        return std::exchange(m_entries, {});
+    }
 
 private:
     QList<Entry> m_entries;
     bool m_flushPosted = false;
 };
-
-/// An error line as the pane's rich text; all of the line's own characters are shown as they are.
-QString errorLineHtml(const QString &text);
