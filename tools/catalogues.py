@@ -8,7 +8,7 @@ ROOT = os.path.dirname(os.path.dirname(os.path.abspath(__file__)))
 
 # Code of the program, and the name that Qt knows the language by (it decides the number of plural forms).
 LANGUAGES = {"hant": "zh_TW", "en": "en_US", "ja": "ja_JP", "ko": "ko_KR", "ru": "ru_RU", "de": "de_DE", "fr": "fr_FR",
-             "es": "es_ES", "pt": "pt_PT", "ar": "ar_EG", "pl": "pl_PL"}
+             "es": "es_ES", "pt": "pt_BR", "ar": "ar_EG", "pl": "pl_PL"}
 SOURCE_LANGUAGE = "zh_CN"
 FOLDERS = ["platform", "tags", "lyrics", "engine", "library", "dsp", "output", "playback", "net", "maintenance", "ui", "app"]
 QT_TOOL_FOLDERS = ["/usr/lib/qt6/bin", "/usr/lib64/qt6/bin"]
@@ -31,7 +31,7 @@ def lupdate(ts, qt_language, root=ROOT):
     """Brings the file up to date with the sources; returns what went wrong, or an empty text."""
     folders = [folder for folder in FOLDERS if os.path.isdir(os.path.join(root, folder))]
     command = [qt_tool("lupdate"), "-silent", "-no-obsolete", "-locations", "none", "-source-language", SOURCE_LANGUAGE,
-               "-target-language", qt_language, *folders, "-ts", ts]
+               "-target-language", qt_language, "-I", root, *folders, "-ts", ts]
     done = subprocess.run(command, cwd=root, capture_output=True, text=True)
     return "" if done.returncode == 0 else done.stderr.strip() or f"lupdate ended with {done.returncode}"
 
