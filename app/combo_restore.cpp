@@ -1,9 +1,6 @@
 #include "app/combo_restore.h"
 
-#include <QCoreApplication>
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -12,34 +9,23 @@ QString withoutBlanks(const QString &text)
     return text.simplified().remove(u' ');
 }
 
-template<class Matches>
-int firstRow(const QList<ComboRow> &rows, const Matches &matches)
-{
-    const auto hit = std::find_if(rows.begin(), rows.end(), matches);
-    return hit == rows.end() ? -1 : static_cast<int>(hit - rows.begin());
-}
-
 } // namespace
 
-ComboRestore findComboRow(const QString &stored, const QList<ComboRow> &rows)
+int findComboItem(const QList<ComboItem> &items, const QString &stored)
 {
     const QString wanted = stored.trimmed();
     if (wanted.isEmpty())
-        return {};
-    int row = firstRow(rows, [&](const ComboRow &r) { return r.data == wanted; });
-    if (row < 0) {
-        const QString bare = withoutBlanks(wanted);
-        row = firstRow(rows, [&](const ComboRow &r) { return withoutBlanks(r.text) == bare; });
-    }
-    if (row < 0) {
-        const QString word = wanted.simplified().section(u' ', 0, 0);
-        row = firstRow(rows, [&](const ComboRow &r) { return r.text.trimmed().startsWith(word); });
-    }
-    return {row, row < 0};
-}
-
-QString comboMissingText(const QString &stored)
-{
-    return QCoreApplication::translate("Settings", "参数恢复: 找不到匹配项 %1 (保持默认)")
-        .arg(stored.trimmed());
+        return -1;
+    const auto firstIndex = [&](auto matches) {
+        const auto found = std::ranges::find_if(items, matches);
+        return found == items.end() ? -1 : static_cast<int>(std::distance(items.begin(), found));
+    };
+    if (const int index = firstIndex([&](const ComboItem &item) { return item.data == wanted; }); index >= 0)
+        return index;
+    const QString bare = withoutBlanks(wanted);
+    if (const int index = firstIndex([&](const ComboItem &item) { return withoutBlanks(item.text) == bare; });
+        index >= 0)
+        return index;
+    const QString word = wanted.simplified().section(u' ', 0, 0);
+    return firstIndex([&](const ComboItem &item) { return item.text.trimmed().startsWith(word); });
 }

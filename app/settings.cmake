@@ -1,6 +1,5 @@
 # What stored choices mean.
 add_library(app_settings STATIC
-    combo_restore.cpp
     settings_rules.cpp
     stored_params.cpp)
 kelp_qt_defaults(app_settings)

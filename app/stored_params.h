@@ -6,7 +6,7 @@
 #include "platform/settings_access.h"
 
 /// A field without a value leaves its widget as it stands, and is not written. Combo texts are restored by
-/// findComboRow. The window applies the fields in this order.
+/// findComboItem. The window applies the fields in this order.
 struct StoredParams
 {
     QString mode;
