@@ -34,7 +34,7 @@ Place placeOf(std::uintptr_t address, std::uintptr_t searched, const std::vector
 
 } // namespace
 
-int StallCount::step(unsigned heartbeat)
+int StallCount::step(unsigned long heartbeat)
 {
     if (heartbeat != m_heartbeat) {
         m_heartbeat = heartbeat;
@@ -94,12 +94,12 @@ void appendStallBlock(const QString &path, const QStringList &lines)
         file.write((lines.join(u'\n') + u'\n').toUtf8());
 }
 
-std::thread startStallSampler(SystemThreadId thread, const std::atomic<unsigned> &heartbeat,
-                              const std::atomic<bool> &ended, const QString &path)
+std::thread startStallSampler(SystemThreadId thread, std::function<unsigned long()> heartbeat,
+                              std::function<bool()> ended, const QString &path)
 {
     StallSamplerHooks hooks;
-    hooks.heartbeat = [&heartbeat] { return heartbeat.load(); };
-    hooks.ended = [&ended] { return ended.load(); };
+    hooks.heartbeat = std::move(heartbeat);
+    hooks.ended = std::move(ended);
     hooks.waitStep = [] { std::this_thread::sleep_for(std::chrono::milliseconds(stallStepMs)); };
     hooks.sample = [thread](int stallMs) { return sampleStall(thread, stallMs); };
     hooks.write = [path](const QStringList &lines) { appendStallBlock(path, lines); };

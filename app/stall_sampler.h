@@ -6,7 +6,6 @@
 #include "platform/stack_sample.h"
 
 #include <QStringList>
-#include <atomic>
 #include <functional>
 #include <thread>
 
@@ -19,16 +18,16 @@ constexpr int stallSteps = 200;
 class StallCount
 {
 public:
-    explicit StallCount(unsigned heartbeat)
+    explicit StallCount(unsigned long heartbeat)
         : m_heartbeat(heartbeat)
     {
     }
 
     /// To be called every step. \return the length of the stall in milliseconds when a sample is due, else 0
-    int step(unsigned heartbeat);
+    int step(unsigned long heartbeat);
 
 private:
-    unsigned m_heartbeat;
+    unsigned long m_heartbeat;
     int m_steps = 0;
 };
 
@@ -47,7 +46,7 @@ QString stallLogPath(const QString &stated, const QString &tempFolder);
 /// What the loop stands on; all are called on the loop's thread.
 struct StallSamplerHooks
 {
-    std::function<unsigned()> heartbeat;
+    std::function<unsigned long()> heartbeat;
     std::function<bool()> ended;                    ///< the event loop has been left
     std::function<void()> waitStep;                 ///< returns after stallStepMs
     std::function<QStringList(int stallMs)> sample; ///< the lines of one block
@@ -64,7 +63,7 @@ QStringList sampleStall(SystemThreadId thread, int stallMs);
 void appendStallBlock(const QString &path, const QStringList &lines);
 
 /// Starts the watch over \p thread, writing to \p path. Throws std::system_error when no thread can be made.
-/// \param heartbeat, ended outlive the thread, which ends within stallStepMs of \p ended becoming true (or,
-/// when it is taking a sample just then, after that)
-std::thread startStallSampler(SystemThreadId thread, const std::atomic<unsigned> &heartbeat,
-                              const std::atomic<bool> &ended, const QString &path);
+/// \param heartbeat, ended are called from the new thread, which ends within stallStepMs of \p ended becoming
+/// true (or, when it is taking a sample just then, after that)
+std::thread startStallSampler(SystemThreadId thread, std::function<unsigned long()> heartbeat,
+                              std::function<bool()> ended, const QString &path);

@@ -15,6 +15,8 @@ namespace {
 constexpr auto deviceStuckAfter = std::chrono::seconds(10);
 constexpr auto idlePoll = std::chrono::milliseconds(2);
 constexpr double tapSec = 0.5;
+/// While nothing plays so little silence is kept in hand, so that the next track is heard at once.
+constexpr double idleFillSec = 0.04;
 
 /// A tenth of a second has ten chunks of this: short enough for quick answers, long enough to cost nothing.
 size_t chunkFor(const WireFormat &wire)
@@ -81,14 +83,16 @@ void AudioLoop::finish()
 void AudioLoop::run()
 {
     pthread_setname_np(pthread_self(), "kelp-audio");
-    raisePriority();
+    // At a device without a clock we would run at full speed, and must not push everybody else aside.
+    if (opened_.clocked)
+        raisePriority();
     while (true) {
         takeCommands();
         if (quit_ || hurry_.load(std::memory_order_relaxed))
             break;
         const Step done = step();
         if (done == Step::gone) {
-            event(AudioEventKind::deviceGone, 0, nullptr, 0);
+            event(AudioEventKind::deviceGone, 0, 0);
             break;
         }
         if (done == Step::wait)
@@ -96,6 +100,7 @@ void AudioLoop::run()
     }
     if (quit_ && !hurry_.load())
         playOut();
+    left_.store(true);
 }
 
 void AudioLoop::playOut()
@@ -103,7 +108,8 @@ void AudioLoop::playOut()
     // While the buffer empties, the listener's position still moves; the device's own way of draining is only
     // for the last moment, or for a device that did not start on so few frames.
     const auto low = static_cast<int64_t>(2 * chunkFrames_);
-    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load(); publish()) {
+    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load();
+         publish()) {
         before = state_.delay;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
@@ -156,6 +162,10 @@ void AudioLoop::beginSwitch(Deck *deck)
     // DSD cannot be faded; and what is silent already needs no fade.
     const bool silent = !current_ || (paused_ && ramp_.settled());
     paused_ = false;
+    // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running on
+    // little: stopping it could make a converter click.
+    if (silent && opened_.mixer && state_.written > 0)
+        output_.drop();
     if (isDsd() || silent)
         return finishSwitch();
     ramp_.setTarget(0.0);
@@ -176,15 +186,15 @@ void AudioLoop::finishSwitch()
 void AudioLoop::release(Deck *&deck)
 {
     if (deck)
-        event(AudioEventKind::deckFree, 0, deck, 0);
+        event(AudioEventKind::deckFree, deck->number(), 0);
     deck = nullptr;
 }
 
-void AudioLoop::event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames)
+void AudioLoop::event(AudioEventKind kind, uint32_t serial, int64_t frames)
 {
     // Room for 1,024 events is more than a telemetry tick can bring; a lost one would hang a track's end, so
     // rather wait.
-    while (!events_.push({kind, serial, deck, state_.written, frames}) && !hurry_.load())
+    while (!events_.push({kind, serial, state_.written, frames}) && !hurry_.load())
         std::this_thread::sleep_for(idlePoll);
 }
 
@@ -220,7 +230,7 @@ AudioLoop::Step AudioLoop::playMusic()
 void AudioLoop::noteStart()
 {
     while (const auto start = current_->takeTrackStart()) {
-        event(AudioEventKind::trackStarted, start->serial, current_, state_.trackFrames);
+        event(AudioEventKind::trackStarted, start->serial, state_.trackFrames);
         state_.serial = start->serial;
         state_.trackFrames = 0;
         state_.trackWrittenAt = state_.written;
@@ -239,7 +249,7 @@ void AudioLoop::toNextDeck()
     sounding_ = false;
     if (current_)
         return;
-    event(AudioEventKind::chainEnded, state_.serial, nullptr, state_.trackFrames);
+    event(AudioEventKind::chainEnded, state_.serial, state_.trackFrames);
     quit_ = setup_.drainAtEnd;
 }
 
@@ -357,6 +367,9 @@ AudioLoop::Step AudioLoop::starve()
 AudioLoop::Step AudioLoop::silence()
 {
     const size_t frames = chunkFrames_;
+    if (opened_.clocked && !opened_.mixer &&
+        output_.delayFrames() > static_cast<int64_t>(idleFillSec * wire_.frameRateHz))
+        return Step::wait;
     if (!opened_.clocked) {
         const auto now = std::chrono::steady_clock::now();
         if (now < silenceUntil_)

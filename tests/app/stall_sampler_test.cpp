@@ -73,7 +73,7 @@ TEST(StallSampler, SamplesAtEachMultipleAndEndsWithTheFlag)
     int steps = 0;
     QStringList written;
     StallSamplerHooks hooks;
-    hooks.heartbeat = [&] { return steps < 100 ? static_cast<unsigned>(steps) : 100u; };
+    hooks.heartbeat = [&] { return steps < 100 ? static_cast<unsigned long>(steps) : 100ul; };
     hooks.ended = [&] { return steps >= 550; };
     hooks.waitStep = [&] { ++steps; };
     hooks.sample = [](int stallMs) { return QStringList{QString::number(stallMs)}; };
@@ -86,7 +86,7 @@ TEST(StallSampler, SamplesAtEachMultipleAndEndsWithTheFlag)
 TEST(StallSampler, DoesNotTouchAnythingWhenTheLoopWasLeftBefore)
 {
     StallSamplerHooks hooks;
-    hooks.heartbeat = [] { return 0u; };
+    hooks.heartbeat = [] { return 0ul; };
     hooks.ended = [] { return true; };
     hooks.waitStep = [] { FAIL(); };
     runStallSampler(hooks);
@@ -130,9 +130,9 @@ TEST(StallSampler, TheThreadWritesToItsFileAndEnds)
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"stall.log"_s);
     StandingThread standing;
-    std::atomic<unsigned> heartbeat{0};
     std::atomic<bool> ended{false};
-    std::thread sampler = startStallSampler(standing.id(), heartbeat, ended, path);
+    std::thread sampler = startStallSampler(
+        standing.id(), [] { return 0UL; }, [&] { return ended.load(); }, path);
     while (!QFile::exists(path))
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     ended.store(true);

@@ -57,6 +57,8 @@ public:
         return true;
     }
 
+    std::vector<SourceSegment> segments() const override { return track_.segments; }
+
 private:
     FakeTrack track_;
     SourceFacts facts_;
@@ -206,7 +208,6 @@ SessionServices FakeWorld::services()
             outcome.output = std::make_unique<FakeOutput>(device, request);
         return outcome;
     };
-    services.segments = [](const std::string &) { return std::vector<Segment>{{0, 0.5, 1}, {0.5, 1, 2}}; };
     return services;
 }
 

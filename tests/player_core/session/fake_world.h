@@ -25,6 +25,7 @@ struct FakeTrack
     bool lengthKnown = true;
     uint32_t seed = 1; ///< gives each track samples of its own
     bool lossless = true;
+    std::vector<SourceSegment> segments;
 };
 
 /// The 16-bit sample of a frame and channel; as DSD its low byte.

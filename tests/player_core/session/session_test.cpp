@@ -300,6 +300,7 @@ TEST(SessionTest, AWholeSheetTellsItsSegments)
     FakeWorld world;
     world.device.clocked = true;
     world.tracks["/s.cue"] = pcmTrack(44'100, 1);
+    world.tracks["/s.cue"].segments = {{1, 0, {}, {}}, {2, 22'050, {}, {}}};
     world.start({"-cue", "/s.cue"});
     EXPECT_EQ(world.wait(), exit_code::done);
     EXPECT_EQ(world.lines("SEG "), (std::vector<std::string>{"SEG 0.000 0.500 1", "SEG 0.500 1.000 2"}));
