@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>%1 声道</source>
-        <translation>القنوات: %1</translation>
+        <translation>%1 قنوات</translation>
     </message>
     <message>
         <source>声道布置</source>

@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>%1 声道</source>
-        <translation>%1채널</translation>
+        <translation>%1 채널</translation>
     </message>
     <message>
         <source>声道布置</source>

@@ -254,7 +254,7 @@
     </message>
     <message>
         <source>%1 声道</source>
-        <translation>Каналов: %1</translation>
+        <translation>%1 кан.</translation>
     </message>
     <message>
         <source>声道布置</source>
