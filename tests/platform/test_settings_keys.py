@@ -9,7 +9,7 @@ FOLDERS = ["platform", "tags", "lyrics", "engine", "library", "dsp", "output", "
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 CONSTANT = re.compile(r'inline constexpr Setting<\w+> (\w+)\{"([^"]+)"_L1')
 # A literal that begins like this is a key, or the beginning of one, whether or not the table knows it.
-GROUPS = ("param/", "ui/", "play/", "fx/", "engine/", "ui-language")
+GROUPS = ("param/", "ui/", "play/", "fx/", "engine/", "ui-language/")
 # Include lines, and paths of resources and sources, look like groups and are none.
 INCLUDE = re.compile(r"^\s*#\s*include\b")
 FILE_ENDINGS = (".h", ".cpp", ".svg", ".png", ".md", ".qm", ".css", ".qss", ".html")
