@@ -73,10 +73,10 @@ QComboBox:on { border: 1px solid #C9A96E; padding: 0 8px; }
 QComboBox:disabled, QLineEdit:disabled, QDoubleSpinBox:disabled { background: #131317; border-color: #23232B;
     color: #4A4842; }
 QComboBox::drop-down { border: none; width: 24px; }
-QComboBox::down-arrow { image: url(:/glyphs/chevron_down.svg); width: 10px; height: 10px; }
+QComboBox::down-arrow { image: url(:/glyphs/chevron_down.png); width: 10px; height: 10px; }
 QDoubleSpinBox::up-button, QDoubleSpinBox::down-button { border: none; width: 18px; background: transparent; }
-QDoubleSpinBox::up-arrow { image: url(:/glyphs/chevron_up.svg); width: 8px; height: 8px; }
-QDoubleSpinBox::down-arrow { image: url(:/glyphs/chevron_down.svg); width: 8px; height: 8px; }
+QDoubleSpinBox::up-arrow { image: url(:/glyphs/chevron_up.png); width: 8px; height: 8px; }
+QDoubleSpinBox::down-arrow { image: url(:/glyphs/chevron_down.png); width: 8px; height: 8px; }
 QComboBox QAbstractItemView, QMenu { background: #18181E; border: 1px solid #2C2C35; color: #CFC9BF;
     selection-background-color: #1F1F26; selection-color: #EDEAE3; outline: 0; }
 QCheckBox { color: #CFC9BF; spacing: 8px; border: 2px solid transparent; border-radius: 4px; }
@@ -85,7 +85,7 @@ QCheckBox:disabled, QLabel:disabled { color: #4A4842; }
 QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid #2C2C35; border-radius: 3px;
     background: #131317; }
 QCheckBox::indicator:hover { background: #1F1F26; }
-QCheckBox::indicator:checked { background: #C9A96E; border-color: #C9A96E; image: url(:/glyphs/tick.svg); }
+QCheckBox::indicator:checked { background: #C9A96E; border-color: #C9A96E; image: url(:/glyphs/tick.png); }
 QCheckBox::indicator:disabled { border-color: #23232B; background: #131317; }
 QSlider { min-height: 22px; }
 QSlider:focus { border: 2px solid #E0C896; border-radius: 4px; }

@@ -49,6 +49,9 @@ void PlayerGuiWindow::buildLayout()
 {
     auto *root = new QWidget(this);
     root->setObjectName("vesperRoot"_L1);
+    // Nothing is marked as focused before a key has been pressed.
+    root->setFocusPolicy(Qt::ClickFocus);
+    root->setFocus();
     setCentralWidget(root);
     auto *rows = new QVBoxLayout(root);
     rows->setContentsMargins(0, 0, 0, 0);
