@@ -162,8 +162,8 @@ void AudioLoop::beginSwitch(Deck *deck)
     // DSD cannot be faded; and what is silent already needs no fade.
     const bool silent = !current_ || (paused_ && ramp_.settled());
     paused_ = false;
-    // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running on
-    // little: stopping it could make a converter click.
+    // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running
+    // on little: stopping it could make a converter click.
     if (silent && opened_.mixer && state_.written > 0)
         output_.drop();
     if (isDsd() || silent)
