@@ -191,6 +191,28 @@ TEST(SessionTest, CrossfadeTakesItsTimeOffTheSum)
     EXPECT_LT(frames, 88'200 - 4'410);
 }
 
+TEST(SessionTest, ATrackShorterThanItsFadeEndsTheChain)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44'100, 1);
+    world.tracks["/b.wav"] = pcmTrack(4'000, 2);
+    world.tracks["/c.wav"] = pcmTrack(4'000, 3);
+    world.start({"-stream", "-parent-pid", ownPid, "-crossfade", "2.0"});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("load /c.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /c.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    const std::vector<int16_t> all = trimmed(world.written16());
+    const std::vector<int16_t> last = samplesOf(world.tracks["/c.wav"]);
+    ASSERT_GT(all.size(), last.size());
+    EXPECT_TRUE(std::equal(last.rbegin(), last.rend(), all.rbegin())) << "nothing of the fade is left over";
+}
+
 TEST(SessionTest, StopEndsWithinAMoment)
 {
     FakeWorld world;
