@@ -13,7 +13,7 @@ unsigned long count();
 void setEventLoopLeft();
 bool eventLoopLeft();
 
-/// Starts the thread that reports a GUI thread that has stopped beating, for the life of the process.
+/// Starts the thread that samples the calling thread, the GUI thread, when it has stopped beating.
 void startStallSampler();
 
 } // namespace heartbeat

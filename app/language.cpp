@@ -1,7 +1,7 @@
 #include "app/language.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
+#include "platform/settings_table.h"
 
 #include <algorithm>
 #include <array>
@@ -75,7 +75,7 @@ LanguageFacts languageFacts()
 {
     LanguageFacts facts;
     facts.environmentChoice = qEnvironmentVariable("KELP_LANG");
-    facts.storedChoice = SettingsStore().value(settings_key::language, languageFollowsSystem).toString();
+    facts.storedChoice = readUserSetting(settings::language);
     for (const char *name : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"})
         facts.localeVariables.append(qEnvironmentVariable(name));
     facts.systemLocale = QLocale::system();

@@ -2,9 +2,9 @@
 /// The window's memory for its log.
 #pragma once
 
+#include "app/log_batch.h"
 #include "ui/log_pane.h"
 
-#include <QList>
 #include <QString>
 #include <mutex>
 #include <optional>
@@ -33,8 +33,7 @@ private:
 
 struct LogState
 {
-    QList<LogEntry> batch; ///< waiting for one common repaint of the pane
-    bool flushPosted = false;
+    LogBatch<LogEntry> batch; ///< waiting for one common repaint of the pane
     CurrentStage stage;
     std::optional<qint64> readyAfterMs; ///< from the process's start to the window being shown
 };

@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="en" sourcelanguage="zh_CN">
+<TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
     <name>AboutBlock</name>
     <message>
@@ -71,6 +71,13 @@
     <message>
         <source>[控制] %1</source>
         <translation>[control] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>unknown exception</translation>
     </message>
 </context>
 <context>
@@ -172,7 +179,7 @@
     </message>
     <message>
         <source>  引擎最后一行: %1</source>
-        <translation>  engine's last line: %1</translation>
+        <translation>  engine&apos;s last line: %1</translation>
     </message>
     <message>
         <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
@@ -255,7 +262,7 @@
     </message>
     <message>
         <source>源的声道怎样分到输出；auto 由程序决定。</source>
-        <translation>How the source's channels reach the outputs; auto lets the program decide.</translation>
+        <translation>How the source&apos;s channels reach the outputs; auto lets the program decide.</translation>
     </message>
     <message>
         <source>分频点</source>
@@ -367,7 +374,7 @@
     </message>
     <message>
         <source>重采样到设备速率</source>
-        <translation>Resample to the device's rate</translation>
+        <translation>Resample to the device&apos;s rate</translation>
     </message>
     <message>
         <source>改变样本，不是比特完美。</source>
@@ -387,7 +394,7 @@
     </message>
     <message>
         <source>按文件里的 ReplayGain 标签拉平响度。</source>
-        <translation>Evens out loudness by the file's ReplayGain tags.</translation>
+        <translation>Evens out loudness by the file&apos;s ReplayGain tags.</translation>
     </message>
     <message>
         <source>关闭</source>
@@ -514,7 +521,7 @@
     </message>
     <message>
         <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
-        <translation>No audio sample 5 s after start -- engine's last line: %1</translation>
+        <translation>No audio sample 5 s after start -- engine&apos;s last line: %1</translation>
     </message>
     <message>
         <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
@@ -529,7 +536,7 @@
     <name>PlayerGuiWindow</name>
     <message>
         <source>引擎日志: 由引擎放在它自己的默认位置</source>
-        <translation>Engine log: left to the engine's own default location</translation>
+        <translation>Engine log: left to the engine&apos;s own default location</translation>
     </message>
     <message>
         <source>引擎日志（保留，退出时不删）: %1</source>
@@ -617,7 +624,7 @@
     </message>
     <message>
         <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>Position and total follow the source's timeline; at %1 times the speed it takes about %2</translation>
+        <translation>Position and total follow the source&apos;s timeline; at %1 times the speed it takes about %2</translation>
     </message>
     <message>
         <source>进度 %1%</source>

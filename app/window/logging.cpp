@@ -1,31 +1,25 @@
 // The window's log: pane, file, stage label, crash guard.
 #include "ui/window/player_gui_window.h"
 
+#include "app/crash_guard.h"
 #include "app/gui_log_file.h"
 #include "app/startup_metrics.h"
 #include "platform/process_facts.h"
 #include "ui/log_pane.h"
-
-#include <utility>
-
-using namespace Qt::StringLiterals;
 
 void PlayerGuiWindow::logLine(const QString &text, bool isError)
 {
     logFileOnly(text);
     if (!m_ui.log)
         return;
-    m_log.batch.append({text, isError});
-    if (std::exchange(m_log.flushPosted, true))
-        return;
     // A burst of lines costs one repaint.
-    QMetaObject::invokeMethod(this, &PlayerGuiWindow::flushLog, Qt::QueuedConnection);
+    if (m_log.batch.add({text, isError}))
+        QMetaObject::invokeMethod(this, &PlayerGuiWindow::flushLog, Qt::QueuedConnection);
 }
 
 void PlayerGuiWindow::flushLog()
 {
-    m_log.flushPosted = false;
-    m_ui.log->appendEntries(std::exchange(m_log.batch, {}));
+    m_ui.log->appendEntries(m_log.batch.take());
 }
 
 void PlayerGuiWindow::logFileOnly(const QString &text)
@@ -40,8 +34,7 @@ QString PlayerGuiWindow::markStage(const QString &label)
 
 void PlayerGuiWindow::crashGuard(const QString &functionName, const std::exception *exception)
 {
-    const QString text = exception ? QString::fromLocal8Bit(exception->what()) : u"unknown exception"_s;
-    logLine(u"[crash-guard] %1: %2"_s.arg(functionName, text), true);
+    logLine(crashGuardText(functionName, exception), true);
 }
 
 void PlayerGuiWindow::reportStartupMetrics()

@@ -1,13 +1,14 @@
 // The facts for the engine's command line, gathered from the controls and the settings.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
+#include "app/stored_params.h"
 #include "engine/audible_effects.h"
 #include "engine/engine_location.h"
 #include "engine/engine_log.h"
 #include "engine/session_kind.h"
 #include "output/engine_controls.h"
+#include "platform/settings_table.h"
 #include "ui/dock_bar.h"
 
 #include <QCoreApplication>
@@ -24,7 +25,7 @@ void PlayerGuiWindow::locateEngine()
 
 bool PlayerGuiWindow::isInProcessPreferred() const
 {
-    const bool stored = SettingsStore().value(settings_key::engineInproc, true).toBool();
+    const bool stored = readUserSetting(settings::engineInproc);
     return ::isInProcessPreferred(sessionKindFacts(stored));
 }
 
@@ -37,14 +38,14 @@ bool PlayerGuiWindow::effectsAudible() const
 
 EngineArgsInput PlayerGuiWindow::engineArgsInput() const
 {
-    namespace key = settings_key;
-    const SettingsStore store;
+    SettingsStore file;
+    const QSettingsAccess store(file);
     const EngineControls &engine = *m_ui.engine;
     EngineArgsInput input;
     input.parentPid = QCoreApplication::applicationPid();
-    input.dspPlugins = store.value(key::dspPlugins, false).toBool();
-    input.prefetchDecode = store.value(key::prefetchDecode, false).toBool();
-    input.vizMode = store.value(key::vizMode, 1).toInt();
+    input.dspPlugins = readSetting(store, settings::dspPlugins);
+    input.prefetchDecode = readSetting(store, settings::prefetchDecode);
+    input.vizMode = vizModeAtTrackStart(store);
     input.effectsAudible = effectsAudible();
     input.mode = engine.mode->currentText();
     input.channelCount = engine.channelCount();
@@ -93,7 +94,7 @@ void PlayerGuiWindow::tellNotices(const QList<EngineArgsNotice> &notices)
 
 void PlayerGuiWindow::prepareSessionLog()
 {
-    const bool keep = SettingsStore().value(settings_key::keepEngineLog, false).toBool();
+    const bool keep = readUserSetting(settings::keepEngineLog);
     m_link.logPath = prepareEngineLog(u"kelp-player"_s, &m_link.logHolder, keep);
     m_link.hostCopy.reset();
     m_link.hostLineCount = 0;

@@ -1,11 +1,11 @@
 // The one current session: its making, its timers, its account of control lines.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
 #include "app/stall_report.h"
 #include "engine/control_closure.h"
 #include "engine/line_mailbox.h"
+#include "platform/settings_table.h"
 
 #include <QDateTime>
 #include <QThread>
@@ -24,7 +24,7 @@ constexpr int lagTestMs = 300;
 SessionOptions PlayerGuiWindow::sessionOptions()
 {
     SessionOptions options;
-    options.kind = sessionKindFacts(SettingsStore().value(settings_key::engineInproc, true).toBool());
+    options.kind = sessionKindFacts(readUserSetting(settings::engineInproc));
     options.exchangeStage = [this](const QString &label) { return markStage(label); };
     return options;
 }

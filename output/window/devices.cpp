@@ -1,10 +1,10 @@
 // The device combos and what is known of their devices.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
 #include "engine/output_lines.h"
 #include "output/device_list.h"
+#include "platform/settings_table.h"
 
 using namespace Qt::StringLiterals;
 
@@ -83,7 +83,7 @@ void PlayerGuiWindow::applyDeviceList(const DeviceListing &listing)
             logLine(tr("设备列表 (-list): %1").arg(noted.join(u" | "_s)));
     }
     if (!std::exchange(m_devices.devicesRestored, true)) {
-        const QStringList stored = SettingsStore().value(settings_key::devices).toStringList();
+        const QStringList stored = readUserSetting(settings::devices);
         for (qsizetype i = 0; i < std::min(stored.size(), m_devices.deviceCombos.size()); ++i)
             selectDevice(m_devices.deviceCombos.at(i), stored.at(i));
     }

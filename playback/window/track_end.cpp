@@ -1,9 +1,9 @@
 // The end of a track and of a session, and what comes after it.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
 #include "output/engine_controls.h"
+#include "platform/settings_table.h"
 #include "playback/end_verdict.h"
 #include "playback/no_audio_report.h"
 #include "playback/playlist_widget.h"
@@ -169,9 +169,8 @@ void PlayerGuiWindow::segmentChanged(int number)
     m_start.lastPlayed = entry.path;
     if (const int row = m_ui.playlist->rowOfKey(key); row >= 0)
         showMessage(tr("正在播放… %1/%2").arg(row + 1).arg(m_ui.playlist->count()));
-    SettingsStore store;
-    store.setValue(settings_key::lastPlayed, m_start.lastPlayed);
-    store.setValue(settings_key::lastPlayedKey, m_start.lastPlayedKey);
+    writeUserSetting(settings::lastPlayed, m_start.lastPlayed);
+    writeUserSetting(settings::lastPlayedKey, m_start.lastPlayedKey);
 }
 
 void PlayerGuiWindow::commitPlayStat() {}

@@ -1,8 +1,6 @@
 // What the listener does to playback: start, pause, stop, step.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
-#include "app/settings_store.h"
 #include "engine/device_reset.h"
 #include "playback/playlist_widget.h"
 #include "playback/row_order.h"

@@ -1,8 +1,8 @@
 // The end of the window.
 #include "ui/window/player_gui_window.h"
 
-#include "app/settings_keys.h"
 #include "app/settings_store.h"
+#include "platform/settings_table.h"
 
 #include <QCloseEvent>
 #include <QMessageBox>
@@ -33,7 +33,7 @@ void PlayerGuiWindow::closeEvent(QCloseEvent *event)
     }
     m_closing = true;
     saveParams();
-    SettingsStore().setValue(settings_key::geometry, saveGeometry());
+    writeUserSetting(settings::geometry, saveGeometry());
     killProc(false);
     event->accept();
 }

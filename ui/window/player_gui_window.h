@@ -41,6 +41,7 @@ public:
     void loadParams();
     void saveParams();
     void restoreCombo(QSettings &store, QLatin1StringView key, QComboBox *combo);
+    void restoreComboText(const QString &stored, QComboBox *combo);
     void saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo);
 
     // ── the link to the engine (engine/window) ──
