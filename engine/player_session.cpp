@@ -1,0 +1,3 @@
+#include "engine/player_session.h"
+
+PlayerSession::~PlayerSession() = default;

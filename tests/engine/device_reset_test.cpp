@@ -1,0 +1,47 @@
+#include "engine/device_reset.h"
+
+#include "engine/session_support.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace session_support;
+
+namespace {
+
+struct Entry
+{
+    QString text;
+    bool isError = false;
+};
+
+QList<Entry> reset(const QString &program)
+{
+    QList<Entry> log;
+    resetDeviceAfterKill(program, u"100%1 forced"_s, [&log](const QString &text, bool isError) {
+        log.append({text, isError});
+    });
+    return log;
+}
+
+TEST(DeviceReset, WithoutAKnownEngineNothingHappens)
+{
+    EXPECT_TRUE(reset({}).isEmpty());
+}
+
+TEST(DeviceReset, LogsTheReasonAndTheCode)
+{
+    const auto log = reset(engineProgramPath());
+    ASSERT_EQ(log.size(), 1);
+    EXPECT_EQ(log[0].text, u"100%1 forced ⇒ -reset-device rc=0 (设备已清)"_s);
+    EXPECT_FALSE(log[0].isError);
+}
+
+TEST(DeviceReset, AnEngineThatCannotBeStartedIsAnError)
+{
+    const auto log = reset(u"/nowhere/engine"_s);
+    ASSERT_EQ(log.size(), 1);
+    EXPECT_TRUE(log[0].isError);
+}
+
+} // namespace
