@@ -21,13 +21,16 @@ enum class PdmFilter
 const char *pdmFilterName(PdmFilter filter);
 std::optional<PdmFilter> pdmFilterByName(std::string_view name);
 
-/// Decodes DSD to PCM: a linear-phase low-pass with decimation, computed a byte at a time from tables.
+/// Decodes DSD to PCM: a linear-phase low-pass with decimation, computed a byte at a time from tables (the
+/// bands stand at pdmBand in pdm_filter.h). Its delay is taken out: PCM frame k stands at the time of DSD bit
+/// k · ratio, and before the first and behind the last bit the filter sees DSD silence, so a track neither
+/// begins nor ends with a step. However the input is cut into calls, the same samples come out.
 /// 0 dB of DSD (a modulation of 50 %, SA-CD Scarlet Book) becomes −6.02 dBFS, so that peaks the format allows
 /// do not clip. Decoder thread.
 class PdmDecimator
 {
 public:
-    /// dsdRateHz / pcmRateHz must be a whole number of 8 or more (see pcmRatesFor).
+    /// The rates must be ones that supports() accepts and channels 1 or more; otherwise nothing comes out.
     PdmDecimator(PdmFilter filter, int dsdRateHz, int pcmRateHz, int channels);
     ~PdmDecimator();
 
@@ -38,6 +41,8 @@ public:
     void flush(std::vector<double> &out);
     void reset();
 
+    /// Whether dsdRateHz / pcmRateHz is a whole multiple of 8, and the PCM rate 44100 Hz or more.
+    static bool supports(int dsdRateHz, int pcmRateHz);
     /// PCM rates that a DSD rate can be decoded to, highest first, 352800 Hz at most.
     static std::vector<int> pcmRatesFor(int dsdRateHz);
 

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace kelp_core {
 
@@ -37,6 +38,15 @@ struct ReadOutcome
     std::string message; ///< UTF-8, one line, no line end; only with failed
 };
 
+/// A track within a source that plays several as one, such as a whole CUE sheet.
+struct SourceSegment
+{
+    int number = 0;         ///< as its sheet or image counts
+    int64_t startFrame = 0; ///< within the source; segments come in ascending order
+    std::string title;      ///< UTF-8, one line, may be empty
+    std::string performer;  ///< as title
+};
+
 /// One track, decoded from its start to its end. Used by one thread at a time (the decoder thread).
 class Source
 {
@@ -50,6 +60,9 @@ public:
     /// Moves to a frame of the track (0 is the track's first), sample-accurate; a target past the end gives
     /// an end at the next read. False when the source cannot be moved; it then stays where it was.
     [[nodiscard]] virtual bool seekFrame(int64_t frame) = 0;
+
+    /// The tracks of a source that is several in one; empty for a single track. Never changes.
+    virtual std::vector<SourceSegment> segments() const { return {}; }
 };
 
 /// Which track is wanted. Paths are the bytes the file system uses, of any encoding.

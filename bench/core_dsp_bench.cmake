@@ -1,0 +1,1 @@
+kelp_bench(core_dsp_bench SOURCES dsp_bench.cpp LINK core_dsp)

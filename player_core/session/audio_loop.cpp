@@ -1,0 +1,419 @@
+#include "player_core/session/audio_loop.h"
+
+#include "player_core/dsp/crossfade.h"
+
+#include <algorithm>
+
+#include <pthread.h>
+#include <sched.h>
+#include <sys/resource.h>
+
+namespace kelp_core {
+
+namespace {
+
+constexpr auto deviceStuckAfter = std::chrono::seconds(10);
+constexpr auto idlePoll = std::chrono::milliseconds(2);
+constexpr double tapSec = 0.5;
+
+/// A tenth of a second has ten chunks of this: short enough for quick answers, long enough to cost nothing.
+size_t chunkFor(const WireFormat &wire)
+{
+    return std::clamp<size_t>(static_cast<size_t>(wire.frameRateHz) / 100, 64, 8192);
+}
+
+/// Both may be refused to an ordinary user; the ring and the device's buffer are deep enough without.
+void raisePriority()
+{
+    sched_param param{};
+    param.sched_priority = 10;
+    if (pthread_setschedparam(pthread_self(), SCHED_FIFO, &param) != 0)
+        setpriority(PRIO_PROCESS, 0, -11);
+}
+
+} // namespace
+
+AudioLoop::AudioLoop(Output &output, const AudioSetup &setup)
+    : output_(output)
+    , opened_(output.opened())
+    , wire_(opened_.wire)
+    , setup_(setup)
+    , channels_(static_cast<size_t>(std::max(1, wire_.channels)))
+    , tapChannels_(std::min(2, std::max(1, wire_.channels)))
+    , chunkFrames_(chunkFor(wire_))
+    , pcmWriter_(wire_)
+    , dsdWriter_(wire_)
+    , dsdPerWire_(isDsd() ? dsdWriter_.dsdFramesPerWireFrame() : 1)
+    , ramp_(wire_.frameRateHz, setup.gain)
+    , mix_(chunkFrames_ * channels_)
+    , other_(chunkFrames_ * channels_)
+    , tapScratch_(chunkFrames_ * 2)
+    , dsd_(isDsd() ? (chunkFrames_ + 1) * dsdPerWire_ * channels_ : 0)
+    , dsdTapScratch_(isDsd() ? (chunkFrames_ + 1) * dsdPerWire_ * 2 : 0)
+    , bytes_(chunkFrames_ * static_cast<size_t>(wire_.bytesPerFrame()))
+    , gain_(setup.gain)
+    , pcmTap_(isDsd() ? 0 : static_cast<size_t>(tapSec * wire_.frameRateHz) * 2)
+    , dsdTap_(isDsd() ? static_cast<size_t>(tapSec * wire_.frameRateHz) * dsdPerWire_ * 2 : 0)
+{
+    thread_ = std::thread([this] { run(); });
+}
+
+AudioLoop::~AudioLoop()
+{
+    finish();
+}
+
+void AudioLoop::command(const AudioCommand &command)
+{
+    // The loop empties the ring at every chunk; should a device hold it up, a host that floods us waits.
+    while (!commands_.push(command) && !hurry_.load())
+        std::this_thread::sleep_for(idlePoll);
+}
+
+void AudioLoop::finish()
+{
+    hurry_.store(true);
+    output_.interrupt();
+    if (thread_.joinable())
+        thread_.join();
+}
+
+void AudioLoop::run()
+{
+    pthread_setname_np(pthread_self(), "kelp-audio");
+    raisePriority();
+    while (true) {
+        takeCommands();
+        if (quit_ || hurry_.load(std::memory_order_relaxed))
+            break;
+        const Step done = step();
+        if (done == Step::gone) {
+            event(AudioEventKind::deviceGone, 0, nullptr, 0);
+            break;
+        }
+        if (done == Step::wait)
+            std::this_thread::sleep_for(idlePoll);
+    }
+    if (quit_ && !hurry_.load())
+        playOut();
+}
+
+void AudioLoop::playOut()
+{
+    // While the buffer empties, the listener's position still moves; the device's own way of draining is only
+    // for the last moment, or for a device that did not start on so few frames.
+    const auto low = static_cast<int64_t>(2 * chunkFrames_);
+    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load(); publish()) {
+        before = state_.delay;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    output_.drain();
+    state_.delay = 0;
+    board_.publish(state_);
+}
+
+void AudioLoop::takeCommands()
+{
+    AudioCommand command{};
+    while (commands_.pop(command))
+        apply(command);
+}
+
+void AudioLoop::apply(const AudioCommand &command)
+{
+    switch (command.kind) {
+    case AudioCommandKind::play:
+        beginSwitch(command.deck);
+        break;
+    case AudioCommandKind::follow:
+        if (!current_) // the present one has ended in the meantime
+            return beginSwitch(command.deck);
+        release(next_);
+        next_ = command.deck;
+        fadeFrames_ = isDsd() ? 0 : command.fadeFrames;
+        break;
+    case AudioCommandKind::pause:
+        paused_ = true;
+        ramp_.setTarget(0.0);
+        break;
+    case AudioCommandKind::resume:
+        paused_ = false;
+        ramp_.setTarget(gain_);
+        break;
+    case AudioCommandKind::gain:
+        gain_ = command.gain;
+        if (!paused_ && !switchTo_)
+            ramp_.setTarget(gain_);
+        break;
+    }
+}
+
+void AudioLoop::beginSwitch(Deck *deck)
+{
+    release(next_);
+    release(switchTo_);
+    switchTo_ = deck;
+    // DSD cannot be faded; and what is silent already needs no fade.
+    const bool silent = !current_ || (paused_ && ramp_.settled());
+    paused_ = false;
+    if (isDsd() || silent)
+        return finishSwitch();
+    ramp_.setTarget(0.0);
+}
+
+void AudioLoop::finishSwitch()
+{
+    release(leaving_);
+    release(current_);
+    current_ = switchTo_;
+    switchTo_ = nullptr;
+    fadeLength_ = 0;
+    dsdCarry_ = 0;
+    sounding_ = false;
+    ramp_.jump(gain_);
+}
+
+void AudioLoop::release(Deck *&deck)
+{
+    if (deck)
+        event(AudioEventKind::deckFree, 0, deck, 0);
+    deck = nullptr;
+}
+
+void AudioLoop::event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames)
+{
+    // Room for 1,024 events is more than a telemetry tick can bring; a lost one would hang a track's end, so
+    // rather wait.
+    while (!events_.push({kind, serial, deck, state_.written, frames}) && !hurry_.load())
+        std::this_thread::sleep_for(idlePoll);
+}
+
+AudioLoop::Step AudioLoop::step()
+{
+    if (switchTo_ && ramp_.settled())
+        finishSwitch();
+    if (!current_ && state_.written == 0)
+        return Step::wait; // the first thing a device hears is music
+    if (!current_ || (paused_ && (isDsd() || ramp_.settled())))
+        return silence();
+    return playMusic();
+}
+
+AudioLoop::Step AudioLoop::playMusic()
+{
+    noteStart();
+    if (!current_->finished())
+        return isDsd() ? playDsd() : playPcm();
+    if (isDsd() && dsdCarry_ > 0) {
+        // The last bits of the track, filled up to a frame of the device.
+        const size_t filled = dsdPerWire_ - dsdCarry_;
+        std::fill_n(dsd_.begin() + static_cast<std::ptrdiff_t>(dsdCarry_ * channels_), filled * channels_,
+                    dsdSilence);
+        dsdCarry_ = 0;
+        dsdWriter_.write(dsd_.data(), dsdPerWire_, bytes_.data());
+        return writeMusic(1);
+    }
+    toNextDeck();
+    return Step::written;
+}
+
+void AudioLoop::noteStart()
+{
+    while (const auto start = current_->takeTrackStart()) {
+        event(AudioEventKind::trackStarted, start->serial, current_, state_.trackFrames);
+        state_.serial = start->serial;
+        state_.trackFrames = 0;
+        state_.trackWrittenAt = state_.written;
+        dither_ = start->dither;
+        sounding_ = false;
+    }
+}
+
+void AudioLoop::toNextDeck()
+{
+    if (switchTo_)
+        return finishSwitch();
+    release(current_);
+    current_ = next_;
+    next_ = nullptr;
+    sounding_ = false;
+    if (current_)
+        return;
+    event(AudioEventKind::chainEnded, state_.serial, nullptr, state_.trackFrames);
+    quit_ = setup_.drainAtEnd;
+}
+
+AudioLoop::Step AudioLoop::playPcm()
+{
+    if (fadeLength_ > 0)
+        return crossfadeStep(fadeLength_ - fadePosition_);
+    size_t want = chunkFrames_;
+    if (next_ && fadeFrames_ > 0) {
+        const int64_t left = current_->framesLeft();
+        if (left >= 0 && left <= fadeFrames_ && left > 0 && next_->available() > 0) {
+            fadeLength_ = left;
+            fadePosition_ = 0;
+            // From here on the new track is the one that plays.
+            leaving_ = current_;
+            current_ = next_;
+            next_ = nullptr;
+            noteStart();
+            return crossfadeStep(left);
+        }
+        if (left > fadeFrames_)
+            want = std::min<size_t>(want, static_cast<size_t>(left - fadeFrames_));
+    }
+    const size_t n = current_->read(mix_.data(), want);
+    if (n == 0)
+        return current_->finished() ? Step::written : starve();
+    return writePcm(n, false);
+}
+
+AudioLoop::Step AudioLoop::crossfadeStep(int64_t left)
+{
+    // Both give the same number of frames, or the fade would drift.
+    size_t n = std::min<size_t>(chunkFrames_, static_cast<size_t>(left));
+    const bool leavingDone = !leaving_ || leaving_->finished();
+    if (!leavingDone) {
+        n = std::min(n, leaving_->available());
+        if (n == 0)
+            return starve();
+    }
+    n = std::min(n, current_->available());
+    if (n == 0 && !current_->finished())
+        return starve();
+    if (n > 0) {
+        n = current_->read(mix_.data(), n);
+        const size_t m = leavingDone ? 0 : leaving_->read(other_.data(), n);
+        std::fill(other_.begin() + static_cast<std::ptrdiff_t>(m * channels_),
+                  other_.begin() + static_cast<std::ptrdiff_t>(n * channels_), 0.0);
+        crossfade(other_.data(), mix_.data(), mix_.data(), n, static_cast<int>(channels_),
+                  static_cast<size_t>(fadePosition_), static_cast<size_t>(fadeLength_));
+        fadePosition_ += static_cast<int64_t>(n);
+    }
+    if (fadePosition_ >= fadeLength_ || n == 0) {
+        fadeLength_ = 0;
+        release(leaving_);
+    }
+    return n > 0 ? writePcm(n, true) : Step::written;
+}
+
+AudioLoop::Step AudioLoop::writePcm(size_t frames, bool mixing)
+{
+    ramp_.apply(mix_.data(), frames, static_cast<int>(channels_));
+    const bool unity = ramp_.isUnity() && !mixing;
+    state_.unity = unity;
+    state_.dithered = dither_ || !unity;
+    pcmWriter_.write(mix_.data(), frames, bytes_.data(), state_.dithered);
+    const size_t tap = static_cast<size_t>(tapChannels_);
+    if (pcmTap_.space() >= frames * tap) {
+        for (size_t f = 0; f < frames; ++f)
+            for (size_t c = 0; c < tap; ++c)
+                tapScratch_[f * tap + c] = mix_[f * channels_ + c];
+        pcmTap_.write(tapScratch_.data(), frames * tap);
+    }
+    return writeMusic(frames);
+}
+
+AudioLoop::Step AudioLoop::playDsd()
+{
+    const size_t room = chunkFrames_ * dsdPerWire_ - dsdCarry_;
+    const size_t n = current_->read(dsd_.data() + dsdCarry_ * channels_, room);
+    if (n == 0)
+        return current_->finished() ? Step::written : starve();
+    const size_t tap = static_cast<size_t>(tapChannels_);
+    if (dsdTap_.space() >= n * tap) {
+        for (size_t f = 0; f < n; ++f)
+            for (size_t c = 0; c < tap; ++c)
+                dsdTapScratch_[f * tap + c] = dsd_[(dsdCarry_ + f) * channels_ + c];
+        dsdTap_.write(dsdTapScratch_.data(), n * tap);
+    }
+    const size_t total = dsdCarry_ + n;
+    const size_t whole = total / dsdPerWire_;
+    dsdWriter_.write(dsd_.data(), whole * dsdPerWire_, bytes_.data());
+    dsdCarry_ = total - whole * dsdPerWire_;
+    std::copy_n(dsd_.begin() + static_cast<std::ptrdiff_t>(whole * dsdPerWire_ * channels_),
+                dsdCarry_ * channels_, dsd_.begin());
+    state_.unity = true;
+    state_.dithered = false;
+    return whole > 0 ? writeMusic(whole) : Step::written;
+}
+
+AudioLoop::Step AudioLoop::starve()
+{
+    // Before a track's first frame, and while the device has enough in hand, waiting costs nothing.
+    if (!opened_.clocked)
+        return Step::wait;
+    const bool fed = state_.written > 0;
+    if (!fed || output_.delayFrames() > static_cast<int64_t>(2 * chunkFrames_))
+        return Step::wait;
+    if (sounding_) {
+        starved_.fetch_add(1, std::memory_order_relaxed);
+        sounding_ = false; // once a gap
+    }
+    return silence();
+}
+
+AudioLoop::Step AudioLoop::silence()
+{
+    const size_t frames = chunkFrames_;
+    if (!opened_.clocked) {
+        const auto now = std::chrono::steady_clock::now();
+        if (now < silenceUntil_)
+            return Step::wait;
+        const auto length = std::chrono::nanoseconds(1'000'000'000ll * static_cast<int64_t>(frames) /
+                                                     std::max(1, wire_.frameRateHz));
+        // A pause that has just begun starts its clock now; afterwards the clock runs on without drift.
+        const bool running = now - silenceUntil_ < length;
+        silenceUntil_ = (running ? silenceUntil_ : now) + length;
+    }
+    if (isDsd()) {
+        dsdWriter_.silence(frames, bytes_.data());
+    } else {
+        std::fill(mix_.begin(), mix_.end(), 0.0);
+        pcmWriter_.write(mix_.data(), frames, bytes_.data(), false);
+    }
+    return writeOut(frames);
+}
+
+AudioLoop::Step AudioLoop::writeMusic(size_t wireFrames)
+{
+    state_.trackFrames += static_cast<int64_t>(wireFrames);
+    state_.trackWrittenAt = state_.written + wireFrames;
+    sounding_ = true;
+    return writeOut(wireFrames);
+}
+
+AudioLoop::Step AudioLoop::writeOut(size_t wireFrames)
+{
+    const size_t frameBytes = static_cast<size_t>(wire_.bytesPerFrame());
+    size_t done = 0;
+    while (done < wireFrames) {
+        const long n = output_.write(bytes_.data() + done * frameBytes, wireFrames - done);
+        if (n < 0)
+            return Step::gone;
+        if (n > 0) {
+            done += static_cast<size_t>(n);
+            refusedSince_ = {};
+            continue;
+        }
+        if (hurry_.load(std::memory_order_relaxed))
+            return Step::written;
+        const auto now = std::chrono::steady_clock::now();
+        if (refusedSince_ == std::chrono::steady_clock::time_point{})
+            refusedSince_ = now;
+        else if (now - refusedSince_ > deviceStuckAfter)
+            return Step::gone;
+    }
+    state_.written += wireFrames;
+    publish();
+    return Step::written;
+}
+
+void AudioLoop::publish()
+{
+    state_.delay = output_.delayFrames();
+    board_.publish(state_);
+}
+
+} // namespace kelp_core

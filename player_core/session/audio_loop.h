@@ -1,0 +1,164 @@
+#pragma once
+
+#include "player_core/dsp/volume.h"
+#include "player_core/dsp/wire_writer.h"
+#include "player_core/output/output.h"
+#include "player_core/session/deck.h"
+#include "player_core/session/playback_state.h"
+#include "player_core/session/spsc_ring.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstdint>
+#include <thread>
+#include <vector>
+
+namespace kelp_core {
+
+enum class AudioCommandKind
+{
+    play,   ///< leave what sounds (with a short fade) and begin with `deck`; ends a pause
+    follow, ///< `deck` follows the present one, mixed over fadeFrames when these are above 0
+    pause,
+    resume,
+    gain, ///< move to the gain
+};
+
+struct AudioCommand
+{
+    AudioCommandKind kind;
+    Deck *deck = nullptr;
+    int64_t fadeFrames = 0;
+    double gain = 1.0;
+};
+
+enum class AudioEventKind
+{
+    trackStarted, ///< its first frame has been handed over
+    chainEnded,   ///< the last frame of the last deck has been handed over
+    deckFree,     ///< the deck is not used any more
+    deviceGone,
+};
+
+struct AudioEvent
+{
+    AudioEventKind kind;
+    uint32_t serial = 0;
+    const Deck *deck = nullptr;
+    uint64_t at = 0;    ///< frames handed over before the event
+    int64_t frames = 0; ///< trackStarted, chainEnded: frames of the track that was left
+};
+
+struct AudioSetup
+{
+    double gain = 1.0;
+    /// Play out and leave by itself at the end of the chain, instead of feeding silence.
+    bool drainAtEnd = false;
+};
+
+/// The audio thread: takes samples from decks, scales, fades and mixes them, writes them to the device, and
+/// keeps the device fed with silence while nothing plays.
+///
+/// Inside the loop nothing is allocated, locked, logged or opened; the session thread speaks to it by a ring
+/// of commands, and hears from it by a ring of events, a board and two taps of samples. A device without a
+/// clock takes music as fast as it comes and silence at the pace of the clock, so that a pause does not fill
+/// a disk.
+class AudioLoop
+{
+public:
+    AudioLoop(Output &output, const AudioSetup &setup);
+    ~AudioLoop(); ///< as finish()
+    AudioLoop(const AudioLoop &) = delete;
+    AudioLoop &operator=(const AudioLoop &) = delete;
+
+    void command(const AudioCommand &command); ///< session thread
+    /// Ends and joins the thread, within the time of one write. Session thread.
+    void finish();
+
+    SpscRing<AudioEvent> &events() { return events_; }
+    SpscRing<double> &pcmTap() { return pcmTap_; }  ///< what the device gets, two channels interleaved
+    SpscRing<uint8_t> &dsdTap() { return dsdTap_; } ///< the same for DSD, before it is packed
+    const PlaybackBoard &board() const { return board_; }
+    int tapChannels() const { return tapChannels_; }
+    /// Times the decoder came too late. Any thread.
+    unsigned starved() const { return starved_.load(std::memory_order_relaxed); }
+
+private:
+    enum class Step
+    {
+        written,
+        wait, ///< nothing to do for a moment
+        gone, ///< the device
+    };
+
+    void run();
+    void playOut();
+    void takeCommands();
+    void apply(const AudioCommand &command);
+    Step step();
+    Step playMusic();
+    Step playPcm();
+    Step playDsd();
+    Step crossfadeStep(int64_t left);
+    Step silence();
+    Step starve();
+    Step writeMusic(size_t wireFrames);
+    Step writeOut(size_t wireFrames);
+    Step writePcm(size_t frames, bool mixing);
+    void noteStart();
+    void toNextDeck();
+    void release(Deck *&deck);
+    void beginSwitch(Deck *deck);
+    void finishSwitch();
+    void event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames);
+    void publish();
+    bool isDsd() const { return wire_.carrier != Carrier::pcm; }
+
+    Output &output_;
+    const OpenedOutput &opened_;
+    const WireFormat wire_;
+    const AudioSetup setup_;
+    const size_t channels_;
+    const int tapChannels_;
+    const size_t chunkFrames_; ///< at the device
+
+    PcmWriter pcmWriter_;
+    DsdWriter dsdWriter_;
+    const size_t dsdPerWire_;
+    GainRamp ramp_;
+    std::vector<double> mix_;
+    std::vector<double> other_;
+    std::vector<double> tapScratch_;
+    std::vector<uint8_t> dsd_;
+    std::vector<uint8_t> dsdTapScratch_;
+    size_t dsdCarry_ = 0; ///< frames left over from the last write, at the start of dsd_
+    std::vector<uint8_t> bytes_;
+
+    // Audio thread only.
+    Deck *current_ = nullptr;
+    Deck *next_ = nullptr;
+    Deck *leaving_ = nullptr; ///< while a crossfade is under way
+    Deck *switchTo_ = nullptr;
+    int64_t fadeFrames_ = 0; ///< wanted
+    int64_t fadeLength_ = 0; ///< of the fade in progress; 0: none
+    int64_t fadePosition_ = 0;
+    double gain_;
+    bool paused_ = false;
+    bool dither_ = false;
+    bool quit_ = false;
+    bool sounding_ = false; ///< the present track has begun
+    PlaybackState state_;
+    std::chrono::steady_clock::time_point silenceUntil_{};
+    std::chrono::steady_clock::time_point refusedSince_{};
+
+    SpscRing<AudioCommand> commands_{256};
+    SpscRing<AudioEvent> events_{1024};
+    SpscRing<double> pcmTap_;
+    SpscRing<uint8_t> dsdTap_;
+    PlaybackBoard board_;
+    std::atomic<unsigned> starved_{0};
+    std::atomic<bool> hurry_{false}; ///< leave at once, also from within a write
+    std::thread thread_;
+};
+
+} // namespace kelp_core

@@ -1,0 +1,183 @@
+#include "player_core/session/chain_report.h"
+
+#include "player_core/dsp/fixed_text.h"
+#include "player_core/dsp/volume.h"
+#include "player_core/session/output_lines.h"
+
+#include <algorithm>
+
+namespace kelp_core {
+
+namespace {
+
+std::string rateText(int rateHz)
+{
+    return std::to_string(rateHz) + " Hz";
+}
+
+/// The first of our stages that changes bits, in the order of the signal; empty when none does.
+std::string firstOwnChange(const ChainFacts &f)
+{
+    const TransformPlan &t = f.transform;
+    if (t.decodesDsd())
+        return dsdName(t.from.rateHz) + " is decoded to PCM at " + rateText(t.decodedRateHz());
+    if (t.resamples())
+        return "the rate is converted from " + rateText(t.decodedRateHz()) + " to " + rateText(t.toRateHz);
+    if (t.mapsChannels())
+        return std::to_string(t.from.channels) + " channels are mapped to " + std::to_string(t.toChannels);
+    if (f.volume.place == VolumePlace::software && f.volume.gain != 1.0)
+        return "the volume stage scales the samples by " + fixedText(decibels(f.volume.gain), 2) + " dB";
+    if (f.fading)
+        return "a fade is under way";
+    if (f.dithered)
+        return "the device takes " + std::to_string(f.output.wire.validBits) + " bits of the source's " +
+               std::to_string(f.source.format.depthBits);
+    return {};
+}
+
+bool readBackAgrees(const OpenedOutput &o)
+{
+    return o.readBack.rateHz == o.wire.frameRateHz && o.readBack.channels == o.wire.channels &&
+           (o.mixer || o.readBack.format == encodingName(o.wire.encoding));
+}
+
+std::string readBackText(const OpenedOutput &o)
+{
+    return rateText(o.readBack.rateHz) + ' ' + o.readBack.format + ' ' + std::to_string(o.readBack.channels) +
+           " channels";
+}
+
+/// What stands between us and the hardware and changes bits; empty when nothing is known to.
+std::string behindUs(const ChainFacts &f)
+{
+    const OpenedOutput &o = f.output;
+    if (o.readBack.known && !readBackAgrees(o))
+        return "the device runs at " + readBackText(o);
+    if (o.converts)
+        return "rate or format are converted behind us";
+    if (o.mixer)
+        return "the sound server's mixer stands in the way";
+    return {};
+}
+
+std::string sourceFormatText(const ChainFacts &f)
+{
+    return f.source.description + (f.source.lossless ? " (lossless)" : " (lossy coding)") +
+           (f.source.dst ? ", DST" : "");
+}
+
+std::string backendText(const OpenedOutput &o)
+{
+    std::string text = o.backend + ", device " + o.device;
+    if (!o.deviceLabel.empty() && o.deviceLabel != o.device)
+        text += " (" + o.deviceLabel + ')';
+    if (o.mixer)
+        return text + ", through a mixer";
+    return text + (o.exclusive ? ", exclusive" : "");
+}
+
+std::string carrierText(Carrier carrier)
+{
+    switch (carrier) {
+    case Carrier::pcm:
+        return "PCM";
+    case Carrier::dop:
+        return "DoP";
+    case Carrier::nativeDsd:
+        return "native DSD";
+    }
+    return {};
+}
+
+std::string outputFormatText(const OpenedOutput &o)
+{
+    const std::string sent = carrierText(o.wire.carrier) + ' ' + rateText(o.wire.frameRateHz) + ' ' +
+                             encodingName(o.wire.encoding) + ' ' + std::to_string(o.wire.channels) +
+                             " channels";
+    if (!o.readBack.known)
+        return sent + " handed over; what the hardware runs at is not known";
+    return sent + "; read back from the " + o.readBack.origin + ": " + readBackText(o);
+}
+
+std::string dspText(const ChainFacts &f)
+{
+    const TransformPlan &t = f.transform;
+    std::vector<std::string> active;
+    if (t.decodesDsd())
+        active.push_back(dsdName(t.from.rateHz) + " to PCM at " + rateText(t.decodedRateHz()) + ", filter " +
+                         pdmFilterName(t.filter));
+    if (t.resamples())
+        active.push_back("resampling to " + rateText(t.toRateHz) + ", quality " +
+                         resampleQualityName(t.quality));
+    if (t.mapsChannels())
+        active.push_back("channel mapping " + std::to_string(t.from.channels) + " to " +
+                         std::to_string(t.toChannels));
+    if (active.empty())
+        return "none (samples pass through untouched)";
+    std::string text = "ACTIVE: ";
+    for (size_t i = 0; i < active.size(); ++i)
+        text += (i ? "; " : "") + active[i];
+    return text;
+}
+
+std::string latencyText(double ms)
+{
+    return ms < 0 ? "not known yet" : fixedText(ms, 1) + " ms";
+}
+
+} // namespace
+
+std::string chainVerdict(const ChainFacts &f)
+{
+    const OpenedOutput &o = f.output;
+    const std::string own = firstOwnChange(f);
+    const bool otherFormat = o.converts || (o.readBack.known && !readBackAgrees(o));
+    if (o.mixer)
+        return otherFormat || !own.empty() ? "OS mixer AND format (" + (own.empty() ? behindUs(f) : own) + ")"
+                                           : "OS mixer (" + behindUs(f) + ")";
+    if (!own.empty())
+        return "converted (" + own + ")";
+    if (otherFormat)
+        return "converted (" + behindUs(f) + ")";
+    if (!o.readBack.known)
+        return "unknown (nothing of ours changes a bit; what the hardware runs at is not known)";
+    return std::string("clean (no stage changes a bit, and the device runs as the source does") +
+           (o.exclusive ? "; nobody else can write to it)" : ")");
+}
+
+std::string bitPerfectVerdict(const ChainFacts &f)
+{
+    const std::string own = firstOwnChange(f);
+    const std::string lossy = f.source.lossless ? "" : " The source itself is lossy.";
+    if (!own.empty())
+        return "NO: " + own + '.' + lossy;
+    if (const std::string behind = behindUs(f); !behind.empty())
+        return "NO: " + behind + '.' + lossy;
+    if (!f.output.readBack.known)
+        return "not known: nothing of ours changes a bit, but what the hardware runs at cannot be read "
+               "back." +
+               lossy;
+    return "YES: nothing of ours changes a bit, and the " + f.output.readBack.origin + " shows " +
+           readBackText(f.output) + '.' + lossy;
+}
+
+std::vector<std::string> chainReport(const ChainFacts &f)
+{
+    const std::string requested = f.deviceRequested.empty() ? "system default" : oneLine(f.deviceRequested);
+    return {"SIGNAL CHAIN BEGIN",
+            "source: " + oneLine(f.path),
+            "source format: " + sourceFormatText(f),
+            "device requested: " + requested,
+            "output backend: " + oneLine(backendText(f.output)),
+            "output format: " + outputFormatText(f.output),
+            "output latency: " + latencyText(f.latencyMs),
+            "dsp: " + dspText(f),
+            "speed: 1.00x",
+            volumeLine(f.volume),
+            "bit-perfect: " + bitPerfectVerdict(f),
+            "chain: " + chainVerdict(f),
+            "underruns: " + std::to_string(f.underruns),
+            "SIGNAL CHAIN END"};
+}
+
+} // namespace kelp_core

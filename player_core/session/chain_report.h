@@ -1,0 +1,39 @@
+#pragma once
+
+#include "player_core/dsp/effective_bits.h"
+#include "player_core/output/output.h"
+#include "player_core/session/stream_transform.h"
+#include "player_core/source/source.h"
+
+#include <string>
+#include <vector>
+
+namespace kelp_core {
+
+/// What the running stages are found to do, gathered from the stages themselves. Plain value.
+struct ChainFacts
+{
+    std::string path;
+    SourceFacts source;
+    std::string deviceRequested; ///< as `-dev` gave it; empty is the system default
+    OpenedOutput output;
+    TransformPlan transform;
+    double latencyMs = -1; ///< below 0: not measured yet
+    VolumeFacts volume;
+    bool fading = false;   ///< a fade or crossfade is under way
+    bool dithered = false; ///< the last samples were dithered
+    unsigned underruns = 0;
+};
+
+/// The block that tells the listener what is done to the signal: twelve labelled lines between "SIGNAL CHAIN
+/// BEGIN" and "SIGNAL CHAIN END".
+[[nodiscard]] std::vector<std::string> chainReport(const ChainFacts &facts);
+
+/// The value of "chain:": one of the five verdicts that front ends know, and why.
+[[nodiscard]] std::string chainVerdict(const ChainFacts &facts);
+
+/// The value of "bit-perfect:". "YES" only when nothing of ours changes a bit and the device was read back to
+/// run as the source does; a "NO" names the first stage that changes bits.
+[[nodiscard]] std::string bitPerfectVerdict(const ChainFacts &facts);
+
+} // namespace kelp_core

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "player_core/session/spsc_ring.h"
+#include "player_core/session/stream_transform.h"
+#include "player_core/source/source.h"
+
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <thread>
+
+namespace kelp_core {
+
+/// One track on its way into a deck.
+struct DeckTrack
+{
+    uint32_t serial = 0;
+    std::unique_ptr<Source> source;
+    int64_t startFrame = 0; ///< where the source stands, in its own frames
+    bool dither = false;    ///< its samples do not fit the device's depth
+};
+
+/// Told to the audio thread where a track begins.
+struct TrackStart
+{
+    int64_t frame = 0; ///< of the chain
+    uint32_t serial = 0;
+    bool dither = false;
+};
+
+struct DeckSetup
+{
+    TransformPlan transform;
+    double ringSec = 2.0; ///< how far the decoder reads ahead
+    bool clocked = true;  ///< the device paces us; without a clock the decoder looks for room more often
+    /// A track cannot be read further. Decoder thread.
+    std::function<void(uint32_t serial, const std::string &reason)> onFailed;
+};
+
+/// A chain of tracks that join without a gap, decoded ahead into a ring by a thread of its own.
+///
+/// The session thread makes it, chains tracks and destroys it (which ends the thread); the audio thread
+/// reads. Decoders keep their state over a join, so that not even the filter that decodes DSD sees an edge
+/// there.
+class Deck
+{
+public:
+    Deck(DeckSetup setup, DeckTrack first);
+    ~Deck();
+    Deck(const Deck &) = delete;
+    Deck &operator=(const Deck &) = delete;
+
+    /// Lets a track follow the last one. False when the end has already been sealed; the track then stays the
+    /// caller's. Session thread.
+    [[nodiscard]] bool chain(DeckTrack &track);
+
+    // What follows is the audio thread's; none of it waits or allocates.
+
+    /// The track that begins exactly at the next frame to be read, once.
+    std::optional<TrackStart> takeTrackStart();
+    /// Read up to `frames` frames, but never past the start of a track. Interleaved samples or DSD bytes.
+    size_t read(double *out, size_t frames);
+    size_t read(uint8_t *out, size_t frames);
+    /// Frames that can be read now.
+    size_t available() const;
+    /// Every frame has been read and none will follow.
+    bool finished() const;
+    /// The end is known and all that is left stands in the ring, so waiting brings no more.
+    bool sealed() const { return endFrame_.load(std::memory_order_acquire) >= 0; }
+    /// Frames to the end of the chain as far as it is known, else -1.
+    int64_t framesLeft() const;
+
+private:
+    void run();
+    void playTrack(DeckTrack &track);
+    void beginTrack(const DeckTrack &track);
+    bool nextTrack(DeckTrack &track);
+    bool putAll(const AudioBlock &block);
+    void fail(uint32_t serial, const std::string &reason);
+    size_t framesUntilStart(size_t frames) const;
+    template<typename T>
+    size_t readFrom(SpscRing<T> &ring, T *out, size_t frames);
+
+    DeckSetup setup_;
+    const size_t channels_;
+    const int64_t lowFrames_;
+    SpscRing<double> pcm_;
+    SpscRing<uint8_t> dsd_;
+    SpscRing<TrackStart> starts_{64};
+    std::atomic<int64_t> produced_{0};
+    std::atomic<int64_t> consumed_{0};
+    std::atomic<int64_t> expectedEnd_{-1};
+    std::atomic<int64_t> endFrame_{-1};
+
+    // Decoder thread only.
+    StreamTransform transform_;
+    double expectedFrames_ = 0; ///< sum over the tracks begun so far; below 0: not known
+    double reachedFrames_ = 0;  ///< where the track in work begins, by the sources' own counts
+
+    std::mutex mutex_;
+    std::condition_variable wake_;
+    std::optional<DeckTrack> queued_; // guarded by mutex_
+    bool ending_ = false;             // guarded by mutex_
+    bool endSealed_ = false;          // guarded by mutex_
+    std::thread thread_;
+};
+
+} // namespace kelp_core

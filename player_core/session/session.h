@@ -1,0 +1,139 @@
+#pragma once
+
+#include "player_core/session/audio_loop.h"
+#include "player_core/session/chain_report.h"
+#include "player_core/session/control_line.h"
+#include "player_core/session/control_reader.h"
+#include "player_core/session/deck.h"
+#include "player_core/session/line_writer.h"
+#include "player_core/session/load_plan.h"
+#include "player_core/session/mailbox.h"
+#include "player_core/session/options.h"
+#include "player_core/session/process_watch.h"
+#include "player_core/session/telemetry.h"
+#include "player_core/session/track_book.h"
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace kelp_core {
+
+/// What a session needs of the world; tests give their own.
+struct SessionServices
+{
+    std::function<OpenedSource(const SourceRequest &)> openSource;
+    std::function<OutputOutcome(const OutputRequest &)> openOutput;
+    /// The parts of a sheet that is played as a whole.
+    std::function<std::vector<Segment>(const std::string &cuePath)> segments;
+};
+
+/// How kelp_player_main ends.
+namespace exit_code {
+inline constexpr int done = 0;
+inline constexpr int unplayable = 1;
+inline constexpr int usage = 2;
+inline constexpr int stopped = 3;
+inline constexpr int noDevice = 4;
+} // namespace exit_code
+
+/// One run of the engine: opens sources and devices, and decides. All of its functions run on the session
+/// thread, the caller of run(); the other threads post to its mailbox.
+class Session
+{
+public:
+    Session(SessionOptions options, SessionServices services, LineWriter &lines);
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    /// Plays until the end and returns the exit code. Control lines come from where `control` says.
+    int run(const ControlOrigin &control);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    /// What a load line or the command line asks for.
+    struct LoadRequest
+    {
+        SourceRequest source;
+        double startSec = 0;
+        bool hasPosition = false; ///< `loadat`
+        bool fromCommandLine = false;
+        std::string shownPath() const;
+    };
+
+    void handle(const Message &message);
+    void handleLine(const std::string &text);
+    void handleControl(const ControlLine &line, const std::string &text);
+    void handleUnsupported(const ControlLine &line, const std::string &text);
+    void controlEnded();
+    void onTrackHeard(uint32_t serial);
+    void onTrackOver(uint32_t serial);
+    void passTime();
+    std::chrono::milliseconds waitTime() const;
+
+    // Loading (session_load.cpp).
+    void loadFirst();
+    void load(const LoadRequest &request);
+    LoadFacts loadFacts(const LoadRequest &request);
+    std::unique_ptr<Source> open(const LoadRequest &request, std::string &error);
+    DeckTrack enter(const LoadRequest &request, std::unique_ptr<Source> source);
+    void begin(const LoadRequest &request, std::unique_ptr<Source> source);
+    void preload(const LoadRequest &request, std::unique_ptr<Source> source);
+    void defer(const LoadRequest &request, const std::string &reason);
+    void fail(const LoadRequest &request, const std::string &reason);
+    bool openDevice(const StreamFormat &stream);
+    void closeDevice();
+    Deck &makeDeck(DeckTrack track);
+    TransformPlan transformFor(const StreamFormat &stream) const;
+    std::string whyNotOnThisDevice(const StreamFormat &stream) const;
+
+    void setVolume(int volume);
+    void pause();
+    void resume();
+    void park();
+    VolumeFacts volumeFacts() const;
+    void sayChain();
+    void end(int code);
+
+    const SessionOptions options_;
+    const SessionServices services_;
+    LineWriter &lines_;
+    std::shared_ptr<Mailbox> mailbox_ = std::make_shared<Mailbox>();
+    std::shared_ptr<std::atomic<bool>> cancel_ = std::make_shared<std::atomic<bool>>(false);
+    TrackBook book_;
+    Telemetry telemetry_;
+    ProcessWatch parent_;
+    bool hostOwned_ = false; ///< control comes through the host's function
+
+    std::unique_ptr<Output> output_;
+    std::unique_ptr<AudioLoop> loop_;
+    std::vector<std::unique_ptr<Deck>> decks_;
+    Deck *lastDeck_ = nullptr;  ///< the one that ends the chain
+    StreamFormat openedStream_; ///< what the device was opened for
+    TransformPlan transform_;   ///< of the track that is heard
+
+    bool playing_ = false;
+    bool paused_ = false;
+    bool inputEnded_ = false;
+    bool startUsed_ = false;  ///< `-start` has been applied
+    uint32_t lastSerial_ = 0; ///< of the track that was asked for last
+    uint32_t heardSerial_ = 0;
+    int volume_;
+    LoadRequest heardRequest_;            ///< what lastSerial_ came from
+    std::optional<LoadRequest> deferred_; ///< handed over early, but cannot join
+    std::optional<LoadRequest> parked_;   ///< paused so long that the device was given back
+    Clock::time_point deferredAt_{};
+    Clock::time_point idleSince_{};
+    Clock::time_point pausedSince_{};
+    Clock::time_point selfStarted_{};
+    std::set<std::string> warned_;
+    std::optional<int> exit_;
+};
+
+} // namespace kelp_core

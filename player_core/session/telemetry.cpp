@@ -1,0 +1,321 @@
+#include "player_core/session/telemetry.h"
+
+#include "player_core/dsp/fixed_text.h"
+#include "player_core/session/output_lines.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include <pthread.h>
+
+namespace kelp_core {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto tickPeriod = 25ms;
+constexpr auto levelPeriod = 50ms;
+constexpr auto progressPeriod = 100ms;
+constexpr auto latencyPeriod = 500ms;
+constexpr size_t tapStep = 8192;
+
+} // namespace
+
+Telemetry::Telemetry(LineWriter &lines, Mailbox &mailbox, const TrackBook &book)
+    : lines_(lines)
+    , mailbox_(mailbox)
+    , book_(book)
+{
+    thread_ = std::thread([this] { run(); });
+}
+
+Telemetry::~Telemetry()
+{
+    {
+        const std::lock_guard lock(mutex_);
+        ending_ = true;
+    }
+    wake_.notify_one();
+    thread_.join();
+}
+
+void Telemetry::attach(AudioLoop &loop, const Output &output)
+{
+    const std::lock_guard lock(mutex_);
+    const OpenedOutput &opened = output.opened();
+    loop_ = &loop;
+    output_ = &output;
+    dsd_ = opened.wire.carrier != Carrier::pcm;
+    frameRateHz_ = std::max(1, opened.wire.frameRateHz);
+    pending_.clear();
+    latencySeenMs_ = -1;
+    latencyToldMs_ = -1;
+    levels_ = LevelMeter();
+    spectrum_.reset();
+    scope_.reset();
+    levelDecoder_.reset();
+}
+
+void Telemetry::detach()
+{
+    const std::lock_guard lock(mutex_);
+    if (!loop_)
+        return;
+    pending_.clear();
+    track_.reset();
+    loop_ = nullptr;
+    output_ = nullptr;
+    spectrum_.reset();
+    scope_.reset();
+    levelDecoder_.reset();
+}
+
+void Telemetry::expect(uint32_t serial)
+{
+    const std::lock_guard lock(mutex_);
+    expected_ = serial;
+    if (track_ && track_->serial < serial)
+        track_.reset();
+}
+
+void Telemetry::setSpectrum(bool on)
+{
+    const std::lock_guard lock(mutex_);
+    if (on == spectrumOn_)
+        return;
+    spectrumOn_ = on;
+    spectrum_.reset();
+    if (track_)
+        saySpectrumHead();
+}
+
+void Telemetry::setScope(bool on)
+{
+    const std::lock_guard lock(mutex_);
+    if (on == scopeOn_)
+        return;
+    scopeOn_ = on;
+    scope_.reset();
+    if (track_)
+        sayWaveHead();
+}
+
+HeardPosition Telemetry::heard()
+{
+    const std::lock_guard lock(mutex_);
+    if (!track_ || !loop_)
+        return {};
+    return {track_->serial, positionSec(loop_->board().read())};
+}
+
+void Telemetry::run()
+{
+    pthread_setname_np(pthread_self(), "kelp-telemetry");
+    std::unique_lock lock(mutex_);
+    auto next = Clock::now();
+    while (!ending_) {
+        next = std::max(next + tickPeriod, Clock::now());
+        wake_.wait_until(lock, next, [this] { return ending_; });
+        if (!ending_ && loop_)
+            tick(Clock::now());
+    }
+}
+
+void Telemetry::tick(Clock::time_point now)
+{
+    // The board first: what it counts as heard then has its event in the ring already.
+    const PlaybackState state = loop_->board().read();
+    takeEvents();
+    const uint64_t unheard = static_cast<uint64_t>(std::max<int64_t>(0, state.delay));
+    handlePending(state.written > unheard ? state.written - unheard : 0);
+    takeSamples();
+    if (!track_)
+        return;
+    if (now >= nextLevels_) {
+        nextLevels_ = std::max(nextLevels_ + levelPeriod, now);
+        sayLevels();
+    }
+    if (now >= nextProgress_) {
+        nextProgress_ = std::max(nextProgress_ + progressPeriod, now);
+        sayProgress();
+    }
+    if (now >= nextLatency_) {
+        nextLatency_ = now + latencyPeriod;
+        sayLatency();
+    }
+}
+
+void Telemetry::takeEvents()
+{
+    AudioEvent event{};
+    while (loop_->events().pop(event)) {
+        if (event.kind == AudioEventKind::deckFree)
+            mailbox_.post({.kind = MessageKind::deckFree, .text = {}, .deck = event.deck});
+        else if (event.kind == AudioEventKind::deviceGone)
+            mailbox_.post({.kind = MessageKind::deviceGone, .text = output_->message()});
+        else
+            pending_.push_back(event);
+    }
+}
+
+void Telemetry::handlePending(uint64_t heardFrames)
+{
+    while (!pending_.empty()) {
+        const AudioEvent event = pending_.front();
+        // A start is heard with its first frame, or, of a track without any, with what comes behind it.
+        const bool starts = event.kind == AudioEventKind::trackStarted;
+        const bool passed = pending_.size() > 1 && pending_[1].at <= heardFrames;
+        if (starts ? event.at >= heardFrames && !passed : event.at > heardFrames)
+            return;
+        pending_.pop_front();
+        if (event.serial < expected_)
+            continue;
+        if (event.kind == AudioEventKind::trackStarted)
+            startTrack(event);
+        else
+            endTrack(event);
+    }
+}
+
+void Telemetry::startTrack(const AudioEvent &event)
+{
+    track_ = book_.find(event.serial);
+    if (!track_)
+        return;
+    segment_ = 0;
+    lines_.say(sourceLine(track_->facts));
+    lines_.say(progressLine(track_->startSec, track_->totalSec));
+    nextProgress_ = Clock::now() + progressPeriod;
+    saySpectrumHead();
+    sayWaveHead();
+    mailbox_.post({.kind = MessageKind::trackHeard, .text = {}, .serial = event.serial});
+}
+
+void Telemetry::endTrack(const AudioEvent &event)
+{
+    if (track_ && track_->serial == event.serial) {
+        const double seconds = track_->startSec + static_cast<double>(event.frames) / frameRateHz_;
+        lines_.say(progressLine(seconds, track_->totalSec));
+    }
+    track_.reset();
+    mailbox_.post({.kind = MessageKind::trackOver, .text = {}, .serial = event.serial});
+}
+
+double Telemetry::positionSec(const PlaybackState &state) const
+{
+    const auto heard = static_cast<int64_t>(state.written) - std::max<int64_t>(0, state.delay);
+    int64_t frames = 0;
+    if (state.serial == track_->serial) {
+        frames = state.trackFrames - std::max<int64_t>(0, static_cast<int64_t>(state.trackWrittenAt) - heard);
+    } else {
+        // The next track is being written while this one is still heard.
+        const auto it = std::find_if(pending_.begin(), pending_.end(), [](const AudioEvent &e) {
+            return e.kind == AudioEventKind::trackStarted;
+        });
+        if (it != pending_.end())
+            frames = it->frames - std::max<int64_t>(0, static_cast<int64_t>(it->at) - heard);
+    }
+    return track_->startSec + static_cast<double>(std::max<int64_t>(0, frames)) / frameRateHz_;
+}
+
+void Telemetry::sayProgress()
+{
+    const PlaybackState state = loop_->board().read();
+    if (state.serial != track_->serial && pending_.empty())
+        return;
+    const double seconds = positionSec(state);
+    lines_.frame(progressLine(seconds, track_->totalSec));
+    for (const Segment &segment : track_->segments) {
+        if (seconds >= segment.startSec && seconds < segment.endSec && segment.number != segment_) {
+            segment_ = segment.number;
+            lines_.say(segmentLine(segment.startSec, segment.endSec, segment.number));
+        }
+    }
+}
+
+void Telemetry::takeSamples()
+{
+    const int channels = loop_->tapChannels();
+    const size_t width = static_cast<size_t>(channels);
+    samples_.resize(tapStep * width);
+    if (dsd_) {
+        bits_.resize(tapStep * width);
+        const size_t n = loop_->dsdTap().read(bits_.data(), bits_.size()) / width;
+        if (n == 0 || !track_)
+            return;
+        const int rate = track_->facts.format.rateHz;
+        if (!levelDecoder_) {
+            const std::vector<int> rates = PdmDecimator::pcmRatesFor(rate);
+            if (rates.empty())
+                return;
+            levelDecoder_ = std::make_unique<PdmDecimator>(PdmFilter::fast, rate, rates.back(), channels);
+        }
+        samples_.clear();
+        levelDecoder_->process(bits_.data(), n, samples_);
+        levels_.add(samples_.data(), samples_.size() / width, channels);
+        return;
+    }
+    while (const size_t n = loop_->pcmTap().read(samples_.data(), samples_.size()) / width) {
+        levels_.add(samples_.data(), n, channels);
+        if (spectrum_)
+            spectrum_->add(samples_.data(), n, channels);
+        if (scope_)
+            scope_->add(samples_.data(), n, channels);
+    }
+}
+
+void Telemetry::sayLevels()
+{
+    lines_.frame(levelLine(levels_.take()));
+    if (spectrum_) {
+        if (const std::string line = spectrum_->line(); !line.empty())
+            lines_.frame(line);
+    }
+    if (scope_) {
+        if (const std::string line = scope_->line(); !line.empty())
+            lines_.frame(line);
+    }
+}
+
+void Telemetry::saySpectrumHead()
+{
+    if (dsd_ || !spectrumOn_) {
+        spectrum_.reset();
+        lines_.say("SPC none");
+        return;
+    }
+    if (!spectrum_)
+        spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_);
+    lines_.say("SPC cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(SpectrumAnalyser::bands));
+    lines_.say(spectrum_->zonesLine());
+}
+
+void Telemetry::sayWaveHead()
+{
+    if (dsd_ || !scopeOn_) {
+        scope_.reset();
+        lines_.say("WVF none");
+        return;
+    }
+    if (!scope_)
+        scope_ = std::make_unique<WaveformBuckets>(frameRateHz_);
+    lines_.say("WVF cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(WaveformBuckets::buckets));
+}
+
+void Telemetry::sayLatency()
+{
+    const double now = output_->latencyMs();
+    const double before = std::exchange(latencySeenMs_, now);
+    const auto near = [](double a, double b) { return std::abs(a - b) <= std::max(1.0, 0.2 * b); };
+    // Two readings that agree: the buffer is full and the figure stands.
+    if (now < 0 || before < 0 || !near(now, before))
+        return;
+    if (latencyToldMs_ >= 0 && near(now, latencyToldMs_))
+        return;
+    latencyToldMs_ = now;
+    lines_.say("output latency: " + fixedText(now, 1) + " ms");
+}
+
+} // namespace kelp_core

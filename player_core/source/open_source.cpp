@@ -1,0 +1,66 @@
+#include "player_core/source/av_log.h"
+#include "player_core/source/content_kind.h"
+#include "player_core/source/dsd_source.h"
+#include "player_core/source/dst_decoder.h"
+#include "player_core/source/file_input.h"
+#include "player_core/source/open_file.h"
+#include "player_core/source/pcm_source.h"
+
+#include <exception>
+
+namespace kelp_core {
+namespace {
+
+using LayoutParser = DsdLayoutOutcome (*)(ByteInput &);
+
+OpenedSource openDsdFile(std::unique_ptr<FileInput> file, LayoutParser parse)
+{
+    const DsdLayoutOutcome outcome = parse(*file);
+    if (!outcome.layout)
+        return {nullptr, outcome.error};
+    const DsdLayout &layout = *outcome.layout;
+    if (!layout.dst)
+        return {makeDsdSource(std::move(file), layout), {}};
+    if (!DstDecoder::supports(layout.channels, static_cast<int>(layout.dstFrameBytes())))
+        return {nullptr,
+                "DST of this rate or number of channels does not exist: " + dsdFacts(layout).description};
+    return {makeDstSource(std::move(file), layout), {}};
+}
+
+} // namespace
+
+OpenedSource openAudioFile(const std::string &path, const SourceRequest &request)
+{
+    quietAvLog();
+    std::string error;
+    auto file = FileInput::open(path, error);
+    if (!file)
+        return {nullptr, error};
+    const ContentKind kind = detectContent(*file);
+    switch (kind.reader) {
+    case ContentReader::container:
+        return openPcmFile(path, kind, request);
+    case ContentReader::dsf:
+        return openDsdFile(std::move(file), parseDsf);
+    case ContentReader::dff:
+        return openDsdFile(std::move(file), parseDff);
+    case ContentReader::wsd:
+        return openDsdFile(std::move(file), parseWsd);
+    case ContentReader::none:
+        break;
+    }
+    return {nullptr, kind.refusal};
+}
+
+OpenedSource openSource(const SourceRequest &request)
+{
+    try {
+        if (!request.isoPath.empty())
+            return {nullptr, "SACD images are not read by this engine"};
+        return openAudioFile(request.path, request);
+    } catch (const std::exception &failure) {
+        return {nullptr, std::string("cannot open: ") + failure.what()};
+    }
+}
+
+} // namespace kelp_core

@@ -1,0 +1,4 @@
+#pragma once
+
+/// How often this thread has called operator new. Whoever links allocation_counter.cpp gets its operators.
+long allocationsOfThisThread();

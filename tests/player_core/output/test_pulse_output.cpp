@@ -1,0 +1,188 @@
+#include "output_rounds.h"
+
+#include "player_core/output/opened_line.h"
+#include "support_devices/private_pulse.h"
+#include "support_devices/process_count.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+using namespace kelp_core;
+using namespace output_test;
+using test_devices::PrivatePlace;
+using test_devices::PrivatePulse;
+using test_devices::SinkRecorder;
+using ::testing::Contains;
+using ::testing::HasSubstr;
+
+namespace {
+
+class PulseOutputTest : public ::testing::Test
+{
+protected:
+    void start(const std::string &sinkArguments)
+    {
+        pulse = std::make_unique<PrivatePulse>(place, sinkArguments);
+    }
+    PrivatePlace place;
+    std::unique_ptr<PrivatePulse> pulse;
+};
+
+/// What was recorded between the silence around it, or empty when it is not there.
+bool holdsWhole(const std::string &recorded, const std::string &played)
+{
+    return recorded.find(played) != std::string::npos;
+}
+
+TEST_F(PulseOutputTest, TheMonitorHearsEveryByte)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    const SinkRecorder recorder(place, "n1", 44100, "s16le", 2);
+    if (!recorder.missing().empty())
+        GTEST_SKIP() << recorder.missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    const OpenedOutput &opened = outcome.output->opened();
+    EXPECT_EQ(opened.device, "pulse");
+    EXPECT_EQ(opened.backend, "PulseAudio");
+    EXPECT_TRUE(opened.mixer);
+    EXPECT_FALSE(opened.converts);
+    EXPECT_FALSE(opened.exclusive);
+    EXPECT_THAT(openedLine(opened), HasSubstr("44100 Hz, s16le, 2 channels, read back from the sound server; "
+                                              "client side: 44100 Hz, S16_LE, 2 channels, PCM"));
+    const std::string bytes = noise(4 * 44100);
+    ASSERT_TRUE(writeAll(*outcome.output, bytes));
+    EXPECT_GT(outcome.output->delayFrames(), 0);
+    EXPECT_GT(outcome.output->latencyMs(), 0.0);
+    EXPECT_LT(outcome.output->latencyMs(), 5000.0);
+    outcome.output->drain();
+    EXPECT_TRUE(test_devices::waitUntil([&] { return holdsWhole(recorder.bytes(), bytes); }));
+    EXPECT_EQ(outcome.output->underruns(), 0u);
+    outcome.output.reset();
+}
+
+TEST_F(PulseOutputTest, TwentyFourBitsAreKept)
+{
+    start("sink_name=n1 rate=96000 format=s24le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    const SinkRecorder recorder(place, "n1", 96000, "s24le", 2);
+    if (!recorder.missing().empty())
+        GTEST_SKIP() << recorder.missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse:n1", 96000, 24));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    EXPECT_EQ(outcome.output->opened().device, "pulse:n1");
+    const std::string bytes = noise(6 * 48000);
+    ASSERT_TRUE(writeAll(*outcome.output, bytes));
+    outcome.output->drain();
+    EXPECT_TRUE(test_devices::waitUntil([&] { return holdsWhole(recorder.bytes(), bytes); }));
+}
+
+TEST_F(PulseOutputTest, SaysWhatTheServerReallyRunsAt)
+{
+    start("sink_name=n1 rate=48000 format=s32le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    OutputRequest request = pcmRequest("pulse", 44100, 16);
+    const OutputOutcome outcome = openOutput(request);
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    EXPECT_TRUE(outcome.output->opened().converts);
+    EXPECT_EQ(outcome.output->opened().readBack.rateHz, 48000);
+    EXPECT_EQ(outcome.output->opened().wire.frameRateHz, 44100);
+    request.allowResample = true;
+    const OutputOutcome resampled = openOutput(request);
+    ASSERT_TRUE(resampled.output) << resampled.error;
+    EXPECT_EQ(resampled.output->opened().pcmRateHz, 48000);
+}
+
+TEST_F(PulseOutputTest, NeverCarriesDsd)
+{
+    start("sink_name=n1 rate=48000 format=s32le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    for (DopPolicy dop : {DopPolicy::automatic, DopPolicy::force, DopPolicy::native}) {
+        for (const char *id : {"", "pulse", "pulse:n1"}) {
+            OutputRequest request = dsdRequest(id);
+            request.dop = dop;
+            const OutputOutcome outcome = openOutput(request);
+            ASSERT_TRUE(outcome.output) << outcome.error;
+            EXPECT_EQ(outcome.output->opened().backend, "PulseAudio");
+            EXPECT_EQ(outcome.output->opened().wire.carrier, Carrier::pcm);
+            EXPECT_EQ(outcome.output->opened().pcmRateHz, 88200);
+            EXPECT_THAT(outcome.notes, Contains(HasSubstr("DSD is decoded to PCM")));
+        }
+    }
+}
+
+TEST_F(PulseOutputTest, AMissingSinkIsNamed)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    EXPECT_EQ(openOutput(pcmRequest("pulse:n2")).error,
+              "device 'pulse:n2' endpoint not found: the sound server has no such sink");
+}
+
+TEST_F(PulseOutputTest, TheEndOfTheServerEndsTheStream)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    const std::string bytes = noise(4 * 1000);
+    ASSERT_TRUE(writeAll(*outcome.output, bytes));
+    pulse->kill();
+    EXPECT_TRUE(test_devices::waitUntil([&] { return !writeAll(*outcome.output, bytes); }));
+    EXPECT_THAT(outcome.output->message(), HasSubstr("The sound server ended the stream"));
+    outcome.output->drain();
+    outcome.output->drop();
+}
+
+TEST_F(PulseOutputTest, AWaitingWriteIsInterruptedAndADropMakesRoom)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    const std::string bytes = noise(4 * 22050);
+    ASSERT_TRUE(writeAll(*outcome.output, bytes));
+    outcome.output->interrupt();
+    EXPECT_EQ(outcome.output->write(reinterpret_cast<const uint8_t *>(bytes.data()), 1000), 0);
+    outcome.output->drop();
+    EXPECT_TRUE(writeAll(*outcome.output, bytes.substr(0, 4 * 100)));
+}
+
+TEST_F(PulseOutputTest, RunningDryIsCountedOnce)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    ASSERT_TRUE(writeAll(*outcome.output, noise(4 * 8820)));
+    EXPECT_TRUE(test_devices::waitUntil([&] { return outcome.output->underruns() == 1; }));
+}
+
+TEST_F(PulseOutputTest, TwoHundredRoundsLeaveNothingBehind)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    const auto round = [] {
+        const OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+        ASSERT_TRUE(outcome.output) << outcome.error;
+    };
+    round();
+    const int descriptors = test_devices::openDescriptors();
+    const int threads = test_devices::runningThreads();
+    for (int i = 0; i < 200; ++i)
+        round();
+    EXPECT_EQ(test_devices::openDescriptors(), descriptors);
+    EXPECT_EQ(test_devices::runningThreads(), threads);
+}
+
+} // namespace

@@ -1,0 +1,410 @@
+#include "player_core/session/fake_world.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+
+#include <unistd.h>
+
+namespace kelp_core::test {
+
+namespace {
+
+const std::string ownPid = std::to_string(::getpid());
+
+std::vector<int16_t> samplesOf(const FakeTrack &track, int64_t from = 0)
+{
+    std::vector<int16_t> result;
+    for (int64_t f = from; f < track.frames; ++f)
+        for (int c = 0; c < track.format.channels; ++c)
+            result.push_back(fakeSample(track.seed, f, c));
+    return result;
+}
+
+/// The samples without the silence at the end (tracks hold no zero).
+std::vector<int16_t> trimmed(std::vector<int16_t> samples)
+{
+    while (!samples.empty() && samples.back() == 0)
+        samples.pop_back();
+    return samples;
+}
+
+FakeTrack pcmTrack(int64_t frames, uint32_t seed, int rateHz = 44100)
+{
+    FakeTrack track;
+    track.frames = frames;
+    track.seed = seed;
+    track.format.rateHz = rateHz;
+    return track;
+}
+
+FakeTrack dsdTrack(int64_t frames, uint32_t seed)
+{
+    FakeTrack track;
+    track.format = {SignalKind::dsd, 2822400, 2, 1, false};
+    track.frames = frames;
+    track.seed = seed;
+    return track;
+}
+
+} // namespace
+
+TEST(SessionTest, PlaysTheOnlySourceBitForBitAndEndsWithZero)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(100'001, 7);
+    world.start({"-i", "/a.wav"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    EXPECT_EQ(world.written16(), samplesOf(world.tracks["/a.wav"]));
+    EXPECT_EQ(world.lines("SRC "), std::vector<std::string>{"SRC 44100 16 2 wav 0 2.268"});
+    EXPECT_EQ(world.lines("DONE "), std::vector<std::string>{"DONE /a.wav"});
+    ASSERT_FALSE(world.lines("PG ").empty());
+    EXPECT_EQ(world.lines("PG ").back(), "PG 100.00 2.268 2.268");
+}
+
+TEST(SessionTest, EndsWithDoneOnlyWhenTheDeviceHasPlayedItOut)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.bufferSec = 0.3;
+    world.tracks["/a.wav"] = pcmTrack(22050, 7);
+    const auto begin = std::chrono::steady_clock::now();
+    world.start({"-i", "/a.wav"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    EXPECT_GE(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(490));
+    EXPECT_EQ(world.written16(), samplesOf(world.tracks["/a.wav"]));
+}
+
+TEST(SessionTest, StartsWhereItIsTold)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(88200, 3);
+    world.start({"-i", "/a.wav", "-start", "0.5"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    EXPECT_EQ(world.written16(), samplesOf(world.tracks["/a.wav"], 22050));
+    EXPECT_EQ(world.lines("PG ").front(), "PG 25.00 0.500 2.000");
+}
+
+TEST(SessionTest, StreamSessionTakesTracksByLinesAndStaysUp)
+{
+    FakeWorld world;
+    world.tracks["/a b.wav"] = pcmTrack(10'000, 1);
+    world.tracks["/c.wav"] = pcmTrack(20'000, 2, 96000);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a b.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a b.wav");
+    world.send("loadat 0.100 /c.wav");
+    EXPECT_EQ(world.waitLine("SRC "), "SRC 96000 16 2 wav 0 0.208");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /c.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.device.opened, 2);
+    EXPECT_EQ(world.device.closed, 2);
+}
+
+TEST(SessionTest, JoinsAPreloadedTrackToTheFrame)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44'101, 1);
+    world.tracks["/b.wav"] = pcmTrack(30'011, 2);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("load /b.wav"); // one second is left: a preload
+    EXPECT_EQ(world.waitLine("SRC "), "SRC 44100 16 2 wav 0 0.681");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    std::vector<int16_t> wanted = samplesOf(world.tracks["/a.wav"]);
+    const std::vector<int16_t> second = samplesOf(world.tracks["/b.wav"]);
+    wanted.insert(wanted.end(), second.begin(), second.end());
+    EXPECT_EQ(trimmed(world.written16()), wanted);
+    EXPECT_EQ(world.lines("DONE ").size(), 1u) << "a join is no end of a track";
+    EXPECT_EQ(world.device.opened, 1);
+}
+
+TEST(SessionTest, DropsAPreloadOfAnotherRateAndPlaysItWhenNobodyAsksForAnything)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(30'000, 1);
+    world.tracks["/b.wav"] = pcmTrack(9'600, 2, 48000);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("preload dropped: "),
+              "preload dropped: the rate differs (48000 Hz after 44100 Hz);"
+              " the track finishes normally");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
+    EXPECT_EQ(world.waitLine("SRC "), "SRC 48000 16 2 wav 0 0.200");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.device.requests.at(1).stream.rateHz, 48000);
+}
+
+TEST(SessionTest, AnEarlyLoadLeavesTheTrackAtOnce)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/long.wav"] = pcmTrack(44100 * 60, 1);
+    world.tracks["/b.wav"] = pcmTrack(8'000, 2);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /long.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("SRC "), "SRC 44100 16 2 wav 0 0.181");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.device.opened, 1) << "the device stays open when the format stays";
+    const std::vector<int16_t> all = trimmed(world.written16());
+    const std::vector<int16_t> second = samplesOf(world.tracks["/b.wav"]);
+    ASSERT_GT(all.size(), second.size());
+    EXPECT_TRUE(std::equal(second.rbegin(), second.rend(), all.rbegin()));
+}
+
+TEST(SessionTest, CrossfadeTakesItsTimeOffTheSum)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44'100, 1);
+    world.tracks["/b.wav"] = pcmTrack(44'100, 2);
+    world.start({"-stream", "-parent-pid", ownPid, "-crossfade", "0.5"});
+    world.send("load /a.wav");
+    while (true) {
+        const std::string line = world.waitLine("PG ");
+        ASSERT_FALSE(line.empty());
+        if (std::stod(line.substr(line.find(' ', 3))) >= 0.4)
+            break;
+    }
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    const auto frames = static_cast<int64_t>(trimmed(world.written16()).size() / 2);
+    // The fade begins when the second track is there, so it may be shorter than asked for, never longer.
+    EXPECT_GE(frames, 88'200 - 22'050);
+    EXPECT_LT(frames, 88'200 - 4'410);
+}
+
+TEST(SessionTest, StopEndsWithinAMoment)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/long.wav"] = pcmTrack(44100 * 60, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /long.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.device.closed, 1);
+}
+
+TEST(SessionTest, PauseHoldsThePositionAndResumeGoesOn)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44'100, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("pause");
+    std::string before;
+    std::string now;
+    for (int same = 0; same < 4;) {
+        now = world.waitLine("PG ");
+        ASSERT_FALSE(now.empty());
+        same = now == before ? same + 1 : 0;
+        before = now;
+    }
+    EXPECT_TRUE(world.lines("DONE ").empty());
+    world.send("resume");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
+    world.closeQueue();
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+}
+
+TEST(SessionTest, AFailingOnlySourceEndsWithOneAndOneLine)
+{
+    FakeWorld world;
+    world.start({"-i", "/missing.wav"});
+    EXPECT_EQ(world.wait(), exit_code::unplayable);
+    EXPECT_EQ(world.lines("FAILED "),
+              std::vector<std::string>{"FAILED cannot open: no such file: /missing.wav"});
+    EXPECT_TRUE(world.lines("DONE ").empty());
+}
+
+TEST(SessionTest, ATruncatedSourcePlaysWhatIsThere)
+{
+    FakeWorld world;
+    world.tracks["/cut.wav"] = pcmTrack(44'100, 1);
+    world.tracks["/cut.wav"].failAt = 20'000;
+    world.start({"-i", "/cut.wav"});
+    EXPECT_EQ(world.wait(), exit_code::unplayable);
+    EXPECT_EQ(world.lines("FAILED "), std::vector<std::string>{"FAILED the file ends too early: /cut.wav"});
+    EXPECT_TRUE(world.lines("DONE ").empty());
+    EXPECT_EQ(world.written16().size(), 40'000u);
+}
+
+TEST(SessionTest, AStreamSessionSurvivesAFailure)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(5'000, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /missing.wav");
+    EXPECT_EQ(world.waitLine("FAILED "), "FAILED cannot open: no such file: /missing.wav");
+    world.send("load-iso 3 /disc.iso");
+    EXPECT_EQ(world.waitLine("FAILED "), "FAILED SACD images are not readable by this engine yet: /disc.iso");
+    world.send("load /a.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+}
+
+TEST(SessionTest, ARefusingDeviceEndsWithFour)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(5'000, 1);
+    world.device.refuse = "cannot get exclusive access to hw:9: it is in use";
+    world.start({"-i", "/a.wav"});
+    EXPECT_EQ(world.wait(), exit_code::noDevice);
+    EXPECT_EQ(world.lines("cannot get exclusive access").size(), 1u);
+}
+
+TEST(SessionTest, AVanishingDeviceEndsWithFour)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.goneAfter = 10'000;
+    world.tracks["/a.wav"] = pcmTrack(441'000, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    EXPECT_EQ(world.wait(), exit_code::noDevice);
+    EXPECT_EQ(world.lines("The output device is gone: it was pulled out").size(), 1u);
+}
+
+TEST(SessionTest, TheHostsClosingIsAStop)
+{
+    FakeWorld world;
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.closeQueue();
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+}
+
+TEST(SessionTest, AWholeSheetTellsItsSegments)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/s.cue"] = pcmTrack(44'100, 1);
+    world.start({"-cue", "/s.cue"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    EXPECT_EQ(world.lines("SEG "), (std::vector<std::string>{"SEG 0.000 0.500 1", "SEG 0.500 1.000 2"}));
+}
+
+TEST(SessionTest, VolumeBelowFullIsSaidAndScales)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(5'000, 1);
+    world.start({"-i", "/a.wav", "-vol", "0"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    const std::vector<int16_t> all = world.written16();
+    ASSERT_EQ(all.size(), 10'000u);
+    for (const int16_t s : all)
+        EXPECT_LE(std::abs(s), 2) << "silence but for dither";
+    const auto bitPerfect = world.lines("bit-perfect: ");
+    ASSERT_EQ(bitPerfect.size(), 1u);
+    EXPECT_NE(bitPerfect.front().find("NO: the volume stage"), std::string::npos);
+}
+
+TEST(SessionTest, DoPKeepsItsMarkersInStepOverTracksPausesAndSilence)
+{
+    FakeWorld world;
+    world.device.dsdCarrier = Carrier::dop;
+    world.device.clocked = true;
+    world.tracks["/a.dsf"] = dsdTrack(176'401, 1);
+    world.tracks["/b.dsf"] = dsdTrack(100'003, 2);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.dsf");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("pause");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("resume");
+    world.send("vol 30");
+    world.send("load /b.dsf");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.dsf");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    const std::vector<uint8_t> &bytes = world.device.bytes;
+    ASSERT_GT(bytes.size(), 100'000u);
+    for (size_t frame = 0; frame * 6 + 5 < bytes.size(); ++frame) {
+        const uint8_t marker = frame % 2 ? 0xFA : 0x05;
+        ASSERT_EQ(bytes[frame * 6 + 2], marker) << "frame " << frame;
+        ASSERT_EQ(bytes[frame * 6 + 5], marker) << "frame " << frame;
+    }
+    EXPECT_EQ(world.lines("SPC none").empty(), false);
+    EXPECT_FALSE(world.lines("volume: ").empty());
+}
+
+TEST(SessionTest, DsdBitsReachTheDeviceAsTheyAre)
+{
+    FakeWorld world;
+    world.device.dsdCarrier = Carrier::nativeDsd;
+    world.tracks["/a.dsf"] = dsdTrack(50'001, 5);
+    world.start({"-i", "/a.dsf"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    std::vector<uint8_t> wanted;
+    for (const int16_t s : samplesOf(world.tracks["/a.dsf"]))
+        wanted.push_back(static_cast<uint8_t>(s));
+    EXPECT_EQ(world.device.bytes, wanted);
+}
+
+TEST(SessionTest, DecodedDsdHasItsLengthAndItsFilterLine)
+{
+    FakeWorld world;
+    world.tracks["/a.dsf"] = dsdTrack(35'280, 5); // a tenth of a second
+    world.start({"-i", "/a.dsf", "-pcm-filter", "fast"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    EXPECT_EQ(world.written16().size() / 2, 17'640u);
+    EXPECT_EQ(world.lines("PDM2PCM filter "), std::vector<std::string>{"PDM2PCM filter DSD64 fast manual"});
+}
+
+TEST(SessionTest, AnHourOfDoPHasNoMarkerOutOfStep)
+{
+    FakeWorld world;
+    world.device.dsdCarrier = Carrier::dop;
+    world.tracks["/hour.dsf"] = dsdTrack(2'000'003, 1);
+    // The markers of a long chain are counted by a device that keeps only what it needs; here a run of
+    // several seconds stands for it, the hour is measured at the real file device.
+    world.start({"-i", "/hour.dsf"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    const std::vector<uint8_t> &bytes = world.device.bytes;
+    EXPECT_EQ(bytes.size(), (2'000'003u + 1) / 2 * 6);
+    for (size_t frame = 0; frame * 6 + 5 < bytes.size(); ++frame)
+        ASSERT_EQ(bytes[frame * 6 + 2], frame % 2 ? 0xFA : 0x05) << "frame " << frame;
+}
+
+TEST(SessionTest, UnknownAndMalformedLinesAreHarmless)
+{
+    FakeWorld world;
+    world.tracks["/a.wav"] = pcmTrack(20'000, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("dance");
+    world.send("vol loud");
+    world.send("fx eq on");
+    world.send("fx eq on");
+    world.send("fx balance 50");
+    world.send(std::string(70'000, 'x'));
+    world.send("load /a.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.lines("WARN ").size(), 1u);
+    EXPECT_EQ(world.lines("The line \"vol\"").size(), 1u);
+    EXPECT_EQ(world.lines("A control line longer").size(), 1u);
+}
+
+} // namespace kelp_core::test
