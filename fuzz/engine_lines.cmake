@@ -1,0 +1,7 @@
+kelp_fuzz(spectrum_line SOURCES fuzz_spectrum_line.cpp LINK engine_logic)
+kelp_fuzz(waveform_line SOURCES fuzz_waveform_line.cpp LINK engine_logic)
+kelp_fuzz(volume_line SOURCES fuzz_volume_line.cpp LINK engine_logic)
+kelp_fuzz(chain_lines SOURCES fuzz_chain_lines.cpp LINK engine_logic)
+kelp_fuzz(line_forms SOURCES fuzz_line_forms.cpp LINK engine_logic)
+kelp_fuzz(line_classifier SOURCES fuzz_line_classifier.cpp LINK engine_logic)
+kelp_fuzz(track_analysis SOURCES fuzz_track_analysis.cpp LINK engine_logic)
