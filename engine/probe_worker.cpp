@@ -1,6 +1,7 @@
 #include "engine/probe_worker.h"
 
-#include <QMetaObject>
+#include <QCoreApplication>
+#include <QEvent>
 #include <condition_variable>
 #include <deque>
 #include <exception>
@@ -98,14 +99,14 @@ void ProbeWorker::work(const std::shared_ptr<Shared> &shared)
         if (shared->receiver == nullptr)
             break;
         shared->answers.push_back(std::move(answer));
-        // Posted under the lock: the receiver cannot be destroyed before this call has been queued.
-        QMetaObject::invokeMethod(shared->receiver, &ProbeWorker::collect, Qt::QueuedConnection);
+        // Posted under the lock: the receiver cannot be destroyed before this event has been queued.
+        QCoreApplication::postEvent(shared->receiver, new QEvent(QEvent::User));
     }
     shared->running = false;
     shared->changed.notify_all();
 }
 
-void ProbeWorker::collect()
+void ProbeWorker::customEvent(QEvent *)
 {
     std::vector<Shared::Answer> answers;
     {

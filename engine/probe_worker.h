@@ -36,6 +36,10 @@ public:
     /// Probes that have not been answered yet, the running one included.
     qsizetype pendingCount() const { return m_pending.size(); }
 
+protected:
+    /// The worker has answers.
+    void customEvent(QEvent *event) override;
+
 private:
     struct Shared;
     struct Pending
@@ -45,8 +49,6 @@ private:
     };
 
     static void work(const std::shared_ptr<Shared> &shared);
-    void collect();
-
     const std::chrono::milliseconds m_endWait;
     std::shared_ptr<Shared> m_shared; ///< with the worker's thread; its own mutex guards what is in it
     QMap<quint64, Pending> m_pending; ///< this object's thread only: the worker sees numbers

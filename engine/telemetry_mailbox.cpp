@@ -36,10 +36,12 @@ void TelemetryMailbox::put(const QString &line, bool isStderr)
         m_postLine(line, isStderr);
         return;
     }
+    // The former line is freed outside the lock.
+    QString text = line;
     {
         const std::lock_guard lock(m_mutex);
         Slot &entry = m_slots[*slot];
-        entry.text = line;
+        entry.text.swap(text);
         entry.isStderr = isStderr;
         entry.full = true;
         ++entry.count;
@@ -59,7 +61,7 @@ void TelemetryMailbox::drain(const Deliver &deliver)
             const std::lock_guard lock(m_mutex);
             if (!std::exchange(slot.full, false))
                 continue;
-            text = std::exchange(slot.text, QString());
+            text.swap(slot.text);
             isStderr = slot.isStderr;
         }
         // Outside the lock: what the line sets going may take its time, and writers must not wait for it.

@@ -123,7 +123,7 @@ TEST(TelemetryMailbox, SeveralWritersLoseNoLineAndNoLastTelemetry)
                 crowd.mailbox.drain([&](const QString &line, bool) {
                     ++delivered;
                     if (line.startsWith("LVL"_L1))
-                        lastLevels = line;
+                        lastLevels = QString(line);
                 });
             } else if (last) {
                 return;
