@@ -83,7 +83,7 @@ void printLanguage(const LanguageChoice &language)
             .arg(isChinese(language.code) ? 1 : 0)
             .arg(language.localeName)
             .arg(QFile::exists(u":/i18n/en.qm"_s) ? 1 : 0)
-            .arg(QCoreApplication::translate("DockBar", "播放"))
+            .arg(QCoreApplication::translate("PlayerGuiWindow", "播放"))
             .arg(qEnvironmentVariable("KELP_LANG"))
             .arg(QLocale(language.localeName).bcp47Name()));
 }

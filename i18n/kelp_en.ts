@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>播放</source>
-        <translation>Play</translation>
+        <translation>Playback</translation>
     </message>
     <message>
         <source>解码</source>

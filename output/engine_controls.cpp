@@ -9,6 +9,7 @@ namespace {
 
 constexpr int controlHeight = 30;
 constexpr int controlWidth = 168;
+constexpr int columnWidth = 300;
 
 struct Choice
 {
@@ -26,11 +27,11 @@ constexpr std::array layouts = {2, 4, 5, 6, 8};
 
 EngineControls::EngineControls(QWidget *parent)
     : QWidget(parent)
+    , m_columns(new QBoxLayout(QBoxLayout::LeftToRight, this))
 {
     setObjectName("vesperEngineControls"_L1);
-    auto *columns = new QHBoxLayout(this);
-    columns->setContentsMargins(0, 0, 0, 0);
-    columns->setSpacing(12);
+    m_columns->setContentsMargins(0, 0, 0, 0);
+    m_columns->setSpacing(12);
     for (const bool first : {true, false}) {
         auto *column = new QVBoxLayout;
         column->setSpacing(12);
@@ -42,7 +43,7 @@ EngineControls::EngineControls(QWidget *parent)
             column->addWidget(card(tr("信号"), &EngineControls::buildSignal));
         }
         column->addStretch();
-        columns->addLayout(column, 1);
+        m_columns->addLayout(column, 1);
     }
     refreshDependents();
     watch();
@@ -238,4 +239,16 @@ void EngineControls::refreshDependents()
     resampleQuality->setEnabled(resample->isChecked());
     pcmToDsdTarget->setEnabled(pcmToDsd->isChecked());
     pcmToDsdTaps->setEnabled(pcmToDsd->isChecked());
+}
+
+QSize EngineControls::minimumSizeHint() const
+{
+    return {columnWidth, QWidget::minimumSizeHint().height()};
+}
+
+void EngineControls::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    const bool wide = width() >= 2 * columnWidth;
+    m_columns->setDirection(wide ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
 }

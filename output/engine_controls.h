@@ -52,11 +52,17 @@ public:
     /// values have been set with signals blocked.
     void refreshDependents();
 
+    /// Wide enough for one column: a narrow place gets the cards one below the other.
+    QSize minimumSizeHint() const override;
+
 Q_SIGNALS:
     /// Any control was changed by hand or by code.
     void changed();
     /// The user took a decode filter by hand.
     void pcmFilterChosen();
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     void buildDevices(QGridLayout *grid);
@@ -72,5 +78,6 @@ private:
     void addRow(QGridLayout *grid, const QString &name, const QString &tip, QWidget *control);
     void watch();
 
+    QBoxLayout *m_columns;
     QList<QWidget *> m_channelRows; ///< label and combo of each channel, in pairs
 };

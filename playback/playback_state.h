@@ -17,7 +17,8 @@ struct TrackStartState
     bool userStopped = false;
     bool restartPending = false;
     bool paused = false;
-    SessionShape opened;           ///< what the live session was opened with
+    bool uiPlaying = false; ///< the controls show playback; an idle session at the end of the list is none
+    SessionShape opened;    ///< what the live session was opened with
     int exclusiveFallbackRow = -1; ///< the row whose "exclusive" was replaced by "auto"
     int playGeneration = 0;        ///< raised at every start that gets that far
     qint64 ignoreDoneUntilMs = 0;  ///< since the epoch; 0 when nothing is ignored

@@ -1,6 +1,7 @@
 // What the engine says, step by step.
 #include "ui/window/player_gui_window.h"
 
+#include "engine/line_mailbox.h"
 #include "engine/output_lines.h"
 #include "playback/time_text.h"
 #include "ui/display_panel.h"
@@ -163,6 +164,9 @@ bool PlayerGuiWindow::doneLine(const QString &text)
 {
     if (!text.startsWith("DONE "_L1))
         return false;
+    // What the ended track still has in the mailbox must not be taken for news of the next one.
+    if (m_link.mailbox)
+        m_link.mailbox->drain([this](const QString &line, bool isStderr) { onEngineLine(line, isStderr); });
     onDoneLine();
     return true;
 }

@@ -119,7 +119,9 @@ void PlayerGuiWindow::autoAdvanceTaken()
     if (count == 0 || taken.row < 0 || taken.row >= count || m_start.userStopped || m_start.sessionClosing)
         return;
     commitPlayStat();
-    if (!advanceRow() || m_start.currentRow != taken.row) {
+    // A row number alone proves nothing: another file may have moved into its place.
+    if (!advanceRow() || m_start.currentRow != taken.row
+        || m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
         const int byFile = m_ui.playlist->rowOfPath(taken.path);
         m_start.currentRow = byFile >= 0 ? byFile : taken.row;
         logLine(

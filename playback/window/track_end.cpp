@@ -122,8 +122,6 @@ void PlayerGuiWindow::trackFinished()
         playCurrent();
         return;
     }
-    m_start.playingRow = -1;
-    m_output.sourceInfo.reset();
     if (m_link.noAudioTimer)
         m_link.noAudioTimer->stop();
     setPlayingUi(false);

@@ -32,8 +32,8 @@ void PlayerGuiWindow::startPlayback(int row)
     }
     if (!closeLeftoverSession())
         return;
-    m_start.currentRow = settleStartRow({row, sessionRuns(), m_ui.playlist->currentRow(), m_start.currentRow,
-                                         lastPlayedRow(), m_ui.playlist->count()});
+    m_start.currentRow = settleStartRow({row, sessionRuns() && m_start.uiPlaying, m_ui.playlist->currentRow(),
+                                         m_start.currentRow, lastPlayedRow(), m_ui.playlist->count()});
     m_start.userStopped = false;
     playCurrent();
 }
@@ -120,12 +120,7 @@ void PlayerGuiWindow::killProc(bool quiet)
 
 void PlayerGuiWindow::togglePause()
 {
-    if (!sessionRuns() || m_start.userStopped) {
-        startPlayback();
-        return;
-    }
-    // A session that has played its list to the end idles: the button starts anew.
-    if (!m_output.sourceInfo && !m_start.paused && m_start.playingRow < 0) {
+    if (!sessionRuns() || !m_start.uiPlaying) {
         startPlayback();
         return;
     }
@@ -136,6 +131,7 @@ void PlayerGuiWindow::togglePause()
 
 void PlayerGuiWindow::setPlayingUi(bool on)
 {
+    m_start.uiPlaying = on;
     m_ui.dock->stop->setEnabled(on);
     if (!on)
         m_start.paused = false;
@@ -145,8 +141,7 @@ void PlayerGuiWindow::setPlayingUi(bool on)
 
 void PlayerGuiWindow::refreshStartButton()
 {
-    const bool plays = m_ui.dock->stop->isEnabled();
-    if (!plays) {
+    if (!m_start.uiPlaying) {
         m_ui.dock->showStartAs(false, tr("播放"));
         m_ui.display->showStatus(u"■ STOP"_s, false);
     } else if (m_start.paused) {

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 bool PlayerGuiWindow::confirmClose()
 {
-    if (!m_options.asksBeforeClosing || !sessionRuns())
+    if (!m_options.asksBeforeClosing || !sessionRuns() || !m_start.uiPlaying)
         return true;
     const auto answer = QMessageBox::question(this, tr("播放进行中"),
                                               tr("播放尚未结束, 关闭窗口将停止播放。\n\n确定要退出吗?"),

@@ -23,7 +23,9 @@ constexpr int titleHeight = 56;
 constexpr int panelWidth = 320;
 constexpr int sideWidth = 240;
 constexpr int statusHeight = 26;
-constexpr int logHeight = 160;
+constexpr int logHeight = 150;
+/// In a lower window there is room for the log or for the engine's settings, not for both.
+constexpr int bothPanelsHeight = 760;
 constexpr int captionPixels = 11;
 constexpr int areaPadding = 16;
 constexpr int displayHeight = 220;
@@ -157,6 +159,8 @@ QWidget *PlayerGuiWindow::buildCentre()
     rows->addWidget(scroller, 2);
     connect(m_ui.engineSwitch, &QToolButton::toggled, scroller, [this, scroller](bool open) {
         scroller->setVisible(open);
+        if (open && height() < bothPanelsHeight)
+            m_ui.logSwitch->setChecked(false);
         m_ui.engineSwitch->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
     });
     return centre;
@@ -204,6 +208,8 @@ QWidget *PlayerGuiWindow::buildStatusLine()
     row->addWidget(m_ui.logSwitch);
     connect(m_ui.logSwitch, &QToolButton::toggled, this, [this](bool open) {
         m_ui.log->setVisible(open);
+        if (open && height() < bothPanelsHeight)
+            m_ui.engineSwitch->setChecked(false);
         m_ui.logSwitch->setText(open ? tr("收起日志面板") : tr("显示日志面板"));
     });
     return line;
@@ -220,4 +226,11 @@ void PlayerGuiWindow::orderTabs()
     // The engine's settings keep their own order, behind the switch that opens them.
     setTabOrder(m_ui.engineSwitch, m_ui.engine->outputPath);
     setTabOrder(m_ui.engine->extDecoder, m_ui.device);
+}
+
+void PlayerGuiWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    if (height() < bothPanelsHeight && m_ui.logSwitch->isChecked())
+        m_ui.engineSwitch->setChecked(false);
 }

@@ -95,6 +95,7 @@ public Q_SLOTS:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     friend struct WindowInspector; // the tests' view of the state below

@@ -1,0 +1,186 @@
+// The built program as its users start it, without a display and in private directories.
+#include <QCoreApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int limitMs = 60000;
+
+class Program : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_TRUE(m_root.isValid());
+        for (const QString &name : {u"home"_s, u"run"_s, u"tmp"_s, u"set"_s})
+            ASSERT_TRUE(QDir(m_root.path()).mkdir(name));
+        m_environment = QProcessEnvironment::systemEnvironment();
+        for (const QString &name : m_environment.keys()) {
+            if (name.startsWith(u"KELP_"_s))
+                m_environment.remove(name);
+        }
+        set(u"HOME"_s, m_root.filePath(u"home"_s));
+        set(u"XDG_RUNTIME_DIR"_s, m_root.filePath(u"run"_s));
+        set(u"TMPDIR"_s, m_root.filePath(u"tmp"_s));
+        set(u"KELP_SETTINGS_DIR"_s, m_root.filePath(u"set"_s));
+        set(u"KELP_GUARD_TRACE"_s, m_root.filePath(u"guard"_s));
+        set(u"KELP_NO_UPDATE_CHECK"_s, u"1"_s);
+        set(u"KELP_LANG"_s, u"en"_s);
+        set(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
+    }
+
+    void set(const QString &name, const QString &value) { m_environment.insert(name, value); }
+
+    void start(QProcess &process, const QStringList &arguments = {})
+    {
+        process.setProcessEnvironment(m_environment);
+        process.start(QStringLiteral(KELP_PROGRAM), arguments);
+        ASSERT_TRUE(process.waitForStarted(limitMs));
+    }
+
+    QByteArray guardTrace() const
+    {
+        QFile file(m_root.filePath(u"guard"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    bool waitForGuardTrace(int lines) const
+    {
+        QElapsedTimer clock;
+        clock.start();
+        while (guardTrace().count('\n') < lines && clock.elapsed() < limitMs)
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        return guardTrace().count('\n') >= lines;
+    }
+
+    static void end(QProcess &process)
+    {
+        process.kill();
+        process.waitForFinished(limitMs);
+    }
+
+    QTemporaryDir m_root;
+    QProcessEnvironment m_environment;
+};
+
+} // namespace
+
+TEST_F(Program, TheSelfCheckPrintsAndLeaves)
+{
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    set(u"KELP_GUI_SMOKE_WIDE"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitCode(), 0);
+    const QByteArray out = process.readAllStandardOutput();
+    EXPECT_TRUE(out.contains("KELP_SMOKE_SIZE w=1280 h=860 min_w=")) << out.constData();
+    EXPECT_TRUE(out.contains("KELP_SMOKE lang=en zh=0 ")) << out.constData();
+    EXPECT_TRUE(out.contains("res_exists=1 sample=Play lang_env=en")) << out.constData();
+    EXPECT_TRUE(
+        out.contains("KELP_SMOKE_PLAYLIST n=0 row=-1 skipped=0 last=-1 scroll=0 files=0 play=-1 bold=-1"))
+        << out.constData();
+    const QByteArray error = process.readAllStandardError();
+    EXPECT_TRUE(error.contains("ROW 0 vesperTitleBar mw=")) << error.constData();
+    EXPECT_FALSE(error.contains("WIDE")) << error.constData();
+}
+
+TEST_F(Program, AHangingStartIsEndedByTheWatchdog)
+{
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    set(u"KELP_SMOKE_HANG_TEST"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 97);
+    EXPECT_TRUE(process.readAllStandardError().contains("KELP_SMOKE_HANG watchdog(thread): 12 s"));
+}
+
+TEST_F(Program, ADashArgumentGoesToTheEngineEvenBesideAWindow)
+{
+    QProcess window;
+    start(window);
+    ASSERT_TRUE(waitForGuardTrace(1));
+    QProcess console;
+    m_environment.remove(u"QT_QPA_PLATFORM"_s);
+    m_environment.remove(u"DISPLAY"_s);
+    start(console, {u"--help"_s});
+    ASSERT_TRUE(console.waitForFinished(limitMs));
+    EXPECT_EQ(console.exitStatus(), QProcess::NormalExit) << "needs no display";
+    EXPECT_EQ(console.exitCode(), 0);
+    EXPECT_FALSE(console.readAllStandardOutput().isEmpty());
+    EXPECT_EQ(guardTrace().count('\n'), 1) << "the console role takes no lock";
+    end(window);
+}
+
+TEST_F(Program, ASecondWindowIsRefusedAndTheTraceSaysWhy)
+{
+    QProcess first;
+    start(first);
+    ASSERT_TRUE(waitForGuardTrace(1));
+    EXPECT_TRUE(guardTrace().contains("GetLastError=0 (183=ALREADY_EXISTS)")) << guardTrace().constData();
+    QProcess second;
+    start(second);
+    ASSERT_TRUE(waitForGuardTrace(2));
+    EXPECT_TRUE(guardTrace().contains("GetLastError=183 (183=ALREADY_EXISTS)")) << guardTrace().constData();
+    second.setReadChannel(QProcess::StandardError);
+    QByteArray said = second.readAllStandardError();
+    while (!said.contains("refusing to start a second instance") && second.waitForReadyRead(limitMs))
+        said += second.readAllStandardError();
+    EXPECT_TRUE(said.contains("refusing to start a second instance"));
+    EXPECT_EQ(first.state(), QProcess::Running);
+    end(second);
+    end(first);
+}
+
+TEST_F(Program, SeveralWindowsMayBeAllowed)
+{
+    QProcess first;
+    start(first);
+    ASSERT_TRUE(waitForGuardTrace(1));
+    set(u"KELP_GUI_ALLOW_MULTI"_s, u"1"_s);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess second;
+    start(second);
+    ASSERT_TRUE(second.waitForFinished(limitMs));
+    EXPECT_TRUE(second.readAllStandardOutput().contains("KELP_SMOKE_SIZE"));
+    end(first);
+}
+
+TEST_F(Program, TheScreenshotHookSavesAPicture)
+{
+    const QString picture = m_root.filePath(u"shot.png"_s);
+    set(u"KELP_GUI_SHOT"_s, picture);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_TRUE(process.readAllStandardError().contains("-> saved (visible=1 1280x860)"));
+    EXPECT_GT(QFileInfo(picture).size(), 1000);
+}
+
+TEST_F(Program, ABadRowMoveIsReportedAndTheProgramGoesOn)
+{
+    set(u"KELP_GUI_MOVEROW"_s, u"7"_s);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    start(process, {QString()});
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitCode(), 0) << "an empty argument is a plain start";
+    EXPECT_TRUE(process.readAllStandardError().contains("KELP_GUI_MOVEROW bad spec='7' (want from:to)"));
+}
+
+int main(int argc, char **argv)
+{
+    testing::InitGoogleTest(&argc, argv);
+    const QCoreApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,130 @@
+#include "playback/end_verdict.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using Kind = SessionEndVerdict::Kind;
+
+namespace {
+
+SessionEndFacts endedAt(double percent, int exitCode)
+{
+    SessionEndFacts facts;
+    facts.progressPercent = percent;
+    facts.exitCode = exitCode;
+    facts.audioHasStarted = true;
+    facts.currentRow = 2;
+    facts.nowMs = 100000;
+    return facts;
+}
+
+SessionEndFacts refusedExclusive()
+{
+    SessionEndFacts facts = endedAt(0., 1);
+    facts.inProcess = true;
+    facts.audioHasStarted = false;
+    facts.outputPathExclusive = true;
+    return facts;
+}
+
+} // namespace
+
+struct CodeCase
+{
+    double percent;
+    int exitCode;
+    Kind kind;
+};
+
+class EndVerdictByCode : public testing::TestWithParam<CodeCase>
+{
+};
+
+TEST_P(EndVerdictByCode, Decides)
+{
+    EXPECT_EQ(sessionEndVerdict(endedAt(GetParam().percent, GetParam().exitCode)).kind, GetParam().kind);
+}
+
+INSTANTIATE_TEST_SUITE_P(Codes, EndVerdictByCode,
+                         testing::Values(CodeCase{50., 3, Kind::Stopped}, CodeCase{96., 1, Kind::Finished},
+                                         CodeCase{94.9, 0, Kind::Failed}, CodeCase{95., 0, Kind::Finished},
+                                         CodeCase{94.9, 1, Kind::Failed}, CodeCase{100., 0, Kind::Finished},
+                                         CodeCase{0., -1, Kind::Failed}, CodeCase{99., 3, Kind::Stopped}));
+
+TEST(EndVerdict, ACrashTellsTheEnginesLastLine)
+{
+    SessionEndFacts facts = endedAt(10., 139);
+    facts.crashed = true;
+    facts.lastEngineLine = QString(500, u'x');
+    const SessionEndVerdict verdict = sessionEndVerdict(facts);
+    EXPECT_EQ(verdict.kind, Kind::Failed);
+    ASSERT_EQ(verdict.lines.size(), 2);
+    EXPECT_TRUE(verdict.lines.first().text.contains(u"139"_s));
+    EXPECT_EQ(verdict.lines.last().text.count(u'x'), 200);
+    EXPECT_TRUE(verdict.lines.last().isError);
+}
+
+TEST(EndVerdict, AnEarlyCleanEndNamesThePlace)
+{
+    const SessionEndVerdict verdict = sessionEndVerdict(endedAt(12.34, 0));
+    ASSERT_EQ(verdict.lines.size(), 1);
+    EXPECT_TRUE(verdict.lines.first().text.contains(u"12.3%"_s)) << qPrintable(verdict.lines.first().text);
+}
+
+TEST(EndVerdict, TheUsersStopWinsOverTheCode)
+{
+    SessionEndFacts facts = endedAt(50., 1);
+    facts.userStopped = true;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Stopped);
+}
+
+TEST(EndVerdict, AStaleEndIsIgnoredForItsTime)
+{
+    SessionEndFacts facts = endedAt(0., 1);
+    facts.ignoreDoneUntilMs = facts.nowMs + 1;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Ignored);
+    EXPECT_FALSE(sessionEndVerdict(facts).ignoreTimePassed);
+    facts.ignoreDoneUntilMs = facts.nowMs;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Failed);
+    EXPECT_TRUE(sessionEndVerdict(facts).ignoreTimePassed);
+}
+
+TEST(EndVerdict, TheEndOfAReplacedSessionIsIgnored)
+{
+    SessionEndFacts facts = endedAt(50., 3);
+    facts.supersededSession = true;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Ignored);
+}
+
+TEST(EndVerdict, ARefusedExclusiveDeviceGetsOneSecondChanceARow)
+{
+    SessionEndFacts facts = refusedExclusive();
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::ExclusiveFallback);
+    facts.exclusiveFallbackRow = facts.currentRow;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Failed);
+    facts.currentRow = 3;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::ExclusiveFallback);
+}
+
+TEST(EndVerdict, NoSecondChanceForOtherReasons)
+{
+    for (const auto spoil : {+[](SessionEndFacts &f) { f.inProcess = false; },
+                             +[](SessionEndFacts &f) { f.audioHasStarted = true; },
+                             +[](SessionEndFacts &f) { f.userStopped = true; },
+                             +[](SessionEndFacts &f) { f.restartPending = true; },
+                             +[](SessionEndFacts &f) { f.sessionClosing = true; },
+                             +[](SessionEndFacts &f) { f.outputPathExclusive = false; }}) {
+        SessionEndFacts facts = refusedExclusive();
+        spoil(facts);
+        EXPECT_NE(sessionEndVerdict(facts).kind, Kind::ExclusiveFallback);
+    }
+}
+
+TEST(EndVerdict, ClosingAndRestartGoOnTheirWay)
+{
+    SessionEndFacts facts = endedAt(50., 1);
+    facts.restartPending = true;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Restart);
+    facts.sessionClosing = true;
+    EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Closed);
+}

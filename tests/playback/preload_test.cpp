@@ -1,0 +1,90 @@
+#include "playback/preload.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+PreloadFacts remaining(double sec)
+{
+    PreloadFacts facts;
+    facts.totalSec = 100.;
+    facts.positionSec = 100. - sec;
+    facts.gapless = true;
+    facts.currentRow = 0;
+    facts.nextRow = 1;
+    facts.nextHasPath = true;
+    return facts;
+}
+
+} // namespace
+
+TEST(Preload, GaplessLoadsOnceWithinItsWindow)
+{
+    PreloadFacts facts = remaining(1.49);
+    EXPECT_TRUE(planPreload(facts).load);
+    facts.pending = true;
+    EXPECT_FALSE(planPreload(facts).load);
+    EXPECT_FALSE(planPreload(remaining(1.51)).load);
+    EXPECT_TRUE(planPreload(remaining(1.5)).load);
+}
+
+TEST(Preload, TooLateIsNotAtAll)
+{
+    EXPECT_FALSE(planPreload(remaining(0.01)).load);
+    EXPECT_FALSE(planPreload(remaining(-1.)).load);
+}
+
+TEST(Preload, CrossfadeSetsTheWindow)
+{
+    PreloadFacts facts = remaining(7.5);
+    facts.crossfadeSec = 8.;
+    facts.gapless = false;
+    EXPECT_TRUE(preloadNeedsNextRow(facts));
+    EXPECT_TRUE(planPreload(facts).load);
+    facts.crossfadeSec = 7.;
+    EXPECT_FALSE(planPreload(facts).load);
+}
+
+TEST(Preload, NeverWithoutAWindowOrANextRow)
+{
+    PreloadFacts facts = remaining(1.);
+    facts.gapless = false;
+    EXPECT_FALSE(planPreload(facts).load);
+    facts = remaining(1.);
+    facts.nextRow = 0;
+    EXPECT_FALSE(planPreload(facts).load) << "the same row again";
+    facts.nextRow = -1;
+    EXPECT_FALSE(planPreload(facts).load);
+    facts = remaining(1.);
+    facts.nextHasPath = false;
+    EXPECT_FALSE(planPreload(facts).load);
+    facts = remaining(1.);
+    facts.totalSec = -1.;
+    EXPECT_FALSE(planPreload(facts).load);
+}
+
+TEST(Preload, TheDiagnosisComesOnceATrack)
+{
+    PreloadFacts facts = remaining(2.9);
+    EXPECT_TRUE(planPreload(facts).diagnose);
+    facts.diagnosisDone = true;
+    EXPECT_FALSE(planPreload(facts).diagnose);
+    EXPECT_FALSE(planPreload(remaining(3.)).diagnose);
+    EXPECT_FALSE(preloadNeedsNextRow(remaining(30.)));
+}
+
+TEST(PreloadTaken, SeesThePositionRunBackward)
+{
+    EXPECT_TRUE(preloadTaken({98.5, 100., 0.1, 100.}));
+    EXPECT_FALSE(preloadTaken({98.5, 100., 98.7, 100.}));
+    EXPECT_FALSE(preloadTaken({98.5, 100., 97.6, 100.})) << "less than a second back";
+    EXPECT_FALSE(preloadTaken({1., 1.2, 0., 1.2})) << "a position of one second proves nothing";
+}
+
+TEST(PreloadTaken, SeesTheTotalChange)
+{
+    EXPECT_TRUE(preloadTaken({0.9, 1.5, 0.2, 200.}));
+    EXPECT_FALSE(preloadTaken({0.9, 1.5, 5., 200.})) << "no longer at the beginning of a track";
+    EXPECT_FALSE(preloadTaken({0.9, 200., 0.9, 200.4}));
+    EXPECT_FALSE(preloadTaken({0.9, 1.5, 0.2, -1.}));
+}

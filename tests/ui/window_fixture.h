@@ -1,0 +1,47 @@
+/// \file
+/// A real window on no display, with private settings and a session that plays nothing.
+#pragma once
+
+#include "fake_session.h"
+#include "output/engine_controls.h"
+#include "playback/playlist_widget.h"
+#include "ui/window/player_gui_window.h"
+
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <memory>
+
+/// The tests' view of the window's private state.
+struct WindowInspector
+{
+    static EngineLinkState &link(PlayerGuiWindow &window) { return window.m_link; }
+    static TrackStartState &start(PlayerGuiWindow &window) { return window.m_start; }
+    static PreloadState &preload(PlayerGuiWindow &window) { return window.m_preload; }
+    static ProgressState &progress(PlayerGuiWindow &window) { return window.m_progress; }
+    static DeviceState &devices(PlayerGuiWindow &window) { return window.m_devices; }
+};
+
+class WindowTest : public testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    void makeWindow();
+    /// Runs what is queued, until nothing is left.
+    void settle();
+    /// What the log file has got since the last call.
+    QString takeLog();
+    bool logHas(const QString &text);
+
+    /// Files that exist, named a.wav, b.wav …, appended to the list.
+    void addFiles(int count);
+    QString fileAt(int row) const { return m_window->widgets().playlist->entryAt(row).path; }
+
+    QTemporaryDir m_root;
+    FakeEngine m_engine;
+    QString m_deviceList;
+    bool m_asksBeforeClosing = false;
+    std::unique_ptr<PlayerGuiWindow> m_window;
+    QString m_log;
+};
