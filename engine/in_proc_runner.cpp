@@ -3,27 +3,22 @@
 #include "engine/in_proc_threads.h"
 #include "engine/inproc_ctl_queue.h"
 #include "engine/inproc_log.h"
+#include "engine/pipe_write.h"
 #include "engine/reader_state.h"
+#include "engine/session_code.h"
 
 #include <array>
 #include <cerrno>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
-#include <pthread.h>
 #include <system_error>
 #include <unistd.h>
 #include <utility>
 
 namespace kelp {
 namespace {
-
-constexpr int refused = -1;
-constexpr int alreadyRunning = -2;
-constexpr int couldNotStart = -3;
-constexpr int timedOut = -1000;
 
 constexpr std::chrono::milliseconds finishedPoll{20};
 constexpr std::chrono::milliseconds readerPoll{5};
@@ -61,26 +56,6 @@ void joinOrDetach(std::thread &thread, bool ended)
         thread.detach();
 }
 
-/// A write to a pipe whose reader has gone must give an error and not a signal that ends the program.
-ssize_t writeWithoutSignal(int fd, std::string_view bytes)
-{
-    sigset_t pipeSignal, former, pending;
-    sigemptyset(&pipeSignal);
-    sigaddset(&pipeSignal, SIGPIPE);
-    sigpending(&pending);
-    pthread_sigmask(SIG_BLOCK, &pipeSignal, &former);
-    const ssize_t written = write(fd, bytes.data(), bytes.size());
-    const int error = errno;
-    if (written < 0 && error == EPIPE && sigismember(&pending, SIGPIPE) == 0) {
-        const timespec now{0, 0};
-        while (sigtimedwait(&pipeSignal, nullptr, &now) < 0 && errno == EINTR) {
-        }
-    }
-    pthread_sigmask(SIG_SETMASK, &former, nullptr);
-    errno = error;
-    return written;
-}
-
 } // namespace
 
 InProcRunner::InProcRunner(Entry entry)
@@ -107,16 +82,16 @@ InProcRunner::~InProcRunner()
 int InProcRunner::start(const std::vector<std::string> &args, LineSink sink)
 {
     if (m_entry == nullptr || args.empty())
-        return refused;
+        return session_code::refused;
     if (running())
-        return alreadyRunning;
+        return session_code::alreadyRunning;
     cleanUp();
     m_diagnosticLog = inprocLogPath();
 
     int out[2] = {-1, -1};
     int control[2] = {-1, -1};
     if (!ensureStandardDescriptors() || !makePipes(out, control) || !redirect(out, control))
-        return couldNotStart;
+        return session_code::couldNotStart;
 
     m_reader = std::make_shared<ReaderState>();
     m_reader->lineSink = std::move(sink);
@@ -137,9 +112,9 @@ int InProcRunner::start(const std::vector<std::string> &args, LineSink sink)
     [[maybe_unused]] const ssize_t proof = write(STDOUT_FILENO, pipeReady.data(), pipeReady.size());
 
     if (startThreads(args))
-        return 0;
+        return session_code::ok;
     undoFailedStart();
-    return couldNotStart;
+    return session_code::couldNotStart;
 }
 
 bool InProcRunner::makePipes(int out[2], int control[2])
@@ -267,9 +242,9 @@ bool InProcRunner::writeControlPipe(std::string_view line)
 int InProcRunner::waitExit(int timeoutMs)
 {
     if (!m_worker)
-        return refused;
+        return session_code::refused;
     if (!waitFor(m_worker->finished, timeoutMs, finishedPoll))
-        return timedOut;
+        return session_code::timedOut;
     if (m_redirect.active()) {
         std::fflush(stdout);
         std::fflush(stderr);

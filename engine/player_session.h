@@ -2,19 +2,11 @@
 /// One running instance of the engine as the window sees it.
 #pragma once
 
+#include "engine/session_code.h"
+
 #include <QString>
 #include <QStringList>
 #include <functional>
-
-/// Codes of PlayerSession and of the one-shot runs.
-namespace session_code {
-inline constexpr int ok = 0;
-inline constexpr int refused = -1;
-inline constexpr int alreadyRunning = -2;
-inline constexpr int couldNotStart = -3;
-inline constexpr int crashed = -4;
-inline constexpr int timedOut = -1000;
-} // namespace session_code
 
 /// Tells the stall report what the calling thread is doing: sets a label and returns the former one.
 using ExchangeStage = std::function<QString(const QString &label)>;

@@ -54,9 +54,9 @@ void ensureStandardStreams()
 {
     for (std::FILE *stream : {stdout, stderr}) {
         std::fflush(stream);
-        // What cannot be reopened stays without a descriptor: the engine's prints then go nowhere, as before.
-        if (fileno(stream) < 0 && std::freopen(nullDevice, "w", stream) == nullptr)
-            errno = 0;
+        // What cannot be reopened stays without a descriptor: what is printed there goes nowhere, as before.
+        if (fileno(stream) < 0) [[maybe_unused]]
+            const std::FILE *reopened = std::freopen(nullDevice, "w", stream);
     }
 }
 

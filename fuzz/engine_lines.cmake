@@ -1,3 +1,4 @@
+kelp_fuzz(engine_lines SOURCES fuzz_engine_lines.cpp LINK engine_logic)
 kelp_fuzz(spectrum_line SOURCES fuzz_spectrum_line.cpp LINK engine_logic)
 kelp_fuzz(waveform_line SOURCES fuzz_waveform_line.cpp LINK engine_logic)
 kelp_fuzz(volume_line SOURCES fuzz_volume_line.cpp LINK engine_logic)

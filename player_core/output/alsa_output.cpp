@@ -150,8 +150,13 @@ int64_t AlsaOutput::deviceDelay()
 {
     if (takesAtOnce_)
         return 0;
+    // Some plugins fail to tell the delay before they start, or tell less than they hold.
     snd_pcm_sframes_t delay = 0;
-    return snd_pcm_delay(pcm_.get(), &delay) < 0 ? 0 : std::max<int64_t>(0, delay);
+    if (snd_pcm_delay(pcm_.get(), &delay) < 0)
+        delay = 0;
+    const snd_pcm_sframes_t room = snd_pcm_avail_update(pcm_.get());
+    const int64_t held = room < 0 ? 0 : static_cast<int64_t>(setup_.bufferFrames) - room;
+    return std::max<int64_t>({0, delay, held});
 }
 
 int64_t AlsaOutput::delayFrames()

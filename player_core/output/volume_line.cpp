@@ -18,7 +18,7 @@ const char *word(const std::optional<bool> &value)
 
 } // namespace
 
-std::string volumeLine(const VolumeFacts &facts)
+std::string deviceVolumeLine(const DeviceVolumeFacts &facts)
 {
     std::string control = facts.control;
     std::replace_if(

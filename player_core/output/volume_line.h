@@ -6,7 +6,7 @@
 namespace kelp_core {
 
 /// A volume control between a device and the ear.
-struct VolumeFacts
+struct DeviceVolumeFacts
 {
     std::string device;
     std::string control;
@@ -16,7 +16,7 @@ struct VolumeFacts
 };
 
 /// The `-vol-get` line of a control, with its line end; what is not known is written as unknown.
-std::string volumeLine(const VolumeFacts &facts);
+std::string deviceVolumeLine(const DeviceVolumeFacts &facts);
 
 /// The line for a device without any control that could be read.
 std::string volumeNotKnown(const std::string &device, std::string why);

@@ -18,10 +18,10 @@ struct MixerDeleter
     void operator()(snd_mixer_t *mixer) const { snd_mixer_close(mixer); }
 };
 
-VolumeFacts factsOf(const std::string &deviceId, snd_mixer_elem_t *element)
+DeviceVolumeFacts factsOf(const std::string &deviceId, snd_mixer_elem_t *element)
 {
     constexpr snd_mixer_selem_channel_id_t channel = SND_MIXER_SCHN_FRONT_LEFT;
-    VolumeFacts facts;
+    DeviceVolumeFacts facts;
     facts.device = deviceId;
     facts.control = snd_mixer_selem_get_name(element);
     long least = 0;
@@ -55,7 +55,7 @@ std::string cardVolumes(const std::string &deviceId, int card)
     for (snd_mixer_elem_t *element = snd_mixer_first_elem(raw); element;
          element = snd_mixer_elem_next(element))
         if (snd_mixer_selem_is_active(element) && snd_mixer_selem_has_playback_volume(element))
-            text += volumeLine(factsOf(deviceId, element));
+            text += deviceVolumeLine(factsOf(deviceId, element));
     return text.empty() ? volumeNotKnown(deviceId, "the card has no volume control") : text;
 }
 
@@ -69,13 +69,13 @@ std::string sinkVolume(const std::string &deviceId)
     const auto sink = server->sink(colon == std::string::npos ? "" : deviceId.substr(colon + 1));
     if (!sink)
         return volumeNotKnown(deviceId, "the sound server has no such sink");
-    VolumeFacts facts;
+    DeviceVolumeFacts facts;
     facts.device = deviceId;
     facts.control = sink->description;
     facts.percent = sink->volumePercent;
     facts.db = sink->volumeDb;
     facts.muted = sink->muted;
-    return volumeLine(facts);
+    return deviceVolumeLine(facts);
 }
 
 } // namespace

@@ -1,7 +1,5 @@
 #include "player_core/session/audio_loop.h"
 
-#include "player_core/dsp/crossfade.h"
-
 #include <algorithm>
 
 #include <pthread.h>
@@ -15,6 +13,8 @@ namespace {
 constexpr auto deviceStuckAfter = std::chrono::seconds(10);
 constexpr auto idlePoll = std::chrono::milliseconds(2);
 constexpr double tapSec = 0.5;
+/// While nothing plays so little silence is kept in hand, so that the next track is heard at once.
+constexpr double idleFillSec = 0.04;
 
 /// A tenth of a second has ten chunks of this: short enough for quick answers, long enough to cost nothing.
 size_t chunkFor(const WireFormat &wire)
@@ -81,14 +81,16 @@ void AudioLoop::finish()
 void AudioLoop::run()
 {
     pthread_setname_np(pthread_self(), "kelp-audio");
-    raisePriority();
+    // At a device without a clock we would run at full speed, and must not push everybody else aside.
+    if (opened_.clocked)
+        raisePriority();
     while (true) {
         takeCommands();
         if (quit_ || hurry_.load(std::memory_order_relaxed))
             break;
         const Step done = step();
         if (done == Step::gone) {
-            event(AudioEventKind::deviceGone, 0, nullptr, 0);
+            event(AudioEventKind::deviceGone, 0, 0);
             break;
         }
         if (done == Step::wait)
@@ -96,6 +98,7 @@ void AudioLoop::run()
     }
     if (quit_ && !hurry_.load())
         playOut();
+    left_.store(true);
 }
 
 void AudioLoop::playOut()
@@ -103,7 +106,8 @@ void AudioLoop::playOut()
     // While the buffer empties, the listener's position still moves; the device's own way of draining is only
     // for the last moment, or for a device that did not start on so few frames.
     const auto low = static_cast<int64_t>(2 * chunkFrames_);
-    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load(); publish()) {
+    for (int64_t before = INT64_MAX; state_.delay > low && state_.delay < before && !hurry_.load();
+         publish()) {
         before = state_.delay;
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
@@ -156,6 +160,10 @@ void AudioLoop::beginSwitch(Deck *deck)
     // DSD cannot be faded; and what is silent already needs no fade.
     const bool silent = !current_ || (paused_ && ramp_.settled());
     paused_ = false;
+    // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running
+    // on little: stopping it could make a converter click.
+    if (silent && opened_.mixer && state_.written > 0)
+        output_.drop();
     if (isDsd() || silent)
         return finishSwitch();
     ramp_.setTarget(0.0);
@@ -176,15 +184,15 @@ void AudioLoop::finishSwitch()
 void AudioLoop::release(Deck *&deck)
 {
     if (deck)
-        event(AudioEventKind::deckFree, 0, deck, 0);
+        event(AudioEventKind::deckFree, deck->number(), 0);
     deck = nullptr;
 }
 
-void AudioLoop::event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames)
+void AudioLoop::event(AudioEventKind kind, uint32_t serial, int64_t frames)
 {
     // Room for 1,024 events is more than a telemetry tick can bring; a lost one would hang a track's end, so
     // rather wait.
-    while (!events_.push({kind, serial, deck, state_.written, frames}) && !hurry_.load())
+    while (!events_.push({kind, serial, state_.written, frames}) && !hurry_.load())
         std::this_thread::sleep_for(idlePoll);
 }
 
@@ -197,146 +205,6 @@ AudioLoop::Step AudioLoop::step()
     if (!current_ || (paused_ && (isDsd() || ramp_.settled())))
         return silence();
     return playMusic();
-}
-
-AudioLoop::Step AudioLoop::playMusic()
-{
-    noteStart();
-    if (!current_->finished())
-        return isDsd() ? playDsd() : playPcm();
-    if (isDsd() && dsdCarry_ > 0) {
-        // The last bits of the track, filled up to a frame of the device.
-        const size_t filled = dsdPerWire_ - dsdCarry_;
-        std::fill_n(dsd_.begin() + static_cast<std::ptrdiff_t>(dsdCarry_ * channels_), filled * channels_,
-                    dsdSilence);
-        dsdCarry_ = 0;
-        dsdWriter_.write(dsd_.data(), dsdPerWire_, bytes_.data());
-        return writeMusic(1);
-    }
-    toNextDeck();
-    return Step::written;
-}
-
-void AudioLoop::noteStart()
-{
-    while (const auto start = current_->takeTrackStart()) {
-        event(AudioEventKind::trackStarted, start->serial, current_, state_.trackFrames);
-        state_.serial = start->serial;
-        state_.trackFrames = 0;
-        state_.trackWrittenAt = state_.written;
-        dither_ = start->dither;
-        sounding_ = false;
-    }
-}
-
-void AudioLoop::toNextDeck()
-{
-    if (switchTo_)
-        return finishSwitch();
-    release(current_);
-    current_ = next_;
-    next_ = nullptr;
-    sounding_ = false;
-    if (current_)
-        return;
-    event(AudioEventKind::chainEnded, state_.serial, nullptr, state_.trackFrames);
-    quit_ = setup_.drainAtEnd;
-}
-
-AudioLoop::Step AudioLoop::playPcm()
-{
-    if (fadeLength_ > 0)
-        return crossfadeStep(fadeLength_ - fadePosition_);
-    size_t want = chunkFrames_;
-    if (next_ && fadeFrames_ > 0) {
-        const int64_t left = current_->framesLeft();
-        if (left >= 0 && left <= fadeFrames_ && left > 0 && next_->available() > 0) {
-            fadeLength_ = left;
-            fadePosition_ = 0;
-            // From here on the new track is the one that plays.
-            leaving_ = current_;
-            current_ = next_;
-            next_ = nullptr;
-            noteStart();
-            return crossfadeStep(left);
-        }
-        if (left > fadeFrames_)
-            want = std::min<size_t>(want, static_cast<size_t>(left - fadeFrames_));
-    }
-    const size_t n = current_->read(mix_.data(), want);
-    if (n == 0)
-        return current_->finished() ? Step::written : starve();
-    return writePcm(n, false);
-}
-
-AudioLoop::Step AudioLoop::crossfadeStep(int64_t left)
-{
-    // Both give the same number of frames, or the fade would drift.
-    size_t n = std::min<size_t>(chunkFrames_, static_cast<size_t>(left));
-    const bool leavingDone = !leaving_ || leaving_->finished();
-    if (!leavingDone) {
-        n = std::min(n, leaving_->available());
-        if (n == 0)
-            return starve();
-    }
-    n = std::min(n, current_->available());
-    if (n == 0 && !current_->finished())
-        return starve();
-    if (n > 0) {
-        n = current_->read(mix_.data(), n);
-        const size_t m = leavingDone ? 0 : leaving_->read(other_.data(), n);
-        std::fill(other_.begin() + static_cast<std::ptrdiff_t>(m * channels_),
-                  other_.begin() + static_cast<std::ptrdiff_t>(n * channels_), 0.0);
-        crossfade(other_.data(), mix_.data(), mix_.data(), n, static_cast<int>(channels_),
-                  static_cast<size_t>(fadePosition_), static_cast<size_t>(fadeLength_));
-        fadePosition_ += static_cast<int64_t>(n);
-    }
-    if (fadePosition_ >= fadeLength_ || n == 0) {
-        fadeLength_ = 0;
-        release(leaving_);
-    }
-    return n > 0 ? writePcm(n, true) : Step::written;
-}
-
-AudioLoop::Step AudioLoop::writePcm(size_t frames, bool mixing)
-{
-    ramp_.apply(mix_.data(), frames, static_cast<int>(channels_));
-    const bool unity = ramp_.isUnity() && !mixing;
-    state_.unity = unity;
-    state_.dithered = dither_ || !unity;
-    pcmWriter_.write(mix_.data(), frames, bytes_.data(), state_.dithered);
-    const size_t tap = static_cast<size_t>(tapChannels_);
-    if (pcmTap_.space() >= frames * tap) {
-        for (size_t f = 0; f < frames; ++f)
-            for (size_t c = 0; c < tap; ++c)
-                tapScratch_[f * tap + c] = mix_[f * channels_ + c];
-        pcmTap_.write(tapScratch_.data(), frames * tap);
-    }
-    return writeMusic(frames);
-}
-
-AudioLoop::Step AudioLoop::playDsd()
-{
-    const size_t room = chunkFrames_ * dsdPerWire_ - dsdCarry_;
-    const size_t n = current_->read(dsd_.data() + dsdCarry_ * channels_, room);
-    if (n == 0)
-        return current_->finished() ? Step::written : starve();
-    const size_t tap = static_cast<size_t>(tapChannels_);
-    if (dsdTap_.space() >= n * tap) {
-        for (size_t f = 0; f < n; ++f)
-            for (size_t c = 0; c < tap; ++c)
-                dsdTapScratch_[f * tap + c] = dsd_[(dsdCarry_ + f) * channels_ + c];
-        dsdTap_.write(dsdTapScratch_.data(), n * tap);
-    }
-    const size_t total = dsdCarry_ + n;
-    const size_t whole = total / dsdPerWire_;
-    dsdWriter_.write(dsd_.data(), whole * dsdPerWire_, bytes_.data());
-    dsdCarry_ = total - whole * dsdPerWire_;
-    std::copy_n(dsd_.begin() + static_cast<std::ptrdiff_t>(whole * dsdPerWire_ * channels_),
-                dsdCarry_ * channels_, dsd_.begin());
-    state_.unity = true;
-    state_.dithered = false;
-    return whole > 0 ? writeMusic(whole) : Step::written;
 }
 
 AudioLoop::Step AudioLoop::starve()
@@ -357,6 +225,9 @@ AudioLoop::Step AudioLoop::starve()
 AudioLoop::Step AudioLoop::silence()
 {
     const size_t frames = chunkFrames_;
+    if (opened_.clocked && !opened_.mixer &&
+        output_.delayFrames() > static_cast<int64_t>(idleFillSec * wire_.frameRateHz))
+        return Step::wait;
     if (!opened_.clocked) {
         const auto now = std::chrono::steady_clock::now();
         if (now < silenceUntil_)

@@ -43,10 +43,9 @@ enum class AudioEventKind
 struct AudioEvent
 {
     AudioEventKind kind;
-    uint32_t serial = 0;
-    const Deck *deck = nullptr;
-    uint64_t at = 0;    ///< frames handed over before the event
-    int64_t frames = 0; ///< trackStarted, chainEnded: frames of the track that was left
+    uint32_t serial = 0; ///< of the track, or the deck's number
+    uint64_t at = 0;     ///< frames handed over before the event
+    int64_t frames = 0;  ///< trackStarted, chainEnded: frames of the track that was left
 };
 
 struct AudioSetup
@@ -80,6 +79,8 @@ public:
     SpscRing<uint8_t> &dsdTap() { return dsdTap_; } ///< the same for DSD, before it is packed
     const PlaybackBoard &board() const { return board_; }
     int tapChannels() const { return tapChannels_; }
+    /// The thread has ended by itself and takes no more commands. Any thread.
+    bool left() const { return left_.load(); }
     /// Times the decoder came too late. Any thread.
     unsigned starved() const { return starved_.load(std::memory_order_relaxed); }
 
@@ -110,7 +111,7 @@ private:
     void release(Deck *&deck);
     void beginSwitch(Deck *deck);
     void finishSwitch();
-    void event(AudioEventKind kind, uint32_t serial, const Deck *deck, int64_t frames);
+    void event(AudioEventKind kind, uint32_t serial, int64_t frames);
     void publish();
     bool isDsd() const { return wire_.carrier != Carrier::pcm; }
 
@@ -156,6 +157,7 @@ private:
     SpscRing<double> pcmTap_;
     SpscRing<uint8_t> dsdTap_;
     PlaybackBoard board_;
+    std::atomic<bool> left_{false};
     std::atomic<unsigned> starved_{0};
     std::atomic<bool> hurry_{false}; ///< leave at once, also from within a write
     std::thread thread_;

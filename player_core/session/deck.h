@@ -35,6 +35,7 @@ struct TrackStart
 
 struct DeckSetup
 {
+    uint32_t number = 0; ///< tells decks apart, also from one that stood at the same address before
     TransformPlan transform;
     double ringSec = 2.0; ///< how far the decoder reads ahead
     bool clocked = true;  ///< the device paces us; without a clock the decoder looks for room more often
@@ -58,6 +59,8 @@ public:
     /// Lets a track follow the last one. False when the end has already been sealed; the track then stays the
     /// caller's. Session thread.
     [[nodiscard]] bool chain(DeckTrack &track);
+
+    uint32_t number() const { return setup_.number; }
 
     // What follows is the audio thread's; none of it waits or allocates.
 

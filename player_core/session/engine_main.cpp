@@ -2,7 +2,6 @@
 
 #include "player_core/session/help_text.h"
 #include "player_core/session/session.h"
-#include "player_core/session/sheet_segments.h"
 
 #include <cstdlib>
 #include <exception>
@@ -38,7 +37,7 @@ int runSession(const SessionOptions &options)
 {
     const char *log = std::getenv("KELP_ENGINE_LOG");
     LineWriter lines(STDOUT_FILENO, log ? log : "");
-    SessionServices services{openSource, openOutput, sheetSegments};
+    SessionServices services{openSource, openOutput};
     try {
         Session session(options, services, lines);
         return session.run(controlOrigin(options));

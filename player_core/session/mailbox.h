@@ -19,8 +19,8 @@ enum class MessageKind
     trackHeard,   ///< serial: the track has just become audible
     trackOver,    ///< serial: its last frame has been heard and nothing follows
     sourceFailed, ///< serial, text: the rest of the track cannot be read
-    deckFree,     ///< deck: the audio thread has let go of it
-    deviceGone,   ///< text: why
+    deckFree,     ///< serial: the deck's number; the audio thread has let go of it
+    deviceGone,   ///< serial: the opening's number; text: why
 };
 
 struct Message
@@ -28,7 +28,6 @@ struct Message
     MessageKind kind;
     std::string text;
     uint32_t serial = 0;
-    const void *deck = nullptr;
 };
 
 /// Messages on their way to the session thread. Any thread posts, the session thread waits. Shared by

@@ -75,11 +75,13 @@ void Session::handle(const Message &message)
     case MessageKind::sourceFailed:
         return book_.setFailure(message.serial, message.text);
     case MessageKind::deckFree:
-        if (lastDeck_ == message.deck)
+        if (lastDeck_ && lastDeck_->number() == message.serial)
             lastDeck_ = nullptr;
-        std::erase_if(decks_, [&](const auto &deck) { return deck.get() == message.deck; });
+        std::erase_if(decks_, [&](const auto &deck) { return deck->number() == message.serial; });
         return;
     case MessageKind::deviceGone:
+        if (message.serial != openings_)
+            return; // of a device that has been closed in the meantime
         lines_.say("The output device is gone: " +
                    oneLine(message.text.empty() ? "it takes no more samples" : message.text));
         return end(exit_code::noDevice);
@@ -146,6 +148,7 @@ void Session::controlEnded()
     if (hostOwned_ || options_.parentPid != 0)
         return end(exit_code::stopped);
     // Somebody's script has said all it had to say: what is playing plays to its end.
+    resume();
     if (!options_.hasSource() && !playing_ && !deferred_)
         end(exit_code::done);
 }
@@ -153,7 +156,7 @@ void Session::controlEnded()
 void Session::onTrackHeard(uint32_t serial)
 {
     const auto info = book_.find(serial);
-    if (!info || serial < heardSerial_)
+    if (!info || serial < heardSerial_ || serial < firstWanted_)
         return;
     if (const auto before = book_.find(heardSerial_);
         before && serial != heardSerial_ && !before->failure.empty())
@@ -170,10 +173,10 @@ void Session::onTrackHeard(uint32_t serial)
 void Session::onTrackOver(uint32_t serial)
 {
     const auto info = book_.find(serial);
-    if (!info)
+    if (!info || serial < firstWanted_)
         return;
     lines_.say(info->failure.empty() ? doneLine(info->path) : failedLine(info->failure, info->path));
-    if (serial != lastSerial_)
+    if (serial != lastSerial_ && !oneSource())
         return; // a later one is on its way
     playing_ = false;
     idleSince_ = Clock::now();
@@ -183,7 +186,7 @@ void Session::onTrackOver(uint32_t serial)
         deferredAt_ = idleSince_ + 250ms;
         return;
     }
-    if (!options_.staysUp() && (!options_.stream || options_.hasSource() || inputEnded_))
+    if (oneSource() || (!options_.staysUp() && inputEnded_))
         end(exit_code::done);
 }
 
@@ -207,6 +210,12 @@ void Session::passTime()
         load(request);
         if (!playing_ && inputEnded_)
             end(exit_code::done);
+    }
+    // In a session of one source the audio thread leaves at its end; a line that came in just then was not
+    // taken by it any more.
+    if (playing_ && loop_ && loop_->left() && loop_->board().read().serial < lastSerial_) {
+        closeDevice();
+        load(LoadRequest(heardRequest_));
     }
     if (!playing_ && output_ && now - idleSince_ >= keepOpen)
         closeDevice();

@@ -28,8 +28,6 @@ struct SessionServices
 {
     std::function<OpenedSource(const SourceRequest &)> openSource;
     std::function<OutputOutcome(const OutputRequest &)> openOutput;
-    /// The parts of a sheet that is played as a whole.
-    std::function<std::vector<Segment>(const std::string &cuePath)> segments;
 };
 
 /// How kelp_player_main ends.
@@ -71,6 +69,7 @@ private:
     void handleLine(const std::string &text);
     void handleControl(const ControlLine &line, const std::string &text);
     void handleUnsupported(const ControlLine &line, const std::string &text);
+    bool oneSource() const { return options_.hasSource() && !options_.staysUp(); }
     void controlEnded();
     void onTrackHeard(uint32_t serial);
     void onTrackOver(uint32_t serial);
@@ -124,6 +123,9 @@ private:
     bool startUsed_ = false;  ///< `-start` has been applied
     uint32_t lastSerial_ = 0; ///< of the track that was asked for last
     uint32_t heardSerial_ = 0;
+    uint32_t firstWanted_ = 0; ///< the listener has left all tracks before this one
+    uint32_t decksMade_ = 0;
+    uint32_t openings_ = 0;
     int volume_;
     LoadRequest heardRequest_;            ///< what lastSerial_ came from
     std::optional<LoadRequest> deferred_; ///< handed over early, but cannot join

@@ -76,11 +76,11 @@ LoadFacts Session::loadFacts(const LoadRequest &request)
     LoadFacts facts;
     facts.playing = playing_ && !parked_;
     facts.paused = paused_;
-    facts.preloaded = deferred_.has_value() || lastSerial_ != heardSerial_;
     facts.hasPosition = request.hasPosition;
     facts.crossfadeSec = options_.crossfadeSec;
     facts.gapless = options_.gapless;
     const HeardPosition heard = telemetry_.heard();
+    facts.preloaded = deferred_.has_value() || lastSerial_ != heard.serial;
     facts.positionSec = heard.seconds;
     if (const auto info = book_.find(heard.serial))
         facts.totalSec = info->totalSec;
@@ -117,8 +117,7 @@ DeckTrack Session::enter(const LoadRequest &request, std::unique_ptr<Source> sou
     info.startSec = request.startSec;
     info.totalSec = totalSeconds(info.facts);
     info.fromCommandLine = request.fromCommandLine;
-    if (!request.source.cuePath.empty() && request.source.track < 1 && services_.segments)
-        info.segments = services_.segments(request.source.cuePath);
+    info.segments = source->segments();
     DeckTrack track;
     const StreamFormat format = info.facts.format;
     track.startFrame = std::llround(request.startSec * static_cast<double>(format.framesPerSecond()));
@@ -134,13 +133,12 @@ void Session::begin(const LoadRequest &request, std::unique_ptr<Source> source)
     const StreamFormat format = source->facts().format;
     deferred_.reset();
     parked_.reset();
-    if (output_ && !whyNotOnThisDevice(format).empty()) {
-        telemetry_.expect(lastSerial_ + 1);
+    if (output_ && (loop_->left() || !whyNotOnThisDevice(format).empty()))
         closeDevice();
-    }
     if (!output_ && !openDevice(format))
         return;
     DeckTrack track = enter(request, std::move(source));
+    firstWanted_ = track.serial;
     telemetry_.expect(track.serial);
     paused_ = false;
     playing_ = true;
@@ -172,6 +170,7 @@ void Session::fail(const LoadRequest &request, const std::string &reason)
     if (loop_)
         closeDevice();
     playing_ = false;
+    firstWanted_ = lastSerial_ + 1;
     parked_.reset();
     deferred_.reset();
     lines_.say(failedLine(reason, request.shownPath()));
@@ -221,10 +220,8 @@ bool Session::openDevice(const StreamFormat &stream)
     output_ = std::move(outcome.output);
     openedStream_ = stream;
     lines_.say(openedLine(output_->opened()));
-    // A session of one source plays its end out; one that goes on keeps the device fed.
-    const bool oneSource = options_.hasSource() && !options_.staysUp();
-    loop_ = std::make_unique<AudioLoop>(*output_, AudioSetup{gainForVolume(volume_), oneSource});
-    telemetry_.attach(*loop_, *output_);
+    loop_ = std::make_unique<AudioLoop>(*output_, AudioSetup{gainForVolume(volume_), oneSource()});
+    telemetry_.attach(*loop_, *output_, ++openings_);
     return true;
 }
 
@@ -243,6 +240,7 @@ void Session::closeDevice()
 Deck &Session::makeDeck(DeckTrack track)
 {
     DeckSetup setup;
+    setup.number = ++decksMade_;
     setup.transform = transformFor(track.source->facts().format);
     setup.clocked = output_->opened().clocked;
     setup.onFailed = [mailbox = mailbox_](uint32_t serial, const std::string &reason) {

@@ -15,7 +15,9 @@ namespace {
 
 using namespace std::chrono_literals;
 
+// Shorter while a start or an end is on its way to the ear.
 constexpr auto tickPeriod = 25ms;
+constexpr auto shortTick = 5ms;
 constexpr auto levelPeriod = 50ms;
 constexpr auto progressPeriod = 100ms;
 constexpr auto latencyPeriod = 500ms;
@@ -41,12 +43,15 @@ Telemetry::~Telemetry()
     thread_.join();
 }
 
-void Telemetry::attach(AudioLoop &loop, const Output &output)
+void Telemetry::attach(AudioLoop &loop, const Output &output, uint32_t opening)
 {
     const std::lock_guard lock(mutex_);
     const OpenedOutput &opened = output.opened();
+    attached_ = true;
+    wake_.notify_one();
     loop_ = &loop;
     output_ = &output;
+    opening_ = opening;
     dsd_ = opened.wire.carrier != Carrier::pcm;
     frameRateHz_ = std::max(1, opened.wire.frameRateHz);
     pending_.clear();
@@ -114,10 +119,10 @@ void Telemetry::run()
 {
     pthread_setname_np(pthread_self(), "kelp-telemetry");
     std::unique_lock lock(mutex_);
-    auto next = Clock::now();
     while (!ending_) {
-        next = std::max(next + tickPeriod, Clock::now());
-        wake_.wait_until(lock, next, [this] { return ending_; });
+        const bool expecting = loop_ && (!track_ || !pending_.empty());
+        wake_.wait_for(lock, expecting ? shortTick : tickPeriod, [this] { return ending_ || attached_; });
+        attached_ = false;
         if (!ending_ && loop_)
             tick(Clock::now());
     }
@@ -152,9 +157,9 @@ void Telemetry::takeEvents()
     AudioEvent event{};
     while (loop_->events().pop(event)) {
         if (event.kind == AudioEventKind::deckFree)
-            mailbox_.post({.kind = MessageKind::deckFree, .text = {}, .deck = event.deck});
+            mailbox_.post({.kind = MessageKind::deckFree, .text = {}, .serial = event.serial});
         else if (event.kind == AudioEventKind::deviceGone)
-            mailbox_.post({.kind = MessageKind::deviceGone, .text = output_->message()});
+            mailbox_.post({.kind = MessageKind::deviceGone, .text = output_->message(), .serial = opening_});
         else
             pending_.push_back(event);
     }
@@ -227,12 +232,23 @@ void Telemetry::sayProgress()
         return;
     const double seconds = positionSec(state);
     lines_.frame(progressLine(seconds, track_->totalSec));
-    for (const Segment &segment : track_->segments) {
-        if (seconds >= segment.startSec && seconds < segment.endSec && segment.number != segment_) {
-            segment_ = segment.number;
-            lines_.say(segmentLine(segment.startSec, segment.endSec, segment.number));
-        }
-    }
+    saySegment(seconds);
+}
+
+void Telemetry::saySegment(double seconds)
+{
+    const std::vector<SourceSegment> &all = track_->segments;
+    const double perSecond = static_cast<double>(track_->facts.format.framesPerSecond());
+    const auto frame = static_cast<int64_t>(seconds * perSecond);
+    const auto next = std::upper_bound(all.begin(), all.end(), frame,
+                                       [](int64_t f, const SourceSegment &s) { return f < s.startFrame; });
+    if (next == all.begin() || std::prev(next)->number == segment_)
+        return;
+    const SourceSegment &now = *std::prev(next);
+    segment_ = now.number;
+    const double end =
+        next == all.end() ? track_->totalSec : static_cast<double>(next->startFrame) / perSecond;
+    lines_.say(segmentLine(static_cast<double>(now.startFrame) / perSecond, end, now.number));
 }
 
 void Telemetry::takeSamples()
@@ -281,11 +297,10 @@ void Telemetry::sayLevels()
 
 void Telemetry::saySpectrumHead()
 {
-    if (dsd_ || !spectrumOn_) {
-        spectrum_.reset();
-        lines_.say("SPC none");
+    if (dsd_)
+        return lines_.say("SPC none");
+    if (!spectrumOn_)
         return;
-    }
     if (!spectrum_)
         spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_);
     lines_.say("SPC cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(SpectrumAnalyser::bands));
@@ -294,11 +309,10 @@ void Telemetry::saySpectrumHead()
 
 void Telemetry::sayWaveHead()
 {
-    if (dsd_ || !scopeOn_) {
-        scope_.reset();
-        lines_.say("WVF none");
+    if (dsd_)
+        return lines_.say("WVF none");
+    if (!scopeOn_)
         return;
-    }
     if (!scope_)
         scope_ = std::make_unique<WaveformBuckets>(frameRateHz_);
     lines_.say("WVF cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(WaveformBuckets::buckets));

@@ -28,8 +28,8 @@ struct HeardPosition
 /// Tells the host what is heard: positions, levels, spectrum, scope, and the start and end of tracks at the
 /// moment when they reach the converter, which is later than when they were written.
 ///
-/// A thread of its own looks at the audio thread's events, board and taps forty times a second, writes
-/// lines, and posts what the session must decide on.
+/// A thread of its own looks at the audio thread's events, board and taps forty times a second or more often,
+/// writes lines, and posts what the session must decide on.
 class Telemetry
 {
 public:
@@ -39,7 +39,8 @@ public:
     Telemetry &operator=(const Telemetry &) = delete;
 
     // Session thread.
-    void attach(AudioLoop &loop, const Output &output);
+    /// opening: the number that a message on the device's end carries.
+    void attach(AudioLoop &loop, const Output &output, uint32_t opening);
     /// Both may be destroyed afterwards; what was not heard yet is forgotten.
     void detach();
     /// The listener has chosen this track: nothing of an earlier one is told any more.
@@ -62,6 +63,7 @@ private:
     void saySpectrumHead();
     void sayWaveHead();
     void sayProgress();
+    void saySegment(double seconds);
     void sayLatency();
     double positionSec(const PlaybackState &state) const;
 
@@ -72,8 +74,10 @@ private:
     std::mutex mutex_; // guards all that follows but the thread
     std::condition_variable wake_;
     bool ending_ = false;
+    bool attached_ = false; ///< a moment ago: look at once
     AudioLoop *loop_ = nullptr;
     const Output *output_ = nullptr;
+    uint32_t opening_ = 0;
     bool dsd_ = false;
     int frameRateHz_ = 0;
     std::deque<AudioEvent> pending_; ///< not heard yet

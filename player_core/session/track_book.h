@@ -11,14 +11,6 @@
 
 namespace kelp_core {
 
-/// A part of a source that has a number of its own: a track within a whole sheet.
-struct Segment
-{
-    double startSec = 0;
-    double endSec = 0;
-    int number = 0;
-};
-
 /// What is known of a track on its way through the session.
 struct TrackInfo
 {
@@ -27,8 +19,8 @@ struct TrackInfo
     SourceFacts facts;
     double startSec = 0; ///< where playing begins within the track
     double totalSec = -1;
-    std::vector<Segment> segments; ///< empty but for whole sheets
-    std::string failure;           ///< why its rest could not be read; empty when it could
+    std::vector<SourceSegment> segments; ///< empty but for whole sheets
+    std::string failure;                 ///< why its rest could not be read; empty when it could
     bool fromCommandLine = false;
 };
 

@@ -90,7 +90,10 @@ bool AvReader::openContext(const Options &options, std::string &error)
     format_->flags |= AVFMT_FLAG_CUSTOM_IO;
     format_->io_open = refuseToOpen;
     format_->interrupt_callback = {isInterrupted, this};
-    int code = avformat_open_input(&format_, "", input, nullptr);
+    AVDictionary *demuxerOptions = nullptr;
+    av_dict_parse_string(&demuxerOptions, options.demuxerOptions, "=", ":", 0);
+    int code = avformat_open_input(&format_, "", input, &demuxerOptions);
+    av_dict_free(&demuxerOptions);
     if (code >= 0)
         code = avformat_find_stream_info(format_, nullptr);
     if (isCancelled()) {

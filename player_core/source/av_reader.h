@@ -27,6 +27,7 @@ public:
     struct Options
     {
         const char *demuxer = "";                     ///< FFmpeg's name of the format
+        const char *demuxerOptions = "";              ///< "key=value:key=value"
         const std::atomic<bool> *cancelled = nullptr; ///< set by another thread to give up; may be null
     };
 

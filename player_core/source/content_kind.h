@@ -22,6 +22,7 @@ struct ContentKind
 {
     ContentReader reader = ContentReader::none;
     const char *demuxer = "";  ///< FFmpeg's name, for container
+    const char *options = "";  ///< for the demuxer, "key=value:key=value"
     const char *word = "";     ///< the word of the SRC line for uncompressed PCM in it, and of DSD "dsd"
     const char *name = "";     ///< for people: "WAV", "DSF", …
     std::string refusal;       ///< one line, for none

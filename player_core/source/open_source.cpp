@@ -1,5 +1,6 @@
 #include "player_core/source/av_log.h"
 #include "player_core/source/content_kind.h"
+#include "player_core/source/cue_source.h"
 #include "player_core/source/dsd_source.h"
 #include "player_core/source/dst_decoder.h"
 #include "player_core/source/file_input.h"
@@ -10,6 +11,17 @@
 
 namespace kelp_core {
 namespace {
+
+ContentKind rawCdAudio(bool bigEndian)
+{
+    ContentKind kind;
+    kind.reader = ContentReader::container;
+    kind.demuxer = bigEndian ? "s16be" : "s16le";
+    kind.word = "raw";
+    kind.name = "raw CD audio";
+    kind.options = "sample_rate=44100:ch_layout=stereo";
+    return kind;
+}
 
 using LayoutParser = DsdLayoutOutcome (*)(ByteInput &);
 
@@ -29,14 +41,16 @@ OpenedSource openDsdFile(std::unique_ptr<FileInput> file, LayoutParser parse)
 
 } // namespace
 
-OpenedSource openAudioFile(const std::string &path, const SourceRequest &request)
+OpenedSource openAudioFile(const std::string &path, const SourceRequest &request, RawAudio raw)
 {
     quietAvLog();
     std::string error;
     auto file = FileInput::open(path, error);
     if (!file)
         return {nullptr, error};
-    const ContentKind kind = detectContent(*file);
+    ContentKind kind = detectContent(*file);
+    if (kind.reader == ContentReader::none && raw != RawAudio::no && file->sizeBytes() > 0)
+        kind = rawCdAudio(raw == RawAudio::bigEndian);
     switch (kind.reader) {
     case ContentReader::container:
         return openPcmFile(path, kind, request);
@@ -57,6 +71,8 @@ OpenedSource openSource(const SourceRequest &request)
     try {
         if (!request.isoPath.empty())
             return {nullptr, "SACD images are not read by this engine"};
+        if (!request.cuePath.empty())
+            return openCue(request);
         return openAudioFile(request.path, request);
     } catch (const std::exception &failure) {
         return {nullptr, std::string("cannot open: ") + failure.what()};

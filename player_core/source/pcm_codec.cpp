@@ -1,6 +1,7 @@
 #include "player_core/source/pcm_codec.h"
 
 #include "player_core/source/endian.h"
+#include "player_core/source/wav_head.h"
 
 #include <algorithm>
 #include <array>
@@ -62,19 +63,11 @@ WavPackFlags wavPackFlags(FileInput &file, int64_t offset)
     return {(flags & hybridBit) != 0, (flags & dsdBit) != 0};
 }
 
-/// Whether a WAV file's format chunk is of the extensible form, which states what its samples are.
-bool isExtensibleWav(FileInput &file)
+/// Whether a WAV file's format chunk is of the form that states what its samples are.
+bool isExtensible(FileInput &file)
 {
-    constexpr int maxChunks = 32;
-    int64_t offset = 12;
-    uint8_t head[10];
-    for (int chunk = 0; chunk < maxChunks && file.readFully(offset, head, sizeof head); ++chunk) {
-        if (std::memcmp(head, "fmt ", 4) == 0)
-            return head[8] == 0xFE && head[9] == 0xFF;
-        const int64_t size = littleU32(head + 4);
-        offset += 8 + size + (size & 1);
-    }
-    return false;
+    const auto head = readWavHead(file);
+    return head && head->extensible;
 }
 
 int validBits(const AVCodecParameters &parameters, const AVCodecContext &decoder)
@@ -153,7 +146,7 @@ void correctSampleWidth(AVCodecParameters &parameters, FileInput &file)
     const int bytes = parameters.block_align / channels;
     switch (parameters.codec_id) {
     case AV_CODEC_ID_PCM_F24LE:
-        if (bytes == 4 && isExtensibleWav(file))
+        if (bytes == 4 && isExtensible(file))
             parameters.codec_id = AV_CODEC_ID_PCM_S32LE;
         return;
     case AV_CODEC_ID_PCM_S16LE:

@@ -5,8 +5,10 @@
 #include "player_core/source/pcm_codec.h"
 #include "player_core/source/pcm_convert.h"
 #include "player_core/source/read_failure.h"
+#include "player_core/source/wav_head.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace kelp_core {
 namespace {
@@ -36,6 +38,7 @@ private:
     std::string measure(const SourceRequest &request);
     std::string scanLength(const SourceRequest &request);
     ReadOutcome decodeFrame();
+    ReadOutcome decodeInOrder();
     ReadOutcome feedPacket();
     ReadOutcome failAt(int code);
     ReadOutcome endOrFailure() const;
@@ -53,9 +56,11 @@ private:
     std::unique_ptr<AVCodecContext, DecoderFree> decoder_;
     std::unique_ptr<AVFrame, FrameFree> frame_;
     AvPacketPtr packet_;
-    size_t used_ = 0;                          ///< frames of frame_ that were handed on
-    int64_t position_ = 0;                     ///< the next frame that read() gives
-    bool draining_ = false;                    ///< all packets were sent
+    size_t used_ = 0;       ///< frames of frame_ that were handed on
+    int64_t position_ = 0;  ///< the next frame that read() gives
+    bool draining_ = false; ///< all packets were sent
+    /// Times come from the frames themselves, not from counting them.
+    bool hasFrameNumbers_ = false;
     ReadOutcome over_{ReadStatus::frames, {}}; ///< the end or the failure, once it was met
 };
 
@@ -63,12 +68,13 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
 {
     path_ = path;
     kind_ = kind;
+    hasFrameNumbers_ = std::string_view(kind.demuxer) == "flac";
     frame_.reset(av_frame_alloc());
     packet_.reset(av_packet_alloc());
     if (!frame_ || !packet_)
         return "cannot open: not enough memory";
     std::string error;
-    AvReader::Options options{kind.demuxer, request.cancelled};
+    AvReader::Options options{kind.demuxer, kind.options, request.cancelled};
     reader_ = AvReader::open(path, options, error);
     if (!reader_)
         return error;
@@ -92,7 +98,7 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
 std::string PcmSource::openReader()
 {
     std::string error;
-    reader_ = AvReader::open(path_, {kind_.demuxer, nullptr}, error);
+    reader_ = AvReader::open(path_, {kind_.demuxer, kind_.options, nullptr}, error);
     return error;
 }
 
@@ -126,6 +132,12 @@ std::string PcmSource::openDecoder()
 std::string PcmSource::measure(const SourceRequest &request)
 {
     const AVStream *stream = reader_->audio();
+    const auto head = readWavHead(reader_->file());
+    const bool plain = av_get_bits_per_sample(stream->codecpar->codec_id) > 0;
+    if (plain && head && head->dataBytes > 0 && head->blockAlign > 0) {
+        facts_.totalFrames = head->dataBytes / head->blockAlign;
+        return {};
+    }
     const bool stated = reader_->context()->duration_estimation_method == AVFMT_DURATION_FROM_STREAM &&
                         stream->duration > 0 && stream->codecpar->codec_id != AV_CODEC_ID_DTS;
     if (!stated)
@@ -223,6 +235,22 @@ ReadOutcome PcmSource::decodeFrame()
     }
 }
 
+/// As decodeFrame, but a frame that does not follow the one before it is damage: FLAC numbers its frames, and
+/// the demuxer passes over damaged ones without a word.
+ReadOutcome PcmSource::decodeInOrder()
+{
+    ReadOutcome outcome = decodeFrame();
+    if (outcome.status != ReadStatus::frames || !hasFrameNumbers_ || frame_->pts == AV_NOPTS_VALUE)
+        return outcome;
+    const int64_t missing = frameOfTime(frame_->pts) - position_;
+    if (missing == 0)
+        return outcome;
+    dropDecoded();
+    return damagedAt(facts_, position_,
+                     missing > 0 ? std::to_string(missing) + " frames are missing"
+                                 : "its frames are out of order");
+}
+
 void PcmSource::dropDecoded()
 {
     av_frame_unref(frame_.get());
@@ -239,7 +267,7 @@ ReadOutcome PcmSource::read(AudioBlock &block, size_t maxFrames)
             break;
         }
         if (decodedLeft() == 0) {
-            if (ReadOutcome outcome = decodeFrame(); outcome.status != ReadStatus::frames) {
+            if (ReadOutcome outcome = decodeInOrder(); outcome.status != ReadStatus::frames) {
                 over_ = outcome;
                 break;
             }
@@ -302,7 +330,7 @@ bool PcmSource::settleAt(int64_t frame)
 {
     while (position_ < frame) {
         if (decodedLeft() == 0) {
-            if (ReadOutcome outcome = decodeFrame(); outcome.status != ReadStatus::frames) {
+            if (ReadOutcome outcome = decodeInOrder(); outcome.status != ReadStatus::frames) {
                 over_ = outcome;
                 return true; // the next read tells what was met on the way
             }

@@ -106,7 +106,7 @@ class Stage(contextlib.ExitStack):
         """Records the sink's monitor while the block runs; the yielded object is a file name to read afterwards."""
         path = self.path(f"monitor-{time.monotonic_ns()}.raw")
         recorder = self.start(["parecord", "-d", f"{sink}.monitor", "--raw", f"--rate={rate}", f"--format={sample_format}",
-                               "--channels=2", "--latency-msec=50", path], stderr=subprocess.DEVNULL)
+                               "--channels=2", path], stderr=subprocess.DEVNULL)
         wait_until(lambda: os.path.exists(path) and os.path.getsize(path) > 0, 15, "the recorder")
         yield path
         recorder.send_signal(signal.SIGINT)

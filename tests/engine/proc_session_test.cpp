@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <thread>
@@ -100,6 +101,43 @@ TEST_F(ProcSessionTest, ACrashIsToldAsOne)
     EXPECT_TRUE(heard.ends[0].crashed);
     EXPECT_TRUE(heard.hasLine(u"about to crash\n"_s));
     EXPECT_EQ(heard.ends.size(), 1);
+}
+
+TEST_F(ProcSessionTest, AThrownExceptionIsACrashOfTheChild)
+{
+    ASSERT_EQ(start(u"throw"_s, u"std"_s), 0);
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_TRUE(heard.ends[0].crashed);
+}
+
+TEST_F(ProcSessionTest, ALateEngineGetsTheLinesSentBeforeItListened)
+{
+    ASSERT_EQ(start(u"late"_s, u"100"_s), 0);
+    EXPECT_EQ(session.writeLine(u"load a"_s, flushed), 7);
+    EXPECT_EQ(session.stop(10000), 3);
+    EXPECT_TRUE(heard.hasLine(u"[echo] load a\n"_s));
+}
+
+TEST_F(ProcSessionTest, AnEngineThatReadsInSmallBitesGetsWholeLines)
+{
+    ASSERT_EQ(start(u"tiny"_s), 0);
+    session.writeLine(u"a line of more than eight bytes"_s, flushed);
+    EXPECT_EQ(session.stop(10000), 3);
+    EXPECT_TRUE(heard.hasLine(u"[echo] a line of more than eight bytes\n"_s));
+}
+
+TEST_F(ProcSessionTest, AThousandStartsLeaveNoDescriptorBehind)
+{
+    const auto descriptors = [] { return QDir(u"/proc/self/fd"_s).entryList(QDir::System).size(); };
+    ASSERT_EQ(start(u"exit"_s, u"1"_s), 0);
+    ASSERT_TRUE(session.waitFinished(10000));
+    const auto before = descriptors();
+    for (int i = 0; i < 1000; ++i) {
+        ASSERT_EQ(start(u"exit"_s, u"1"_s), 0);
+        ASSERT_TRUE(session.waitFinished(10000));
+    }
+    EXPECT_EQ(heard.ends.size(), 1001);
+    EXPECT_EQ(descriptors(), before);
 }
 
 TEST_F(ProcSessionTest, AFloodArrivesWholeAndInOrder)

@@ -41,6 +41,13 @@ bool eventually(const std::function<bool()> &condition);
 std::size_t openDescriptors();
 std::size_t threads();
 
+// Threads of a test that runs nothing: the main one, and the one that ThreadSanitizer keeps.
+#ifdef __SANITIZE_THREAD__
+inline constexpr std::size_t idleThreads = 2;
+#else
+inline constexpr std::size_t idleThreads = 1;
+#endif
+
 // Which files descriptors 0, 1 and 2 are, and their flags.
 struct StandardDescriptors
 {

@@ -68,6 +68,10 @@ class Layout(unittest.TestCase):
     def test_a_long_file_is_named(self):
         self.assertBreach({"engine/a.cpp": "\n" * 700}, "more than 600 lines")
 
+    def test_two_types_of_one_name_are_named(self):
+        text = "#pragma once\nnamespace n {\nstruct Facts\n{\n};\n}\n"
+        self.assertBreach({"player_core/a/x.h": text, "player_core/b/y.h": text}, "the type Facts is defined at player_core/a/x.h:3 too")
+
     def test_a_header_without_guard_is_named(self):
         self.assertBreach({"engine/a.h": "int x;\n"}, "no guard")
 

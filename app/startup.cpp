@@ -1,0 +1,159 @@
+#include "app/startup.h"
+
+#include "app/about_block.h"
+#include "app/guard_trace.h"
+#include "app/gui_log_file.h"
+#include "app/heartbeat.h"
+#include "app/language_install.h"
+#include "app/session_log_sweep.h"
+#include "engine/engine_library.h"
+#include "platform/single_instance.h"
+#include "ui/theme_colors.h"
+#include "ui/window/player_gui_window.h"
+
+#include <QApplication>
+#include <QDebug>
+#include <QFileInfo>
+#include <QIcon>
+#include <QMessageBox>
+#include <QTimer>
+
+#include <cstdio>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace startup {
+
+namespace {
+
+constexpr int couldNotRunEngine = 127;
+
+QString refusalText()
+{
+    return QCoreApplication::translate("Startup", "[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动\n\n"
+                                                  "再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。\n"
+                                                  "要故意多开请设 KELP_GUI_ALLOW_MULTI=1");
+}
+
+void refuse()
+{
+    const QString warning =
+        u"another KelpPlayer is already running -- refusing to start a second instance: several instances "
+        u"would "
+        "play on top of each other on the same device (the user hears that as noise/overlap). Set "
+        "KELP_GUI_ALLOW_MULTI=1 to allow it."_s;
+    GuiLogFile::ofProcess().write(warning);
+    qWarning().noquote() << warning;
+    // This process ends here, so its identity and language may be set early: the refusal is read by a person.
+    setPaletteAndIdentity();
+    installTranslator();
+    QMessageBox::information(nullptr, u"KelpPlayer"_s, refusalText(), QMessageBox::Ok);
+}
+
+} // namespace
+
+bool isConsoleRole(const QStringList &arguments)
+{
+    return arguments.size() >= 2 && arguments.at(1).startsWith(u'-');
+}
+
+int runConsoleRole(int argc, char **argv)
+{
+    kelp::EngineLibrary &library = kelp::EngineLibrary::ofProgram();
+    const auto entry = library.mainEntry();
+    if (!entry) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(library.errorText()));
+        return couldNotRunEngine;
+    }
+    return entry(argc, argv);
+}
+
+void sweepLogs()
+{
+    if (const QString line = sweepSessionLogs(); !line.isEmpty())
+        qInfo().noquote() << line;
+}
+
+bool takeSingleInstanceGuard()
+{
+    const SingleInstanceResult guard = takeSingleInstance(singleInstanceDirectory());
+    guardTrace("pid=%lu mutex=%p GetLastError=%lu (183=ALREADY_EXISTS) session=%lu",
+               static_cast<unsigned long>(QCoreApplication::applicationPid()),
+               reinterpret_cast<void *>(static_cast<std::intptr_t>(guard.descriptor)), guard.lastError,
+               processSessionId());
+    if (!guard.heldByOther() || !qEnvironmentVariableIsEmpty("KELP_GUI_ALLOW_MULTI"))
+        return true;
+    refuse();
+    return false;
+}
+
+void setPaletteAndIdentity()
+{
+    QApplication::setPalette(theme::applicationPalette());
+    QApplication::setStyle(u"Fusion"_s);
+    QCoreApplication::setApplicationName(u"KelpPlayer"_s);
+    QCoreApplication::setOrganizationName(u"KELP"_s);
+}
+
+LanguageChoice installTranslator()
+{
+    LanguageChoice choice = chooseLanguage(languageFacts());
+    const LanguageInstall installed = installLanguage(choice.code);
+    if (!installed.warning.isEmpty()) {
+        qWarning().noquote() << installed.warning;
+        GuiLogFile::ofProcess().write(installed.warning);
+    }
+    choice.code = installed.code;
+    return choice;
+}
+
+void setWindowIcon()
+{
+    QApplication::setWindowIcon(QIcon(u":/icons/kelp.png"_s));
+}
+
+void addAboutBlock(PlayerGuiWindow &window)
+{
+    auto *block = new AboutBlock(&window);
+    QObject::connect(block, &AboutBlock::updateCheckRequested, &window,
+                     [&window] { window.startUpdateCheck(true); });
+}
+
+void showWindow(PlayerGuiWindow &window)
+{
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
+    window.show();
+    window.noteShown();
+    // The engine's library draws in dozens of others: it is loaded once the window is up, so that the first
+    // track need not wait for it and the window neither.
+    QTimer::singleShot(0, &window, [] {
+        kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
+        std::thread([library] { library->preload(); }).detach();
+    });
+}
+
+void startHeartbeat()
+{
+    heartbeat::start();
+}
+
+void startStackWatch()
+{
+    if (qEnvironmentVariableIsSet("KELP_GUI_STACK_WATCH"))
+        heartbeat::startStallSampler();
+}
+
+void startUpdateCheck(PlayerGuiWindow &window)
+{
+    if (qEnvironmentVariableIsEmpty("KELP_NO_UPDATE_CHECK"))
+        window.startUpdateCheck(false);
+}
+
+void playCommandLineFile(PlayerGuiWindow &window, const QStringList &arguments)
+{
+    if (arguments.size() >= 2 && QFileInfo(arguments.at(1)).isFile())
+        window.debugAutoplay(arguments.at(1), QString());
+}
+
+} // namespace startup

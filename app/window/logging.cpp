@@ -1,0 +1,48 @@
+// The window's log: pane, file, stage label, crash guard.
+#include "ui/window/player_gui_window.h"
+
+#include "app/crash_guard.h"
+#include "app/gui_log_file.h"
+#include "app/startup_metrics.h"
+#include "platform/process_facts.h"
+#include "ui/log_pane.h"
+
+void PlayerGuiWindow::logLine(const QString &text, bool isError)
+{
+    logFileOnly(text);
+    if (!m_ui.log)
+        return;
+    // A burst of lines costs one repaint.
+    if (m_log.batch.add({text, isError}))
+        QMetaObject::invokeMethod(this, &PlayerGuiWindow::flushLog, Qt::QueuedConnection);
+}
+
+void PlayerGuiWindow::flushLog()
+{
+    m_ui.log->appendEntries(m_log.batch.take());
+}
+
+void PlayerGuiWindow::logFileOnly(const QString &text)
+{
+    GuiLogFile::ofProcess().write(text);
+}
+
+QString PlayerGuiWindow::markStage(const QString &label)
+{
+    return m_log.stage.exchange(label);
+}
+
+void PlayerGuiWindow::crashGuard(const QString &functionName, const std::exception *exception)
+{
+    logLine(crashGuardText(functionName, exception), true);
+}
+
+void PlayerGuiWindow::reportStartupMetrics()
+{
+    logLine(startupMetrics(m_log.readyAfterMs, residentBytes()));
+}
+
+void PlayerGuiWindow::noteShown()
+{
+    m_log.readyAfterMs = processAgeMs();
+}

@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ar_EG" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>البحث عن تحديثات…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>إشعارات الأطراف الأخرى والمعايير المرجعية</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>مؤثرات DSP مفعّلة ⇒ يُفك ترميز هذا المقطع إلى PCM (لا يجتمع DSD المباشر مع DSP: المؤثرات تعمل في نطاق PCM فقط). للحصول على DSD مباشر أوقف الصدى والنغمة وخفض الضجيج والتوازن والعرض كلها.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>لم يُختر أي جهاز</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>يحتاج الوضع التفاضلي ووضع تقسيم الترددات إلى جهاز لكل قناة — اختر الأجهزة أولًا.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>يحتاج الوضع pairs إلى %1 من الأجهزة (جهاز لكل زوج قنوات) والمختار %2 فقط؛ أكملها قبل التشغيل.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>يحتاج هذا الوضع إلى %1 من الأجهزة (جهاز لكل قناة) والمختار %2 فقط؛ القنوات الناقصة تزيح التوزيع كله — أكمل القائمة قبل التشغيل.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>عدد الأجهزة غير كافٍ</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[التحكم] مطابقة: أُرسل %1 من الأوامر، لكن لا يوجد سجل جلسة للمحرك في هذا التشغيل — لا يمكن مطابقة الطرفين</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>مطابق</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>خارج المسموح (الفرق %1 &gt; المسموح %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[التحكم] مطابقة: queued=%1 recv=%2 diff=%3 — %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[التحكم] مصدر المطابقة: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[التحكم] استغرق إرسال %1 مدة %2 ms (ينبغي أن تقل عن 1 ms)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[التحكم] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>استثناء غير معروف</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>خطاف اختبار: إغلاق تلقائي للنافذة (كزر الإغلاق في الزاوية)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse (خلّاط النظام؛ ليس مطابقًا بتًّا ببت)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (أُعيد ضبط الجهاز)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>انتهت مهلة إعادة ضبط الجهاز (-reset-device): %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>العنوان</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>اختر مقطعًا أو استورد ملفات صوتية</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>إيقاف التشغيل</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>السابق</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>تشغيل المقطع السابق</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>تشغيل المقطع المختار</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>التالي</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>تشغيل المقطع التالي</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>مستوى الصوت</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>مستوى الصوت؛ عند 100% لا تتغير العينات</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>اختر مقطعًا أو استورد ملفات صوتية</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>انتهى قبل بلوغ نهايته (%1%)؛ أُوقف التشغيل ولن يُنتقل إلى التالي</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>انتهى المشغّل على نحو غير سليم، الرمز: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  آخر سطر من المحرك: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>تعذّر فتح المخرج الحصري (مشغول أو الصيغة غير مدعومة) ⇒ يُعاد هذا المقطع بالوضع auto (حصري ← مشترك)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>أُغلقت الجلسة (تغيّر الجهاز/التوزيع)؛ التشغيل التالي يفتح جلسة جديدة بالإعدادات الجديدة</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>أُوقف التشغيل</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>انتهى التشغيل</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>تُجوهل حدث انتهاء الجلسة السابقة (أُعيد بناء الجلسة للتو وهذا الحدث من الجلسة المفككة).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>الإخراج</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>التشغيل</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>فك الترميز</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>الإشارة</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>مسار الإخراج</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>الحصري يصل إلى العتاد مباشرة، والمشترك يمر بخلّاط النظام، وauto يجرب الحصري ثم المشترك.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>نقل DSD</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto: يقرر البرنامج؛ force: استخدام DoP دائمًا؛ native: يشترط DSD الأصلي.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>وضع التشغيل</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard يستخدم جهازًا واحدًا؛ وبقية الأوضاع جهازًا لكل قناة أو زوج قنوات.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>عدد القنوات</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>عدد القنوات الموزعة في أوضاع الأجهزة المتعددة.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 قنوات</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>توزيع القنوات</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>كيفية توزيع قنوات المصدر على المخارج؛ auto: يقرر البرنامج.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>تردد التقسيم</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>ما دون هذا التردد يُرسل إلى جهاز الجهير.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>تقسيم ترددي موصول جسريًا</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>جهازان موصولان جسريًا لكل مسار ترددي.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>الجهاز %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>جهاز إخراج هذه القناة.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>فك ترميز DSD إلى PCM دائمًا</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>من دون DSD مباشر: للأجهزة التي تقبل PCM فقط أو عند استخدام المؤثرات.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>عمق بت PCM</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>عمق البت عند فك ترميز DSD إلى PCM.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>مرشح فك الترميز</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>مرشح DSD إلى PCM: كلما كان أفضل زاد حمل المعالجة.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>سريع</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>قياسي</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>الأفضل</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM إلى DSD</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>يُضمَّن PCM إلى DSD قبل الإرسال: تتغير العينات فلا تطابق بتًّا ببت.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>المعدل المستهدف</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>معدل DSD بعد التضمين.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>معاملات مرشح التضمين</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>طول مرشح رفع المعدل؛ في الوضع التلقائي يقرر المحرك.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>مكتبة فك ترميز خارجية</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>مسار مكتبة فك الترميز الخارجية؛ الفراغ يعني عدم استخدامها.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>حماية الذروة</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>يخفض الذروات فقط حين يقع القص.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>إعادة التعيين إلى معدل الجهاز</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>تتغير العينات فلا تطابق بتًّا ببت.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>جودة إعادة التعيين</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>كلما كانت أفضل زاد حمل المعالجة.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>كسب إعادة التشغيل (ReplayGain)</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>يسوّي جهارة الصوت وفق وسوم ReplayGain في الملف.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>متوقف</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>حسب المقطع</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>حسب الألبوم</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>خفض الضجيج</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>يزيل ضجيج التسجيل الخلفي؛ لا يمكن DSD المباشر ما دام مفعّلًا.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>خفيف</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>قوي</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>الحفاظ على التوافقيات</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>يصون توافقيات الأنغام عند خفض الضجيج.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>تشغيل بلا فواصل</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>يحمّل المقطع التالي قبل النهاية فلا انقطاع بينهما.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>تلاشٍ متقاطع</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>ثواني التداخل بين مقطعين؛ 0 يعني بلا تداخل.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>سرعة التشغيل</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>تبقى طبقة الصوت؛ وما لم تكن 1.00 فلا تطابق بتًّا ببت.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>التشغيل أثناء القراءة</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>لا يقرأ الملف في الذاكرة مسبقًا.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>لم يُعثر على مكتبة المحرك؛ بُحث في: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>تعذّر تحميل مكتبة المحرك: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>تفتقر مكتبة المحرك إلى نقطتي الدخول المطلوبتين: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>بجانب البرنامج</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>متغير البيئة KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>بناء التطوير (build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>انتهت مهلة الاستعلام (%1 مللي ثانية): %2 — أُنهيت تلك العملية الفرعية والواجهة مستمرة (متوقع في الفحص الذاتي KELP_GUI_PROBE_HANG)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>أعاد الاستعلام قيمة غير صفرية (%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(لا مخرجات)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>لا عينات صوتية بعد 5 ثوانٍ من البدء — آخر سطر من المحرك: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>لا صوت بعد 5 ثوانٍ من البدء — **لم يُفتح الجهاز قط** (لا وجود لـ OPENED في سجل المحرك): غالبًا رُفض الوصول الحصري أو الصيغة غير مدعومة أو يشغله برنامج آخر؛ انظر أسطر WASAPI أعلاه؛ آخر سطر من المحرك: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  افحص بالترتيب: (1) أين توقف السطر أعلاه — فك الترميز / الجهاز / الحصري؛ (2) شغّل الملف نفسه من سطر الأوامر؛ (3) ابحث في السجل عن WASAPI / OPENED / 0x8889000A. لا يُعاد بناء الجلسة تلقائيًا.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>سجل المحرك: يتركه المحرك في موضعه الافتراضي</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>سجل المحرك (محفوظ ولا يُحذف عند الخروج): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>سجل المحرك (لهذه الجلسة ويُحذف عند الخروج): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>جارٍ مسح المصدر (فك ترميزه)… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>الصوت: %1 · %2 بت · القنوات: %3 · %4 ث</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: نعم</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: لا</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>المستويات/الطيف مُوائمة مع تأخير الإخراج: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>لم تنتهِ الجلسة السابقة داخل العملية خلال ثانيتين (2) — قد تبقى هذه العملية ممسكة بالجهاز الحصري وقد يتعذر فتحه للمقطع التالي</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(افتراضي النظام)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (افتراضي)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>قائمة الأجهزة (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (غير متصل — صِله ثم انقر «تحديث الأجهزة»)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>جارٍ التشغيل… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>قائمة التشغيل فارغة</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>هذا أول مقطع</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>هذا آخر مقطع</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>المقطع %1/%2</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>تعذّر النقل: رقم الصف خارج النطاق (from=%1 to=%2، عناصر القائمة %3)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>تغيّر الترتيب: العنصر %1/%2</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>وصل التقدّم (PG): شُغّل %1 s / المجموع %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>الموضع والطول بزمن المصدر؛ عند السرعة %1 يستغرق نحو %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>التقدّم %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>انتقال تلقائي: تغيّرت القائمة أو الترتيب عند النهاية، وبحسب الملف هو المقطع %1/%2</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>انتقال تلقائي (بلا فواصل/تلاشٍ): المقطع %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>لم تنتهِ جلسة التشغيل السابقة بعد (يجري تحرير الوصول الحصري) — لن تُنشأ جلسة جديدة الآن. اضغط تشغيل مرة أخرى، وإن لم ينفع فأعد تشغيل البرنامج.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>انتهى التشغيل</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>انتهت قائمة التشغيل (%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>بالترتيب</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · بلا تكرار</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>انتهت قائمة التشغيل</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[المدة] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>تخطٍّ (الملف غير موجود): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>خطأ: لم يُعثر على محرك التشغيل %1 — ضعه بجانب البرنامج أو أضفه إلى PATH أو حدده بـ KELP_PLAYER_BIN.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>تغيّر الجهاز أو التوزيع -&gt; تُغلق الجلسة الحالية (ويُحرر الجهاز)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>لم تنتهِ الجلسة القديمة خلال 10 ثوانٍ — تُنهى قسرًا (قد يتأخر تحرير الجهاز قليلًا)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>إعادة استخدام الجلسة الحالية (يُرسل load فقط دون إعادة المعاملات): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[DLL داخل العملية] معاملات الجلسة: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>أمر التشغيل: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>تعذّر بدء المشغّل (أعاد start للجلسة %1) ⇒ العودة إلى حالة التوقف</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>أُرسلت درجة خفض الضجيج إلى الجلسة الجارية: %1 (الجلسة المعاد استخدامها لا تعيد قراءة معاملاتها)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>أُرسلت حماية الذروة إلى الجلسة الجارية: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>خطأ: أضف ملفات صوتية أولًا</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>لم تنتهِ الجلسة القديمة ⇒ تُفصل قبل التشغيل (الجلسة داخل العملية لا بد أن تنتهي من نفسها)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>لم تنتهِ الجلسة القديمة بعد ولا يمكن بدء تشغيل جديد — انتظر انتهاءها (أو أعد التشغيل؛ للأتمتة/التشخيص: KELP_GUI_INPROC=0 بعملية فرعية)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>لا يوجد تشغيل جارٍ</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>جارٍ إيقاف المشغّل...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>أُرسلت إشارة الإيقاف</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>أُوقف التشغيل</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>متابعة</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>إيقاف مؤقت</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>التشغيل جارٍ</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>لم ينتهِ التشغيل بعد، وإغلاق النافذة يوقفه.
+
+هل تريد الخروج فعلًا؟</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>استيراد ملفات صوتية</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>بيانات صوتية</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>قائمة التشغيل</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>إضافة ملفات صوتية إلى آخر القائمة</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>إعدادات المحرك</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>الإعدادات التي تُسلَّم إلى المحرك عند الجلسة التالية</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>جهاز الإخراج</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>جهاز الإخراج المستخدم للتشغيل</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>تحديث الأجهزة</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>إعادة قراءة قائمة الأجهزة من KelpPlayer -list</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>إظهار لوحة السجل</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>ما الذي قرره البرنامج ولماذا</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>إخفاء لوحة السجل</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer — مشغّل صوت DSD ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>الصيغ: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>الأوضاع: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>استعادة الإعدادات: لا عنصر يطابق %1 (تبقى القيمة الافتراضية)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>فحص نهاية المقطع: الباقي %1 s، نافذة التحميل المسبق %2 s (تلاشٍ %3 / بلا فواصل %4)، التالي=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>تلاشٍ متقاطع: قبل النهاية بـ %1 s يُحمّل المقطع التالي (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>بلا فواصل: قبل النهاية بـ %1 s يُحمّل المقطع التالي مسبقًا (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>الموضع</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>تقدّم التشغيل</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>يعرض التقدّم فقط: لا يمكن الانتقال أثناء التشغيل</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(غير موسوم)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] تجمّد خيط الواجهة %1 مللي ثانية — كان يقوم بـ: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] هناك KelpPlayer آخر قيد التشغيل — لن يبدأ هذا
+
+تشغيل ثانٍ يتراكب على الجهاز نفسه (يُسمع ضجيجًا/تداخلًا).
+لفتح أكثر من واحد عمدًا اضبط KELP_GUI_ALLOW_MULTI=1</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>قياسات البدء: الواجهة جاهزة خلال %1، الذاكرة %2 (قيم مقيسة فقط)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>المتابعة من %1:%2 (حيث توقفت آخر مرة)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية — يُنهى قسرًا.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية؛ لا يمكن إنهاء جلسة داخل العملية قسرًا (انتظر؛ المخرج: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>Nach Aktualisierungen suchen …</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>Hinweise zu Dritten und Normen</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>DSP-Effekte sind aktiv ⇒ dieser Titel wird zu PCM dekodiert (DSD direkt und DSP schließen einander aus: Effekte arbeiten nur in PCM). Für DSD direkt bitte Hall/Klang/Entrauschen/Balance/Breite alle ausschalten.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>Kein Gerät gewählt</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>Differenz- und Frequenzweichenbetrieb brauchen ein Gerät je Kanal – bitte zuerst Geräte wählen.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>Der Modus pairs braucht %1 Geräte (eines je Kanalpaar), gewählt sind nur %2; bitte vor der Wiedergabe ergänzen.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>Dieser Modus braucht %1 Geräte (eines je Kanal), gewählt sind nur %2; fehlende Kanäle verschieben die ganze Zuordnung – bitte die Liste vor der Wiedergabe ergänzen.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>Zu wenige Geräte</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[Steuerung] Abgleich: %1 Befehl(e) gesendet, aber dieser Lauf hat kein Sitzungsprotokoll der Engine – die beiden Enden lassen sich nicht abgleichen</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>bestanden</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>außer Toleranz (Differenz %1 &gt; Toleranz %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[Steuerung] Abgleich: queued=%1 recv=%2 diff=%3 – %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[Steuerung] Grundlage des Abgleichs: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[Steuerung] Senden von %1 dauerte %2 ms (sollte unter 1 ms liegen)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[Steuerung] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>unbekannte Ausnahme</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>Testhaken: Fenster schließt von selbst (wie ein Klick auf Schließen)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse (Systemmischer; nicht bitgenau)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (Gerät zurückgesetzt)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>Zeitüberschreitung beim Zurücksetzen des Geräts (-reset-device): %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Titel wählen oder Audio importieren</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>Wiedergabe anhalten</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>Vorigen Titel abspielen</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>Gewählten Titel abspielen</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>Nächsten Titel abspielen</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>Lautstärke</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>Lautstärke; bei 100% bleiben die Samples unverändert</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Titel wählen oder Audio importieren</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>Vor dem Ende abgebrochen (%1%); angehalten, es geht nicht mit dem nächsten Titel weiter</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>Der Player endete unerwartet, Code: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  letzte Zeile der Engine: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>Der exklusive Ausgang lässt sich nicht öffnen (belegt oder Format nicht unterstützt) ⇒ neuer Versuch für diesen Titel mit auto (exklusiv → gemeinsam)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>Sitzung geschlossen (Gerät/Anordnung geändert); die nächste Wiedergabe beginnt eine neue mit den neuen Einstellungen</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Wiedergabe angehalten</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Wiedergabe beendet</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>Das Ende-Ereignis der vorigen Sitzung wird übergangen (die Sitzung wurde eben neu aufgebaut, das Ereignis stammt von der abgebauten).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>Ausgabe</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>Dekodierung</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>Signal</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>Ausgabeweg</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>Exklusiv geht direkt zur Hardware, gemeinsam durch den Systemmischer; auto versucht erst exklusiv, dann gemeinsam.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>DSD-Übertragung</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto entscheidet das Programm; force nimmt immer DoP; native verlangt natives DSD.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>Wiedergabemodus</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard nutzt ein Gerät; die anderen Modi eines je Kanal oder Kanalpaar.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>Kanalzahl</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>Wie viele Kanäle die Modi mit mehreren Geräten verteilen.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 Kanäle</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>Kanalanordnung</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>Wie die Kanäle der Quelle auf die Ausgänge verteilt werden; auto entscheidet das Programm.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>Trennfrequenz</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>Was tiefer liegt, geht an das Bassgerät.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>Gebrückte Weiche</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>Je Weg zwei Geräte in Brückenschaltung.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>Gerät %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>Das Ausgabegerät dieses Kanals.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>DSD immer zu PCM dekodieren</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>Kein direktes DSD mehr: für Geräte, die nur PCM nehmen, oder wenn Effekte wirken sollen.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>PCM-Bittiefe</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>Bittiefe, wenn DSD zu PCM dekodiert wird.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>Dekodierfilter</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>Filter von DSD zu PCM: je besser, desto mehr Rechenzeit.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>Bester</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM zu DSD</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>Moduliert PCM zu DSD: ändert die Samples, nicht bitgenau.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>Zielrate</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>DSD-Rate nach der Modulation.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>Filterkoeffizienten</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>Länge des Hochtastfilters; automatisch entscheidet die Engine.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>Externe Dekoderbibliothek</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>Pfad der externen Dekoderbibliothek; leer heißt keine.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>Spitzenschutz</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>Senkt Spitzen nur, wenn es sonst übersteuerte.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>Auf die Rate des Geräts umtasten</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>Ändert die Samples, nicht bitgenau.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>Güte der Umtastung</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>Je besser, desto mehr Rechenzeit.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>ReplayGain</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>Gleicht die Lautheit nach den ReplayGain-Tags der Datei an.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>Je Titel</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>Je Album</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>Entrauschen</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>Entfernt das Grundrauschen der Aufnahme; solange an, kein direktes DSD.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>Leicht</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>Stark</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>Obertöne erhalten</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>Schont beim Entrauschen die Obertöne der Klänge.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>Lückenlose Wiedergabe</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>Lädt den nächsten Titel vor dem Ende vor, ohne Pause dazwischen.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>Überblenden</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>Sekunden, um die sich zwei Titel überlappen; 0 heißt keine.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>Wiedergabetempo</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>Die Tonhöhe bleibt; außer bei 1.00 nicht bitgenau.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>Beim Lesen abspielen</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>Liest die Datei nicht erst in den Speicher.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>Die Engine-Bibliothek wurde nicht gefunden; gesucht: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>Die Engine-Bibliothek lässt sich nicht laden: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>Der Engine-Bibliothek fehlen die beiden nötigen Einsprungpunkte: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>neben dem Programm</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>Umgebungsvariable KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>Entwicklungsbau (build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>Zeitüberschreitung der Abfrage (%1 ms): %2 – der Kindprozess wurde beendet, die Oberfläche läuft weiter (beim Selbsttest KELP_GUI_PROBE_HANG so vorgesehen)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>Die Abfrage endete nicht mit null (%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(keine Ausgabe)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>5 Sekunden nach dem Start noch kein Sample – letzte Zeile der Engine: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>5 Sekunden nach dem Start kein Ton – **das Gerät wurde nie geöffnet** (kein OPENED im Protokoll der Engine): meist exklusiver Zugriff verweigert, Format nicht unterstützt oder von einem anderen Programm belegt; siehe die WASAPI-Zeilen oben; letzte Zeile der Engine: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  Der Reihe nach prüfen: (1) wo die Zeile oben stehen blieb – Dekodierung / Gerät / exklusiv; (2) dieselbe Datei auf der Befehlszeile abspielen; (3) im Protokoll nach WASAPI / OPENED / 0x8889000A suchen. Die Sitzung wird nicht von selbst neu aufgebaut.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>Engine-Protokoll: an der eigenen Vorgabestelle der Engine</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>Engine-Protokoll (bleibt, wird beim Beenden nicht gelöscht): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>Engine-Protokoll (diese Sitzung, wird beim Beenden gelöscht): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>Quelle wird durchlaufen (dekodiert) … %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio: %1 · %2 Bit · %3 Kanäle · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: ja</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: nein</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>Pegel/Spektrum an die Ausgabelatenz angeglichen: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>Die vorige Sitzung im selben Prozess wurde in 2 s nicht fertig – dieser Prozess hält das exklusive Gerät vielleicht noch, der nächste Titel kann es womöglich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(Systemvorgabe)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (Vorgabe)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>Geräteliste (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (nicht angeschlossen – anstecken und „Geräte aktualisieren“ drücken)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>Wiedergabe … %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>Die Wiedergabeliste ist leer</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>Das ist schon der erste Titel</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>Das ist schon der letzte Titel</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>Titel %1/%2</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>Verschieben misslungen: Zeilennummer außerhalb (from=%1 to=%2, Liste hat %3 Einträge)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>Reihenfolge geändert: Eintrag %1/%2</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>Fortschritt erhalten (PG): gespielt %1 s / gesamt %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>Position und Länge in der Zeit der Quelle; bei Tempo %1 dauert es etwa %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Fortschritt %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>Automatischer Wechsel: Liste oder Reihenfolge änderte sich am Titelende, nach der Datei ist es Titel %1/%2</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>Automatischer Wechsel (lückenlos/Überblenden): Titel %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>Die vorige Sitzung ist noch nicht fertig (der exklusive Zugriff wird abgebaut) – jetzt wird keine neue aufgebaut. Bitte noch einmal auf Wiedergabe drücken; hilft das nicht, den Player neu starten.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Wiedergabe beendet</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>Ende der Wiedergabeliste (%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>der Reihe nach</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · ohne Wiederholung</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>Ende der Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[Dauer] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>Übersprungen (Datei nicht da): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>Fehler: Die Engine %1 wurde nicht gefunden – bitte neben das Programm legen, in PATH aufnehmen oder mit KELP_PLAYER_BIN angeben.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>Gerät oder Anordnung geändert -&gt; laufende Sitzung wird geschlossen (Gerät wird frei)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>Die alte Sitzung endete nicht in 10 s – sie wird zwangsweise beendet (das Gerät wird vielleicht erst etwas später frei)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>Laufende Sitzung wird weiterbenutzt (Titelwechsel nur mit load, ohne neue Argumente): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[DLL im Prozess] Argumente der Sitzung: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>Wiedergabebefehl: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>Start des Players misslungen (start der Sitzung ergab %1) ⇒ zurück in den Ruhezustand</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>Entrauschstufe an die laufende Sitzung nachgereicht: %1 (eine weiterbenutzte Sitzung liest ihre Argumente nicht neu)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>Spitzenschutz an die laufende Sitzung nachgereicht: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>Fehler: Bitte zuerst Audiodateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>Die alte Sitzung läuft noch ⇒ sie wird vor dem Start abgetrennt (eine Sitzung im selben Prozess muss von selbst enden)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>Die alte Sitzung ist noch nicht beendet, es kann nichts Neues beginnen – bitte abwarten (oder neu starten; für Automatisierung/Fehlersuche KELP_GUI_INPROC=0 mit Kindprozess)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>Es läuft keine Wiedergabe</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>Player wird angehalten ...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>Stoppsignal gesendet</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Wiedergabe angehalten</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Wiedergabe</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Fortsetzen</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>Wiedergabe läuft</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>Die Wiedergabe läuft noch; das Schließen des Fensters hält sie an.
+
+Wirklich beenden?</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>Audiodateien importieren</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>Audiodaten</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>Wiedergabeliste</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>Audiodateien ans Ende der Liste setzen</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>Engine-Einstellungen</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>Einstellungen, die die Engine bei der nächsten Sitzung bekommt</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>Ausgabegerät</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>Das Gerät, auf dem abgespielt wird</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>Geräte aktualisieren</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>Geräteliste aus KelpPlayer -list neu lesen</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>Protokoll zeigen</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>Was das Programm entschied und warum</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>Protokoll ausblenden</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer – DSD-Audioplayer ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>Formate: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>Modi: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>Einstellungen wiederherstellen: kein Eintrag passt zu %1 (Vorgabe bleibt)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>Prüfung am Titelende: noch %1 s, Vorladefenster %2 s (Überblenden %3 / lückenlos %4), nächster=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>Überblenden: %1 s vor dem Ende, nächster Titel wird vorgeladen (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>Lückenlos: %1 s vor dem Ende, nächster Titel wird vorgeladen (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>Position</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>Wiedergabefortschritt</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>Zeigt nur den Fortschritt: Springen während der Wiedergabe geht nicht</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(nicht vermerkt)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] Der Oberflächen-Thread stand %1 ms still – er tat gerade: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] Ein anderer KelpPlayer läuft schon – dieser startet nicht
+
+Ein zweiter spielte auf demselben Gerät darüber (hörbar als Rauschen/Überlagerung).
+Für absichtlich mehrere bitte KELP_GUI_ALLOW_MULTI=1 setzen</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>Startwerte: Oberfläche bereit nach %1, Speicher %2 (nur Gemessenes)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>Weiter ab %1:%2 (hier wurde zuletzt angehalten)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>Der Player wurde in %1 s nicht fertig – er wird zwangsweise beendet.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>Der Player wurde in %1 s nicht fertig; eine Sitzung im selben Prozess lässt sich nicht abbrechen (bitte abwarten; Ausweg: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

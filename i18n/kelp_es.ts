@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es_ES" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>Avisos de terceros y normas de referencia</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>Hay efectos DSP activos ⇒ esta pista se decodifica a PCM (DSD directo y DSP se excluyen: los efectos actúan en PCM). Para DSD directo, desactive reverberación, tono, reducción de ruido, balance y anchura.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>Ningún dispositivo elegido</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>Los modos diferencial y de cruce necesitan un dispositivo por canal: elija primero los dispositivos.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>El modo pairs necesita %1 dispositivos (uno por par de canales) y solo hay %2 elegidos; complételos antes de reproducir.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>Este modo necesita %1 dispositivos (uno por canal) y solo hay %2 elegidos; los canales que faltan desplazan toda la asignación: complete la lista antes de reproducir.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>Faltan dispositivos</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[control] cotejo: se enviaron %1 órdenes, pero esta ejecución no tiene registro de sesión del motor; no se pueden cotejar los dos extremos</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>fuera de tolerancia (diferencia %1 &gt; tolerancia %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[control] cotejo: queued=%1 recv=%2 diff=%3: %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[control] origen del cotejo: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[control] el envío de %1 tardó %2 ms (debería ser menos de 1 ms)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[control] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>excepción desconocida</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>Gancho de prueba: cierre automático (equivale al botón de cerrar)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse (mezclador del sistema; no bit-perfect)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (dispositivo restablecido)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>Se agotó el tiempo al restablecer el dispositivo (-reset-device): %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Elija una pista o importe audio</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>Detener la reproducción</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>Reproducir la pista anterior</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>Reproducir la pista elegida</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>Reproducir la pista siguiente</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>Volumen</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>Volumen; con 100% no se alteran las muestras</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Elija una pista o importe audio</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>Terminó antes del final (%1%); detenido, no se pasa a la pista siguiente</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>El reproductor terminó de forma anómala, código: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  última línea del motor: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>La salida exclusiva no se abre (ocupada o formato no admitido) ⇒ se reintenta esta pista con auto (exclusivo → compartido)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>Sesión cerrada (cambio de dispositivo o disposición); la próxima reproducción abrirá otra con los ajustes nuevos</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Reproducción detenida</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Reproducción terminada</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>Se ignora el evento de fin de la sesión anterior (la sesión acaba de rehacerse y el evento viene de la desmontada).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>Salida</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reproducción</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>Decodificación</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>Señal</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>Ruta de salida</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>Exclusivo va directo al hardware, compartido pasa por el mezclador del sistema; auto prueba exclusivo y luego compartido.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>Transporte DSD</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto: decide el programa; force: siempre DoP; native: exige DSD nativo.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>Modo de reproducción</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard usa un dispositivo; los demás modos, uno por canal o par de canales.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>Número de canales</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>Canales que reparten los modos de varios dispositivos.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 canales</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>Disposición de canales</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>Cómo se reparten los canales de la fuente entre las salidas; auto: decide el programa.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>Frecuencia de cruce</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>Lo que queda por debajo va al dispositivo de graves.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>Cruce en puente</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>Dos dispositivos en puente por vía.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>Dispositivo %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>El dispositivo de salida de este canal.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>Decodificar siempre DSD a PCM</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>Sin DSD directo: para dispositivos que solo aceptan PCM o cuando se quieren efectos.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>Profundidad PCM</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>Profundidad al decodificar DSD a PCM.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>Filtro de decodificación</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>Filtro de DSD a PCM: cuanto mejor, más cálculo.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>Rápido</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Estándar</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>Óptimo</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM a DSD</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>Modula PCM a DSD: cambia las muestras, no es bit-perfect.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>Frecuencia de destino</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>Frecuencia DSD tras la modulación.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>Coeficientes del filtro</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>Longitud del filtro de sobremuestreo; en automático decide el motor.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>Biblioteca decodificadora externa</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>Ruta de la biblioteca decodificadora externa; vacía: ninguna.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>Protección de picos</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>Baja los picos solo cuando habría recorte.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>Remuestrear a la frecuencia del dispositivo</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>Cambia las muestras, no es bit-perfect.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>Calidad del remuestreo</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>Cuanto mejor, más cálculo.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>ReplayGain</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>Iguala la sonoridad según las etiquetas ReplayGain del archivo.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Desactivado</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>Por pista</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>Por álbum</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>Reducción de ruido</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>Quita el ruido de fondo de la grabación; activado impide el DSD directo.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>Ligera</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>Fuerte</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>Conservar armónicos</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>Protege los armónicos de los tonos al reducir el ruido.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>Reproducción sin pausas</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>Precarga la pista siguiente antes del final, sin pausa.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>Fundido cruzado</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>Segundos en que se solapan dos pistas; 0: ninguno.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>Velocidad de reproducción</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>Se conserva el tono; si no es 1.00, no es bit-perfect.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>Reproducir mientras se lee</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>No lee antes el archivo en memoria.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>No se encontró la biblioteca del motor; se buscó en: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>No se puede cargar la biblioteca del motor: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>A la biblioteca del motor le faltan los dos puntos de entrada necesarios: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>junto al programa</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>variable de entorno KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>compilación de desarrollo (build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>Se agotó el tiempo del sondeo (%1 ms): %2; se terminó ese proceso hijo y la interfaz sigue (es lo esperado en la autocomprobación KELP_GUI_PROBE_HANG)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>El sondeo devolvió un valor distinto de cero (%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>Registro</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(ninguna salida)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>5 segundos tras el inicio y aún sin muestras; última línea del motor: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>5 segundos tras el inicio sin sonido: **el dispositivo nunca se abrió** (no hay OPENED en el registro del motor); suele ser acceso exclusivo denegado, formato no admitido u ocupado por otro programa; vea las líneas WASAPI de arriba; última línea del motor: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  Revise por orden: (1) en qué paso quedó la línea de arriba: decodificación / dispositivo / exclusivo; (2) reproduzca el mismo archivo en la línea de órdenes; (3) busque WASAPI / OPENED / 0x8889000A en el registro. La sesión no se rehace sola.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>Registro del motor: en la ubicación predeterminada del propio motor</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>Registro del motor (se conserva, no se borra al salir): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>Registro del motor (esta sesión, se borra al salir): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>Explorando (decodificando) la fuente… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio: %1 · %2 bits · %3 canales · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: sí</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: no</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>Niveles/espectro alineados con la latencia de salida: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>La sesión anterior dentro del proceso no terminó en 2 s; este proceso quizá retenga aún el dispositivo exclusivo y la pista siguiente podría no abrirlo</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(predeterminado del sistema)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (predeterminado)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>Lista de dispositivos (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (no conectado: enchúfelo y pulse «Actualizar dispositivos»)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>Reproduciendo… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>La lista de reproducción está vacía</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>Ya es la primera pista</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>Ya es la última pista</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>Pista %1/%2</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>No se pudo mover: fila fuera de rango (from=%1 to=%2, la lista tiene %3 elementos)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>Orden cambiado: elemento %1/%2</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>Progreso recibido (PG): reproducidos %1 s / total %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>Posición y duración según la fuente; a velocidad %1 dura unos %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progreso %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>Cambio automático: la lista o el orden cambió al final; según el archivo es la pista %1/%2</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>Cambio automático (sin pausas/fundido): pista %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>La sesión anterior aún no ha terminado (se está liberando el acceso exclusivo); no se crea otra ahora. Pulse reproducir otra vez; si no, reinicie el reproductor.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Reproducción terminada</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>Fin de la lista de reproducción (%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>en orden</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · sin repetición</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>Fin de la lista de reproducción</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[duración] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>Omitida (el archivo no existe): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>Error: no se encontró el motor %1; póngalo junto al programa, añádalo al PATH o indíquelo con KELP_PLAYER_BIN.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>Cambió el dispositivo o la disposición -&gt; se cierra la sesión actual (se libera el dispositivo)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>La sesión antigua no terminó en 10 s: se fuerza su cierre (el dispositivo puede tardar algo más en liberarse)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>Se reutiliza la sesión actual (el cambio solo envía load, sin repetir argumentos): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[DLL en el proceso] argumentos de la sesión: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>Orden de reproducción: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>No se pudo iniciar el reproductor (start de la sesión devolvió %1) ⇒ vuelve a estar detenido</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>Nivel de reducción de ruido reenviado a la sesión en curso: %1 (una sesión reutilizada no relee sus argumentos)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>Protección de picos reenviada a la sesión en curso: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>Error: añada primero archivos de audio</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>La sesión antigua sigue abierta ⇒ se desconecta antes de reproducir (una sesión dentro del proceso solo puede terminar por sí misma)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>La sesión antigua sigue sin terminar y no se puede empezar otra; espere (o reinicie; para automatizar o diagnosticar, KELP_GUI_INPROC=0 usa un proceso hijo)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>No hay ninguna reproducción en curso</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>Deteniendo el reproductor...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>Señal de parada enviada</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Reproducción detenida</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reproducir</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>Reproducción en curso</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>La reproducción no ha terminado; al cerrar la ventana se detendrá.
+
+¿Seguro que desea salir?</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>Importar archivos de audio</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>Datos de audio</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>Lista de reproducción</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>Añadir archivos de audio al final de la lista</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>Ajustes del motor</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>Ajustes que recibirá el motor en la próxima sesión</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>Dispositivo de salida</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>El dispositivo con el que se reproduce</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>Actualizar dispositivos</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>Volver a leer la lista de dispositivos de KelpPlayer -list</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>Mostrar el registro</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>Qué decidió el programa y por qué</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>Ocultar el registro</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer: reproductor de audio DSD ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>Formatos: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>Modos: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>Restauración de ajustes: ningún elemento coincide con %1 (se mantiene el predeterminado)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>Control de fin de pista: quedan %1 s, ventana de precarga %2 s (fundido %3 / sin pausas %4), siguiente=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>Fundido cruzado: a %1 s del final, se carga antes la siguiente (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>Sin pausas: a %1 s del final, se precarga la siguiente (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>Posición</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>Progreso de la reproducción</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>Solo muestra el progreso: no se puede saltar durante la reproducción</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(sin marcar)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] El hilo de la interfaz se congeló %1 ms; estaba haciendo: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] Ya hay otro KelpPlayer en marcha; este no se inicia
+
+Un segundo sonaría encima en el mismo dispositivo (se oye como ruido o solapamiento).
+Para abrir varios a propósito, defina KELP_GUI_ALLOW_MULTI=1</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>Medidas de inicio: interfaz lista en %1, memoria %2 (solo valores medidos)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>Continúa desde %1:%2 (donde se detuvo la última vez)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>El reproductor no terminó en %1 s: se fuerza su cierre.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>El reproductor no terminó en %1 s; una sesión dentro del proceso no se puede matar (espere; salida: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

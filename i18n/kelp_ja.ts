@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>更新を確認…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>第三者の告知と参照規格</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>DSP エフェクトが有効 ⇒ この曲は PCM にデコードされます（DSD ダイレクトと DSP は両立しません。エフェクトは PCM 領域でのみ働きます）。DSD ダイレクトにするには、リバーブ／トーン／ノイズ低減／バランス／幅をすべてオフにしてください。</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>デバイスが選択されていません</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>差動／クロスオーバーモードではチャンネルごとに 1 台のデバイスが必要です。先にデバイスを選択してください。</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>pairs モードには %1 台のデバイス（チャンネルペアごとに 1 台）が必要ですが、選択されているのは %2 台だけです。足りない分を選択してから再生してください。</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>このモードには %1 台のデバイス（チャンネルごとに 1 台）が必要ですが、選択されているのは %2 台だけです。足りないチャンネルがあると割り当て全体がずれます。リストを補ってから再生してください。</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>デバイスが足りません</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[制御] 照合: コマンドを %1 件送りましたが、今回の実行にはエンジンのセッションログがないため、両端を突き合わせられません</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>合格</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>許容差を超過（差 %1 &gt; 許容 %2）</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[制御] 照合: queued=%1 recv=%2 diff=%3 — %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[制御] 照合の出所: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[制御] %1 の送信に %2 ms かかりました（1 ms 未満のはずです）</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[制御] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>不明な例外</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>テストフック: ウィンドウを自動で閉じます（右上の閉じるボタンと同じ）</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse（システムミキサー。ビットパーフェクトではありません）</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2（デバイスをリセットしました）</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>デバイスのリセット (-reset-device) がタイムアウトしました: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>曲名</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>曲を選ぶか、音声を読み込んでください</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>停止</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>再生を停止します</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>前の曲</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>前の曲を再生します</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>選択した曲を再生します</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>次の曲</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>次の曲を再生します</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>音量</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>音量。100% ではサンプルを変えません</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>曲を選ぶか、音声を読み込んでください</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>終わりまで行かずに終了しました（%1%）。停止し、次の曲には進みません</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>プレーヤーが異常終了しました。コード: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  エンジンの最後の行: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>排他の出力先を開けません（使用中か、非対応の形式）⇒ この曲は auto で再試行します（排他 → 共有の順）</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>セッションを閉じました（デバイス／配置の変更）。次の再生は新しい設定で始めます</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>再生を停止しました</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>再生が終わりました</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>前のセッションの終了イベントを無視します（セッションは作り直されたばかりで、このイベントは破棄した方のものです）。</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>出力</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>デコード</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>信号</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>出力経路</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>排他はハードウェアへ直接、共有はシステムミキサー経由、auto は排他を試してから共有にします。</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>DSD 伝送</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto はプログラムが判断、force は常に DoP、native はネイティブ DSD を要求します。</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>再生モード</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard はデバイス 1 台、その他のモードはチャンネルまたはチャンネルペアごとに 1 台を使います。</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>チャンネル数</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>複数デバイスのモードで割り当てるチャンネル数です。</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 チャンネル</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>チャンネル配置</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>ソースのチャンネルを出力へどう分けるか。auto はプログラムが決めます。</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>クロスオーバー周波数</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>この周波数より下は低音用デバイスへ送ります。</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>ブリッジクロスオーバー</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>帯域ごとにブリッジ接続した 2 台のデバイスを使います。</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>デバイス %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>このチャンネルの出力デバイスです。</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>DSD は常に PCM にデコード</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>DSD を直接送りません。デバイスが PCM 専用のとき、またはエフェクトを使うときに。</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>PCM ビット深度</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>DSD を PCM にデコードするときのビット深度です。</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>デコードフィルター</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>DSD から PCM へのフィルター。良いものほど負荷が高くなります。</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>高速</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>最高</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM を DSD に変換</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>PCM を DSD に変調して送ります。サンプルが変わり、ビットパーフェクトではありません。</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>目標レート</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>変調後の DSD レートです。</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>変調フィルターのタップ数</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>アップサンプリングフィルターの長さ。自動はエンジンが決めます。</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>外部デコーダーライブラリ</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>外部デコーダーライブラリのパス。空なら使いません。</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>ピーク保護</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>クリップしそうなときだけピークを抑えます。</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>デバイスのレートにリサンプリング</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>サンプルが変わり、ビットパーフェクトではありません。</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>リサンプリング品質</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>良いものほど負荷が高くなります。</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>リプレイゲイン</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>ファイルの ReplayGain タグで音の大きさをそろえます。</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>曲ごと</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>アルバムごと</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>ノイズ低減</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>録音の底にあるノイズを取り除きます。オンの間は DSD ダイレクトにできません。</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>弱</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>強</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>倍音を残す</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>ノイズ低減のときに楽音の倍音を守ります。</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>ギャップレス再生</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>曲の終わりの前に次を読み込み、間を空けません。</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>クロスフェード</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>2 曲が重なる秒数。0 なら使いません。</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>再生速度</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>音の高さは保ちます。1.00 以外ではビットパーフェクトではありません。</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>読みながら再生</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>ファイルを先にメモリーへ読み込みません。</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>エンジンライブラリが見つかりません。探した場所: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>エンジンライブラリを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>エンジンライブラリに必要な 2 つのエントリがありません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>プログラムと同じフォルダー</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>環境変数 KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>開発ビルド（build/）</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>プローブがタイムアウトしました（%1 ms）: %2 — その子プロセスを終了し、画面はそのまま動きます（KELP_GUI_PROBE_HANG の自己診断では想定どおり）</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>プローブが 0 以外を返しました（%1）: %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>ログ</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(出力なし)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>開始から 5 秒たっても音声サンプルがありません — エンジンの最後の行: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>開始から 5 秒、無音です — **デバイスは一度も開いていません**（エンジンのログに OPENED がありません）。多くは排他の拒否、非対応の形式、または他のプログラムが使用中です。上の WASAPI の行を見てください。エンジンの最後の行: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  順に調べてください: (1) 上の行がどこで止まったか — デコード / デバイス / 排他、(2) 同じファイルをコマンドラインで再生、(3) ログで WASAPI / OPENED / 0x8889000A を探す。セッションは自動では作り直されません。</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>エンジンのログ: エンジン自身の既定の場所に置かれます</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>エンジンのログ（保存、終了時に消しません）: %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>エンジンのログ（このセッションのみ、終了時に消します）: %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>ソースを走査（デコード）しています… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>音声: %1 · %2 ビット · %3 チャンネル · %4 秒</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: あり</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: なし</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>レベル／スペクトルを出力の遅延に合わせました: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>前のプロセス内セッションが 2 秒以内に終わりませんでした — このプロセスが排他デバイスをまだ握っているかもしれず、次の曲で開けないことがあります</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(システム既定)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (既定)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>デバイスの一覧 (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  （未接続 — 接続してから「デバイスを更新」を押してください）</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>再生中… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>プレイリストは空です</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>これが最初の曲です</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>これが最後の曲です</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>%1/%2 曲目</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>移動できません: 行番号が範囲外です (from=%1 to=%2、リストは %3 件)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>再生順を変えました: %1/%2 件目</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>進捗を受信 (PG): 再生済み %1 s / 全体 %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>位置と長さはソースの時間軸です。%1 倍速での所要時間は約 %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>進捗 %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>自動曲送り: 曲の終わりでリスト／順序が変わったため、ファイルを頼りに %1/%2 曲目へ合わせました</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>自動曲送り（ギャップレス／クロスフェード）: %1/%2 曲目: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>前の再生セッションがまだ終わっていません（排他を解放中）— 今回は新しいセッションを作りません。もう一度再生を押し、それでもだめならプレーヤーを再起動してください。</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>再生が終わりました</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>プレイリストの終わりです（%1）</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>順番どおり</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · リピートなし</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>プレイリストの終わりです</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[所要時間] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>飛ばします（ファイルがありません）: %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>エラー: 再生エンジン %1 が見つかりません — このプログラムと同じフォルダーに置くか、PATH に加えるか、KELP_PLAYER_BIN で指定してください。</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>デバイスまたは配置が変わりました -&gt; 今のセッションを閉じます（デバイスを解放）</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>前のセッションが 10 秒以内に終わらないため強制終了します（デバイスの解放に少し時間がかかることがあります）</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>今のセッションを使います（曲の切り替えは load だけ、引数は送り直しません）: %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[プロセス内 DLL] セッションの引数: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>再生コマンド: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>プレーヤーを開始できません（セッションの start が %1 を返しました）⇒ 停止状態に戻ります</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>動いているセッションにノイズ低減の段を送り直します: %1（使い続けるセッションは引数を読み直しません）</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>動いているセッションにピーク保護を送り直します: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>エラー: 先に音声ファイルを加えてください</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>前のセッションがまだ終わっていません ⇒ 切り離してから再生します（プロセス内のセッションは自然に終わるのを待つしかありません）</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>前のセッションがまだ終わらず、新しい再生を始められません — 終わるのを待ってください（または再起動。自動化や調査には KELP_GUI_INPROC=0 で子プロセスにできます）</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>再生中のものはありません</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>プレーヤーを停止しています...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>停止の合図を送りました</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>再生を停止しました</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>再生</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>再開</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>一時停止</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>再生中</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>まだ再生中です。ウィンドウを閉じると再生が止まります。
+
+終了しますか？</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>音声ファイルを読み込む</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>音声データ</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>プレイリスト</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>読み込む</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>音声ファイルをリストの末尾に加えます</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>エンジンの設定</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>次のセッション開始時にエンジンへ渡す設定</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>出力デバイス</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>再生に使う出力デバイス</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>デバイスを更新</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>KelpPlayer -list からデバイスの一覧を読み直します</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>ログを表示</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>プログラムが何を、なぜ決めたか</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>ログを隠す</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer — DSD オーディオプレーヤー ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>形式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>モード: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>設定の復元: %1 に合う項目がありません（既定のまま）</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>曲の終わりの確認: 残り %1 s、先読みの窓 %2 s（クロスフェード %3 / ギャップレス %4）、次の曲=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>クロスフェード: 終わりまで %1 s、次の曲を先に読み込みます (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>ギャップレス: 終わりの %1 s 前、次の曲を先に読み込みます (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>位置</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>再生の進み具合</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>進み具合の表示のみ。再生中の移動はできません</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(印なし)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] UI スレッドが %1 ms 止まりました — そのときの処理: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] 別の KelpPlayer がすでに動いています — 今回は起動しません
+
+もう一つ開くと同じデバイスで重ねて再生されます（雑音や二重の音に聞こえます）。
+あえて複数開くには KELP_GUI_ALLOW_MULTI=1 を設定してください</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>起動の指標: 画面の準備 %1、メモリー %2（実測値のみ）</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>%1:%2 から続けます（前回はここで止まりました）</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>プレーヤーが %1 秒以内に終わらないため、強制終了します。</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>プレーヤーが %1 秒以内に終わりません。プロセス内のセッションは強制終了できません（終わるまでお待ちください。回避策: KELP_GUI_INPROC=0）</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ko_KR" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>업데이트 확인…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>제3자 고지와 참조 표준</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>DSP 효과가 켜져 있음 ⇒ 이 곡은 PCM으로 디코딩됩니다(DSD 다이렉트와 DSP는 함께 쓸 수 없습니다. 효과는 PCM 영역에서만 작동합니다). DSD 다이렉트를 쓰려면 리버브/톤/노이즈 감소/밸런스/폭을 모두 끄십시오.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>장치가 선택되지 않음</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>차동/크로스오버 모드는 채널마다 장치가 하나씩 필요합니다. 먼저 장치를 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>pairs 모드에는 장치 %1개(채널 쌍마다 하나)가 필요하지만 %2개만 선택되었습니다. 나머지를 선택한 뒤 재생하십시오.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>이 모드에는 장치 %1개(채널마다 하나)가 필요하지만 %2개만 선택되었습니다. 빠진 채널이 있으면 전체 배정이 어긋납니다. 목록을 채운 뒤 재생하십시오.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>장치가 부족함</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[제어] 대조: 명령 %1개를 보냈지만 이번 실행에는 엔진 세션 로그가 없어 양쪽을 맞춰 볼 수 없습니다</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>통과</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>허용 오차 초과(차이 %1 &gt; 허용 %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[제어] 대조: queued=%1 recv=%2 diff=%3 — %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[제어] 대조 출처: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[제어] %1 전송에 %2 ms 걸림(1 ms 미만이어야 함)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[제어] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>알 수 없는 예외</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>테스트 훅: 창을 자동으로 닫음(오른쪽 위 닫기 버튼과 같음)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse(시스템 믹서, 비트 퍼펙트 아님)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (장치를 재설정함)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>장치 재설정(-reset-device) 시간 초과: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>곡명</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>곡을 선택하거나 오디오를 가져오십시오</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>정지</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>재생을 멈춥니다</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>이전 곡</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>이전 곡을 재생합니다</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>선택한 곡을 재생합니다</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>다음 곡</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>다음 곡을 재생합니다</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>음량</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>음량. 100%에서는 샘플을 바꾸지 않습니다</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>곡을 선택하거나 오디오를 가져오십시오</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>끝까지 가지 못하고 끝남(%1%). 정지했으며 다음 곡으로 넘어가지 않습니다</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>플레이어가 비정상 종료됨, 코드: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  엔진의 마지막 줄: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>독점 엔드포인트를 열 수 없음(사용 중이거나 지원하지 않는 형식) ⇒ 이 곡은 auto로 다시 시도합니다(독점 → 공유 순서)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>세션을 닫음(장치/배치 변경). 다음 재생은 새 설정으로 새 세션을 엽니다</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>재생이 정지됨</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>재생 완료</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>이전 세션의 종료 이벤트를 무시합니다(세션을 방금 다시 만들었으며 이 이벤트는 해체된 세션의 것입니다).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>출력</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>디코딩</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>신호</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>출력 경로</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>독점은 하드웨어로 바로, 공유는 시스템 믹서를 거치며, auto는 독점을 먼저 시도한 뒤 공유로 물러납니다.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>DSD 전송</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto는 프로그램이 판단, force는 항상 DoP, native는 네이티브 DSD를 요구합니다.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>재생 모드</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard는 장치 하나, 다른 모드는 채널 또는 채널 쌍마다 장치 하나를 씁니다.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>채널 수</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>다중 장치 모드에서 나눌 채널 수입니다.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 채널</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>채널 배치</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>소스 채널을 출력에 나누는 방식. auto는 프로그램이 정합니다.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>크로스오버 주파수</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>이 주파수보다 낮은 대역은 저음 장치로 보냅니다.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>브리지 크로스오버</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>대역마다 브리지로 연결한 장치 두 대를 씁니다.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>장치 %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>이 채널의 출력 장치입니다.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>DSD를 항상 PCM으로 디코딩</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>DSD를 직접 보내지 않습니다. 장치가 PCM만 받거나 효과를 쓸 때 사용하십시오.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>PCM 비트 심도</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>DSD를 PCM으로 디코딩할 때의 비트 심도입니다.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>디코딩 필터</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>DSD를 PCM으로 바꾸는 필터. 좋을수록 연산이 많이 듭니다.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>빠름</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>표준</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>최상</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM을 DSD로 변환</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>PCM을 DSD로 변조해 보냅니다. 샘플이 바뀌므로 비트 퍼펙트가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>목표 레이트</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>변조한 뒤의 DSD 레이트입니다.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>변조 필터 탭</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>업샘플링 필터의 길이. 자동은 엔진이 정합니다.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>자동</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>없음</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>외부 디코더 라이브러리</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>외부 디코더 라이브러리의 경로. 비워 두면 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>피크 보호</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>클리핑이 생길 때만 피크를 낮춥니다.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>장치 레이트로 리샘플링</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>샘플이 바뀌므로 비트 퍼펙트가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>리샘플링 품질</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>좋을수록 연산이 많이 듭니다.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>리플레이게인</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>파일의 ReplayGain 태그로 음량을 고르게 합니다.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>끔</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>곡별</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>앨범별</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>노이즈 감소</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>녹음의 바닥 노이즈를 없앱니다. 켜 두면 DSD 다이렉트를 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>약하게</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>강하게</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>배음 유지</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>노이즈를 줄일 때 악음의 배음을 지킵니다.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>갭리스 재생</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>곡이 끝나기 전에 다음 곡을 미리 불러와 끊기지 않게 합니다.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>크로스페이드</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>두 곡이 겹치는 초. 0이면 쓰지 않습니다.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>재생 속도</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>음높이는 유지합니다. 1.00이 아니면 비트 퍼펙트가 아닙니다.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>읽으면서 재생</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>파일을 먼저 메모리에 읽어 들이지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>엔진 라이브러리를 찾을 수 없습니다. 찾아본 곳: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>엔진 라이브러리를 불러올 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>엔진 라이브러리에 필요한 두 진입점이 없습니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>프로그램과 같은 폴더</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>환경 변수 KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>개발 빌드(build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>프로브 시간 초과(%1 ms): %2 — 해당 자식 프로세스를 종료했으며 화면은 계속 동작합니다(KELP_GUI_PROBE_HANG 자가 점검 중에는 정상)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>프로브가 0이 아닌 값을 돌려줌(%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>로그</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(출력 없음)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>재생 시작 후 5초가 지나도 오디오 샘플이 없음 — 엔진의 마지막 줄: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>재생 시작 후 5초 동안 소리가 없음 — **장치가 한 번도 열리지 않음**(엔진 로그에 OPENED 없음): 대개 독점 거부, 지원하지 않는 형식, 또는 다른 프로그램이 사용 중입니다. 위의 WASAPI 줄을 보십시오. 엔진의 마지막 줄: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  차례로 확인하십시오: (1) 위 줄이 어느 단계에서 멈췄는지 — 디코딩 / 장치 / 독점, (2) 명령줄로 같은 파일 재생, (3) 로그에서 WASAPI / OPENED / 0x8889000A 찾기. 세션은 자동으로 다시 만들어지지 않습니다.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>엔진 로그: 엔진이 자체 기본 위치에 둡니다</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>엔진 로그(보관, 종료할 때 지우지 않음): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>엔진 로그(이번 세션, 종료할 때 삭제): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>소스를 스캔(디코딩)하는 중… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>오디오: %1 · %2비트 · %3채널 · %4초</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: 예</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: 아니요</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>레벨/스펙트럼을 출력 지연에 맞춤: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>이전 프로세스 내 세션이 2초 안에 마무리하지 못함 — 이 프로세스가 독점 장치를 아직 잡고 있을 수 있어 다음 곡에서 열지 못할 수 있습니다</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(시스템 기본값)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (기본값)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>장치 목록(-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (연결되지 않음 — 연결한 뒤 “장치 새로 고침”을 누르십시오)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>재생 중… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>재생 목록이 비어 있음</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>첫 곡입니다</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>마지막 곡입니다</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>%1/%2번째 곡</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>이동 실패: 행 번호가 범위를 벗어남(from=%1 to=%2, 목록 %3개)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>재생 순서 변경됨: %1/%2번째 항목</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>진행 수신(PG): 재생 %1 s / 전체 %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>위치와 길이는 소스의 시간축 기준. %1배속으로 끝까지 약 %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>진행 %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>자동 곡 넘김: 곡 끝에서 목록/순서가 바뀌어 파일 기준으로 %1/%2번째 곡에 맞춤</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>자동 곡 넘김(갭리스/크로스페이드): %1/%2번째 곡: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>이전 재생 세션이 아직 마무리되지 않음(독점 해제 중) — 이번에는 새 세션을 만들지 않습니다. 재생을 다시 누르고, 그래도 안 되면 플레이어를 다시 시작하십시오.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>재생 완료</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>재생 목록 끝(%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>순서대로</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · 반복 안 함</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>재생 목록 끝</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[소요] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>건너뜀(파일이 없음): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>오류: 재생 엔진 %1을(를) 찾을 수 없음 — 이 프로그램과 같은 폴더에 두거나 PATH에 추가하거나 KELP_PLAYER_BIN으로 지정하십시오.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>장치 또는 배치 변경 -&gt; 현재 세션을 닫음(장치 해제)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>이전 세션이 10초 안에 끝나지 않아 강제로 종료합니다(장치 해제에 시간이 더 걸릴 수 있음)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>현재 세션 재사용(곡 전환은 load만 보내고 인수는 다시 보내지 않음): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[프로세스 내 DLL] 세션 인수: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>재생 명령: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>플레이어 시작 실패(세션 start가 %1을(를) 돌려줌) ⇒ 재생하지 않는 상태로 돌아감</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>실행 중인 세션에 노이즈 감소 단계를 다시 보냄: %1(재사용하는 세션은 명령줄을 다시 읽지 않음)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>실행 중인 세션에 피크 보호를 다시 보냄: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>오류: 먼저 오디오 파일을 추가하십시오</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>이전 세션이 아직 끝나지 않음 ⇒ 먼저 떼어 낸 뒤 재생합니다(프로세스 내 세션은 스스로 끝나기를 기다릴 수밖에 없음)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>이전 세션이 아직 끝나지 않아 새 재생을 시작할 수 없음 — 마무리를 기다리십시오(또는 다시 시작. 자동화/문제 해결에는 KELP_GUI_INPROC=0으로 자식 프로세스 사용)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>실행 중인 재생이 없음</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>플레이어를 멈추는 중...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>정지 신호를 보냄</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>재생이 정지됨</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>재생</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>일시 정지</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>재생 중</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>아직 재생 중입니다. 창을 닫으면 재생이 멈춥니다.
+
+종료하시겠습니까?</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>오디오 파일 가져오기</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>오디오 데이터</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>재생 목록</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>가져오기</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>오디오 파일을 목록 끝에 추가합니다</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>엔진 설정</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>다음 세션을 만들 때 엔진에 넘길 설정</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>출력 장치</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>재생에 쓸 출력 장치</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>장치 새로 고침</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>KelpPlayer -list에서 장치 목록을 다시 읽습니다</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>로그 패널 표시</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>프로그램이 무엇을 왜 결정했는지</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>로그 패널 접기</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer — DSD 오디오 플레이어 ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>형식: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>모드: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>설정 복원: %1에 맞는 항목이 없음(기본값 유지)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>곡 끝 확인: 남은 시간 %1 s, 미리 불러오기 구간 %2 s(크로스페이드 %3 / 갭리스 %4), 다음 곡=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>크로스페이드: 끝까지 %1 s, 다음 곡을 미리 불러옴(%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>갭리스: 끝나기 %1 s 전, 다음 곡을 미리 불러옴(%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>위치</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>재생 진행</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>진행만 표시합니다. 재생 중에는 이동할 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(표시 없음)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] UI 스레드가 %1 ms 동안 멈춤 — 당시 작업: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] 다른 KelpPlayer가 이미 실행 중 — 이번에는 시작하지 않음
+
+하나 더 열면 같은 장치에서 겹쳐 재생됩니다(잡음이나 겹친 소리로 들립니다).
+일부러 여러 개를 열려면 KELP_GUI_ALLOW_MULTI=1을 설정하십시오</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>시작 지표: 화면 준비 %1, 메모리 %2(실측값만)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>%1:%2부터 이어서 재생(지난번에 여기서 멈춤)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>플레이어가 %1초 안에 마무리하지 못해 강제로 종료합니다.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>플레이어가 %1초 안에 마무리하지 못했습니다. 프로세스 내 세션은 강제로 끝낼 수 없습니다(끝날 때까지 기다리십시오. 우회: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

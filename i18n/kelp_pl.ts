@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pl_PL" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>Sprawdź aktualizacje…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>Informacje o innych autorach i normy</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>Efekty DSP są włączone ⇒ ten utwór jest dekodowany do PCM (bezpośrednie DSD i DSP wykluczają się: efekty działają tylko w PCM). Aby uzyskać bezpośrednie DSD, wyłącz pogłos, barwę, odszumianie, balans i szerokość.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>Nie wybrano urządzenia</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>Tryb różnicowy i tryb zwrotnicy wymagają jednego urządzenia na kanał — najpierw wybierz urządzenia.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>Tryb pairs wymaga %1 urządzeń (po jednym na parę kanałów), a wybrano tylko %2; uzupełnij je przed odtwarzaniem.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>Ten tryb wymaga %1 urządzeń (po jednym na kanał), a wybrano tylko %2; brakujące kanały przesuną całe przyporządkowanie — uzupełnij listę przed odtwarzaniem.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>Za mało urządzeń</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[sterowanie] uzgodnienie: wysłano poleceń: %1, ale ten przebieg nie ma dziennika sesji silnika — obu stron nie da się uzgodnić</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>zgodne</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>poza tolerancją (różnica %1 &gt; tolerancja %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[sterowanie] uzgodnienie: queued=%1 recv=%2 diff=%3 — %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[sterowanie] źródło uzgodnienia: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[sterowanie] wysłanie %1 trwało %2 ms (powinno poniżej 1 ms)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[sterowanie] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>nieznany wyjątek</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>Hak testowy: automatyczne zamknięcie okna (jak przycisk zamykania)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse (mikser systemowy; nie bit-perfect)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (urządzenie zresetowane)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>Przekroczono czas resetowania urządzenia (-reset-device): %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>Tytuł</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Wybierz utwór lub zaimportuj dźwięk</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>Zatrzymaj odtwarzanie</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>Poprzedni</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>Odtwórz poprzedni utwór</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Odtwórz</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>Odtwórz wybrany utwór</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>Następny</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>Odtwórz następny utwór</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>Głośność</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>Głośność; przy 100% próbki pozostają niezmienione</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Wybierz utwór lub zaimportuj dźwięk</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>Zakończono przed końcem (%1%); zatrzymano, bez przejścia do następnego utworu</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>Odtwarzacz zakończył się nieprawidłowo, kod: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  ostatni wiersz silnika: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>Nie można otworzyć wyjścia na wyłączność (zajęte lub nieobsługiwany format) ⇒ ponowna próba w trybie auto (wyłączność → współdzielenie)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>Sesja zamknięta (zmiana urządzenia/układu); następne odtwarzanie otworzy nową z nowymi ustawieniami</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Odtwarzanie zatrzymane</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Odtwarzanie zakończone</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>Pominięto zdarzenie końca poprzedniej sesji (sesję właśnie odtworzono, a zdarzenie pochodzi z tej rozebranej).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>Wyjście</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Odtwarzanie</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>Dekodowanie</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>Sygnał</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>Ścieżka wyjścia</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>Wyłączność idzie wprost do sprzętu, współdzielenie przez mikser systemowy; auto próbuje najpierw wyłączności, potem współdzielenia.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>Przesyłanie DSD</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto — decyduje program; force — zawsze DoP; native — wymaga natywnego DSD.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>Tryb odtwarzania</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard używa jednego urządzenia; inne tryby po jednym na kanał lub parę kanałów.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>Liczba kanałów</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>Ile kanałów rozdzielają tryby z wieloma urządzeniami.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 kan.</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>Układ kanałów</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>Jak kanały źródła trafiają do wyjść; auto — decyduje program.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>Częstotliwość podziału</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>Co leży niżej, trafia do urządzenia basowego.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>Zwrotnica mostkowana</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>Dwa zmostkowane urządzenia na każde pasmo.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>Urządzenie %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>Urządzenie wyjściowe tego kanału.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>Zawsze dekoduj DSD do PCM</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>Bez bezpośredniego DSD: dla urządzeń tylko z PCM albo gdy mają działać efekty.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>Głębia bitowa PCM</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>Głębia bitowa przy dekodowaniu DSD do PCM.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>Filtr dekodowania</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>Filtr z DSD do PCM: im lepszy, tym więcej obliczeń.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>Szybki</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Standardowy</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>Najlepszy</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM na DSD</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>Moduluje PCM do DSD: zmienia próbki, nie jest bit-perfect.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>Częstotliwość docelowa</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>Częstotliwość DSD po modulacji.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>Współczynniki filtru</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>Długość filtru nadpróbkowania; automatycznie decyduje silnik.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automatycznie</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Brak</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>Zewnętrzna biblioteka dekodera</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>Ścieżka zewnętrznej biblioteki dekodera; puste — nieużywana.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>Ochrona szczytów</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>Obniża szczyty tylko wtedy, gdy groziłoby przesterowanie.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>Przepróbkuj do częstotliwości urządzenia</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>Zmienia próbki, nie jest bit-perfect.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>Jakość przepróbkowania</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>Im lepsza, tym więcej obliczeń.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>ReplayGain</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>Wyrównuje głośność według znaczników ReplayGain pliku.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Wyłączone</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>Według utworu</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>Według albumu</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>Odszumianie</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>Usuwa szum tła nagrania; gdy włączone, bezpośrednie DSD nie działa.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>Lekkie</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>Silne</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>Zachowaj harmoniczne</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>Chroni harmoniczne dźwięków podczas odszumiania.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>Odtwarzanie bez przerw</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>Wczytuje następny utwór przed końcem, bez przerwy.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>Przenikanie</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>Sekundy nakładania się dwóch utworów; 0 — bez przenikania.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>Szybkość odtwarzania</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>Wysokość dźwięku bez zmian; poza 1.00 nie jest bit-perfect.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>Odtwarzaj podczas czytania</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>Nie wczytuje najpierw pliku do pamięci.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>Nie znaleziono biblioteki silnika; szukano: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>Nie można wczytać biblioteki silnika: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>Bibliotece silnika brakuje dwóch wymaganych punktów wejścia: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>obok programu</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>zmienna środowiskowa KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>kompilacja deweloperska (build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>Przekroczono czas sondowania (%1 ms): %2 — ten proces potomny zakończono, interfejs działa dalej (tak ma być podczas autotestu KELP_GUI_PROBE_HANG)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>Sondowanie zwróciło wartość różną od zera (%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(brak wyjścia)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>5 sekund po starcie wciąż brak próbek — ostatni wiersz silnika: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>5 sekund po starcie bez dźwięku — **urządzenie ani razu nie zostało otwarte** (brak OPENED w dzienniku silnika): zwykle odmowa wyłączności, nieobsługiwany format albo zajęte przez inny program; zobacz wiersze WASAPI powyżej; ostatni wiersz silnika: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  Sprawdź po kolei: (1) na czym stanął wiersz powyżej — dekodowanie / urządzenie / wyłączność; (2) odtwórz ten sam plik z wiersza poleceń; (3) poszukaj w dzienniku WASAPI / OPENED / 0x8889000A. Sesja nie odtworzy się sama.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>Dziennik silnika: w domyślnym miejscu samego silnika</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>Dziennik silnika (zachowany, nie usuwany przy wyjściu): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>Dziennik silnika (tej sesji, usuwany przy wyjściu): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>Przeglądanie (dekodowanie) źródła… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Dźwięk: %1 · %2 bit · kanały: %3 · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: tak</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: nie</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>Poziomy/widmo wyrównane do opóźnienia wyjścia: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>Poprzednia sesja wewnątrz procesu nie zakończyła się w 2 s — ten proces może wciąż trzymać urządzenie na wyłączność i następny utwór może go nie otworzyć</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(domyślne systemu)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (domyślne)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>Lista urządzeń (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (niepodłączone — podłącz i kliknij „Odśwież urządzenia”)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>Odtwarzanie… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>Lista odtwarzania jest pusta</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>To już pierwszy utwór</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>To już ostatni utwór</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>Utwór %1/%2</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>Nie można przenieść: numer wiersza poza zakresem (from=%1 to=%2, pozycji na liście: %3)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>Zmieniono kolejność: pozycja %1/%2</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>nieznane</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>Otrzymano postęp (PG): odtworzono %1 s / razem %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>Pozycja i długość według czasu źródła; przy szybkości %1 potrwa około %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Postęp %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>Automatyczna zmiana: lista lub kolejność zmieniła się na końcu; według pliku to utwór %1/%2</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>Automatyczna zmiana (bez przerw/przenikanie): utwór %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>Poprzednia sesja jeszcze się nie zakończyła (zwalniana jest wyłączność) — nowa teraz nie powstanie. Naciśnij odtwarzanie ponownie; jeśli nie pomoże, uruchom odtwarzacz od nowa.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Odtwarzanie zakończone</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>Koniec listy odtwarzania (%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>po kolei</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · bez powtarzania</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>Koniec listy odtwarzania</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[czas] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>Pominięto (brak pliku): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>Błąd: nie znaleziono silnika %1 — umieść go obok programu, dodaj do PATH lub wskaż przez KELP_PLAYER_BIN.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>Zmiana urządzenia lub układu -&gt; bieżąca sesja zostaje zamknięta (urządzenie zwolnione)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>Stara sesja nie zakończyła się w 10 s — zostaje zamknięta siłą (urządzenie może zwolnić się nieco później)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>Bieżąca sesja używana dalej (zmiana utworu tylko przez load, bez ponownych argumentów): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[DLL wewnątrz procesu] argumenty sesji: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>Polecenie odtwarzania: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>Nie udało się uruchomić odtwarzacza (start sesji zwrócił %1) ⇒ powrót do stanu zatrzymania</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>Stopień odszumiania wysłany do działającej sesji: %1 (sesja używana dalej nie czyta argumentów ponownie)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>Ochrona szczytów wysłana do działającej sesji: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>Błąd: najpierw dodaj pliki dźwiękowe</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>Stara sesja jeszcze trwa ⇒ zostaje odłączona przed startem (sesja wewnątrz procesu musi skończyć się sama)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>Stara sesja wciąż się nie zakończyła, nie można zacząć nowej — poczekaj (albo uruchom ponownie; do automatyzacji/diagnozy KELP_GUI_INPROC=0 z procesem potomnym)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>Nic nie jest odtwarzane</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>Zatrzymywanie odtwarzacza...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>Wysłano sygnał zatrzymania</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Odtwarzanie zatrzymane</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Odtwórz</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Wznów</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pauza</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>Trwa odtwarzanie</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>Odtwarzanie jeszcze trwa; zamknięcie okna je zatrzyma.
+
+Czy na pewno zakończyć?</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>Importuj pliki dźwiękowe</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>Dane dźwiękowe</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>Lista odtwarzania</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importuj</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>Dodaj pliki dźwiękowe na koniec listy</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>Ustawienia silnika</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>Ustawienia przekazywane silnikowi przy następnej sesji</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>Urządzenie wyjściowe</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>Urządzenie używane do odtwarzania</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>Odśwież urządzenia</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>Wczytaj ponownie listę urządzeń z KelpPlayer -list</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>Pokaż dziennik</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>Co program postanowił i dlaczego</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>Ukryj dziennik</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer — odtwarzacz audio DSD ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>Formaty: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>Tryby: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>Przywracanie ustawień: brak pozycji pasującej do %1 (pozostaje domyślna)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>Kontrola końca utworu: pozostało %1 s, okno wczytywania %2 s (przenikanie %3 / bez przerw %4), następny=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>Przenikanie: %1 s do końca, wczytuję wcześniej następny utwór (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>Bez przerw: %1 s przed końcem wczytuję następny utwór (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>Pozycja</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>Postęp odtwarzania</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>Pokazuje tylko postęp: podczas odtwarzania nie można przewijać</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(nie oznaczono)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] Wątek interfejsu stał przez %1 ms — robił wtedy: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] Inny KelpPlayer już działa — ten się nie uruchomi
+
+Drugi grałby równocześnie na tym samym urządzeniu (słychać szum/nakładanie).
+Aby celowo otworzyć kilka, ustaw KELP_GUI_ALLOW_MULTI=1</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>nieznane</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>Pomiary startu: interfejs gotowy po %1, pamięć %2 (tylko wartości zmierzone)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>Wznowienie od %1:%2 (tu zatrzymano poprzednio)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>Odtwarzacz nie zakończył pracy w %1 s — zostaje zamknięty siłą.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>Odtwarzacz nie zakończył pracy w %1 s; sesji wewnątrz procesu nie można zabić (poczekaj; wyjście: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,914 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="pt_BR" sourcelanguage="zh_CN">
+<context>
+    <name>AboutBlock</name>
+    <message>
+        <source>检查更新…</source>
+        <translation>Procurar atualizações…</translation>
+    </message>
+    <message>
+        <source>第三方声明与参考标准</source>
+        <translation>Avisos de terceiros e normas de referência</translation>
+    </message>
+</context>
+<context>
+    <name>CommandLine</name>
+    <message>
+        <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
+        <translation>Há efeitos DSP ativos ⇒ esta faixa é decodificada para PCM (DSD direto e DSP se excluem: os efeitos atuam em PCM). Para DSD direto, desligue reverberação, tom, redução de ruído, balanço e largura.</translation>
+    </message>
+    <message>
+        <source>未选择设备</source>
+        <translation>Nenhum dispositivo selecionado</translation>
+    </message>
+    <message>
+        <source>差分/分频模式每个声道需要一台设备 —— 请先选择设备。</source>
+        <translation>Os modos diferencial e crossover precisam de um dispositivo por canal — selecione primeiro os dispositivos.</translation>
+    </message>
+    <message>
+        <source>pairs 模式需要 %1 台设备（每对声道一台），目前只选了 %2 台；请补齐后再播放。</source>
+        <translation>O modo pairs precisa de %1 dispositivos (um por par de canais), mas só %2 estão selecionados; complete antes de reproduzir.</translation>
+    </message>
+    <message>
+        <source>该模式需要 %1 台设备（每个声道一台），目前只选了 %2 台；缺少的声道会使整个映射错位 —— 请补全列表后再播放。</source>
+        <translation>Este modo precisa de %1 dispositivos (um por canal), mas só %2 estão selecionados; os canais que faltam deslocam todo o mapeamento — complete a lista antes de reproduzir.</translation>
+    </message>
+    <message>
+        <source>设备数量不足</source>
+        <translation>Dispositivos insuficientes</translation>
+    </message>
+</context>
+<context>
+    <name>ControlClosure</name>
+    <message>
+        <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
+        <translation>[controle] conferência: %1 comando(s) enviado(s), mas esta execução não tem registro de sessão do motor — não dá para conferir as duas pontas</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>aprovado</translation>
+    </message>
+    <message>
+        <source>超差(差 %1 &gt; 容差 %2)</source>
+        <translation>fora da tolerância (diferença %1 &gt; tolerância %2)</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合: queued=%1 recv=%2 diff=%3 —— %4</source>
+        <translation>[controle] conferência: queued=%1 recv=%2 diff=%3 — %4</translation>
+    </message>
+    <message>
+        <source>[控制] 闭合账来源: %1</source>
+        <translation>[controle] origem da conferência: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ControlReport</name>
+    <message>
+        <source>[控制] 发送 %1 用了 %2 ms（应小于 1 ms）</source>
+        <translation>[controle] o envio de %1 levou %2 ms (deveria ser menos de 1 ms)</translation>
+    </message>
+    <message>
+        <source>[控制] %1</source>
+        <translation>[controle] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CrashGuard</name>
+    <message>
+        <source>未知异常</source>
+        <translation>exceção desconhecida</translation>
+    </message>
+</context>
+<context>
+    <name>DebugHooks</name>
+    <message>
+        <source>测试钩子: 自动关窗 (等价点右上角关闭)</source>
+        <translation>Gancho de teste: fechamento automático (equivale ao botão de fechar)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceList</name>
+    <message>
+        <source>pulse（系统混音器；非比特完美）</source>
+        <translation>pulse (mixer do sistema; não bit-perfect)</translation>
+    </message>
+</context>
+<context>
+    <name>DeviceReset</name>
+    <message>
+        <source>%1 ⇒ -reset-device rc=%2 (设备已清)</source>
+        <translation>%1 ⇒ -reset-device rc=%2 (dispositivo redefinido)</translation>
+    </message>
+    <message>
+        <source>设备复位 (-reset-device) 超时：%1</source>
+        <translation>Tempo esgotado ao redefinir o dispositivo (-reset-device): %1</translation>
+    </message>
+</context>
+<context>
+    <name>DisplayPanel</name>
+    <message>
+        <source>曲名</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>位置</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Escolha uma faixa ou importe áudio</translation>
+    </message>
+</context>
+<context>
+    <name>DockBar</name>
+    <message>
+        <source>停止</source>
+        <translation>Parar</translation>
+    </message>
+    <message>
+        <source>停止播放</source>
+        <translation>Parar a reprodução</translation>
+    </message>
+    <message>
+        <source>上一首</source>
+        <translation>Anterior</translation>
+    </message>
+    <message>
+        <source>播放上一首</source>
+        <translation>Reproduzir a faixa anterior</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>播放选中的曲目</source>
+        <translation>Reproduzir a faixa selecionada</translation>
+    </message>
+    <message>
+        <source>下一首</source>
+        <translation>Próxima</translation>
+    </message>
+    <message>
+        <source>播放下一首</source>
+        <translation>Reproduzir a próxima faixa</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>音量；100% 不改变样本</source>
+        <translation>Volume; em 100% as amostras não são alteradas</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Escolha uma faixa ou importe áudio</translation>
+    </message>
+</context>
+<context>
+    <name>EndVerdict</name>
+    <message>
+        <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
+        <translation>Terminou antes do fim (%1%); parado, sem passar para a próxima faixa</translation>
+    </message>
+    <message>
+        <source>播放器异常退出，代码: %1</source>
+        <translation>O reprodutor terminou de forma anormal, código: %1</translation>
+    </message>
+    <message>
+        <source>  引擎最后一行: %1</source>
+        <translation>  última linha do motor: %1</translation>
+    </message>
+    <message>
+        <source>独占端点打不开（被占用或格式不支持）⇒ 本曲改用 auto 重试（独占 → 共享 阶梯）</source>
+        <translation>A saída exclusiva não abre (ocupada ou formato não aceito) ⇒ nova tentativa desta faixa em auto (exclusivo → compartilhado)</translation>
+    </message>
+    <message>
+        <source>会话已关闭（设备/布局变更）；下次播放按新设置开新会话</source>
+        <translation>Sessão encerrada (mudança de dispositivo/layout); a próxima reprodução abrirá outra com as novas configurações</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Reprodução parada</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Reprodução concluída</translation>
+    </message>
+    <message>
+        <source>忽略上一个会话的结束事件（会话刚刚重建，这个事件来自被拆掉的那个会话）。</source>
+        <translation>Evento de fim da sessão anterior ignorado (a sessão acabou de ser refeita e o evento veio da que foi desmontada).</translation>
+    </message>
+</context>
+<context>
+    <name>EngineControls</name>
+    <message>
+        <source>输出</source>
+        <translation>Saída</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reprodução</translation>
+    </message>
+    <message>
+        <source>解码</source>
+        <translation>Decodificação</translation>
+    </message>
+    <message>
+        <source>信号</source>
+        <translation>Sinal</translation>
+    </message>
+    <message>
+        <source>输出路径</source>
+        <translation>Caminho de saída</translation>
+    </message>
+    <message>
+        <source>独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。</source>
+        <translation>Exclusivo vai direto ao hardware, compartilhado passa pelo mixer do sistema; auto tenta exclusivo e depois compartilhado.</translation>
+    </message>
+    <message>
+        <source>DSD 传输</source>
+        <translation>Transporte DSD</translation>
+    </message>
+    <message>
+        <source>auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。</source>
+        <translation>auto: o programa decide; force: sempre DoP; native: exige DSD nativo.</translation>
+    </message>
+    <message>
+        <source>播放模式</source>
+        <translation>Modo de reprodução</translation>
+    </message>
+    <message>
+        <source>standard 用一台设备；其他模式每个声道或声道对用一台设备。</source>
+        <translation>standard usa um dispositivo; os outros modos, um por canal ou par de canais.</translation>
+    </message>
+    <message>
+        <source>声道数</source>
+        <translation>Número de canais</translation>
+    </message>
+    <message>
+        <source>多设备模式分配的声道数。</source>
+        <translation>Quantos canais os modos com vários dispositivos distribuem.</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 canais</translation>
+    </message>
+    <message>
+        <source>声道布置</source>
+        <translation>Disposição dos canais</translation>
+    </message>
+    <message>
+        <source>源的声道怎样分到输出；auto 由程序决定。</source>
+        <translation>Como os canais da fonte vão para as saídas; auto: o programa decide.</translation>
+    </message>
+    <message>
+        <source>分频点</source>
+        <translation>Frequência de corte</translation>
+    </message>
+    <message>
+        <source>低于这个频率的送到低音设备。</source>
+        <translation>O que fica abaixo vai para o dispositivo de graves.</translation>
+    </message>
+    <message>
+        <source>桥接分频</source>
+        <translation>Crossover em ponte</translation>
+    </message>
+    <message>
+        <source>每一路分频用两台桥接的设备。</source>
+        <translation>Dois dispositivos em ponte por via.</translation>
+    </message>
+    <message>
+        <source>设备 %1</source>
+        <translation>Dispositivo %1</translation>
+    </message>
+    <message>
+        <source>这个声道的输出设备。</source>
+        <translation>O dispositivo de saída deste canal.</translation>
+    </message>
+    <message>
+        <source>DSD 一律解码为 PCM</source>
+        <translation>Sempre decodificar DSD para PCM</translation>
+    </message>
+    <message>
+        <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
+        <translation>Sem DSD direto: para dispositivos que só aceitam PCM ou quando se querem efeitos.</translation>
+    </message>
+    <message>
+        <source>PCM 位深</source>
+        <translation>Profundidade PCM</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 时的位深。</source>
+        <translation>Profundidade ao decodificar DSD para PCM.</translation>
+    </message>
+    <message>
+        <source>解码滤波器</source>
+        <translation>Filtro de decodificação</translation>
+    </message>
+    <message>
+        <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
+        <translation>Filtro de DSD para PCM: quanto melhor, mais processamento.</translation>
+    </message>
+    <message>
+        <source>快速</source>
+        <translation>Rápido</translation>
+    </message>
+    <message>
+        <source>标准</source>
+        <translation>Padrão</translation>
+    </message>
+    <message>
+        <source>最佳</source>
+        <translation>Melhor</translation>
+    </message>
+    <message>
+        <source>PCM 转 DSD</source>
+        <translation>PCM para DSD</translation>
+    </message>
+    <message>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <translation>Modula PCM para DSD: altera as amostras, não é bit-perfect.</translation>
+    </message>
+    <message>
+        <source>目标速率</source>
+        <translation>Taxa de destino</translation>
+    </message>
+    <message>
+        <source>调制后的 DSD 速率。</source>
+        <translation>Taxa DSD após a modulação.</translation>
+    </message>
+    <message>
+        <source>调制滤波器抽头</source>
+        <translation>Coeficientes do filtro</translation>
+    </message>
+    <message>
+        <source>升频滤波器的长度；自动由引擎决定。</source>
+        <translation>Comprimento do filtro de sobreamostragem; em automático o motor decide.</translation>
+    </message>
+    <message>
+        <source>自动</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>无</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>外部解码库</source>
+        <translation>Biblioteca decodificadora externa</translation>
+    </message>
+    <message>
+        <source>外部解码库的路径；空着表示不用。</source>
+        <translation>Caminho da biblioteca decodificadora externa; vazio: nenhuma.</translation>
+    </message>
+    <message>
+        <source>峰值保护</source>
+        <translation>Proteção de picos</translation>
+    </message>
+    <message>
+        <source>只在会削波时压低峰值。</source>
+        <translation>Reduz os picos só quando haveria clipping.</translation>
+    </message>
+    <message>
+        <source>重采样到设备速率</source>
+        <translation>Reamostrar para a taxa do dispositivo</translation>
+    </message>
+    <message>
+        <source>改变样本，不是比特完美。</source>
+        <translation>Altera as amostras, não é bit-perfect.</translation>
+    </message>
+    <message>
+        <source>重采样质量</source>
+        <translation>Qualidade da reamostragem</translation>
+    </message>
+    <message>
+        <source>越好越费算力。</source>
+        <translation>Quanto melhor, mais processamento.</translation>
+    </message>
+    <message>
+        <source>回放增益</source>
+        <translation>ReplayGain</translation>
+    </message>
+    <message>
+        <source>按文件里的 ReplayGain 标签拉平响度。</source>
+        <translation>Iguala a sonoridade pelas tags ReplayGain do arquivo.</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Desligado</translation>
+    </message>
+    <message>
+        <source>按曲目</source>
+        <translation>Por faixa</translation>
+    </message>
+    <message>
+        <source>按专辑</source>
+        <translation>Por álbum</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>Redução de ruído</translation>
+    </message>
+    <message>
+        <source>去掉录音的底噪；开着就不能直通 DSD。</source>
+        <translation>Remove o ruído de fundo da gravação; ligado, impede o DSD direto.</translation>
+    </message>
+    <message>
+        <source>轻度</source>
+        <translation>Leve</translation>
+    </message>
+    <message>
+        <source>强力</source>
+        <translation>Forte</translation>
+    </message>
+    <message>
+        <source>保留谐波</source>
+        <translation>Preservar harmônicos</translation>
+    </message>
+    <message>
+        <source>降噪时保住乐音的谐波。</source>
+        <translation>Protege os harmônicos dos tons ao reduzir o ruído.</translation>
+    </message>
+    <message>
+        <source>无缝换曲</source>
+        <translation>Reprodução sem intervalos</translation>
+    </message>
+    <message>
+        <source>曲尾前预装下一首，中间不停顿。</source>
+        <translation>Pré-carrega a próxima faixa antes do fim, sem pausa.</translation>
+    </message>
+    <message>
+        <source>交叉淡化</source>
+        <translation>Crossfade</translation>
+    </message>
+    <message>
+        <source>两首之间重叠的秒数；0 表示不用。</source>
+        <translation>Segundos de sobreposição entre duas faixas; 0: nenhum.</translation>
+    </message>
+    <message>
+        <source>播放速度</source>
+        <translation>Velocidade de reprodução</translation>
+    </message>
+    <message>
+        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <translation>O tom é mantido; fora de 1.00 não é bit-perfect.</translation>
+    </message>
+    <message>
+        <source>边读边播</source>
+        <translation>Reproduzir durante a leitura</translation>
+    </message>
+    <message>
+        <source>不先把文件读进内存。</source>
+        <translation>Não lê antes o arquivo para a memória.</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLibrary</name>
+    <message>
+        <source>找不到引擎库，已查找：%1</source>
+        <translation>A biblioteca do motor não foi encontrada; procurada em: %1</translation>
+    </message>
+    <message>
+        <source>无法加载引擎库：%1</source>
+        <translation>Não é possível carregar a biblioteca do motor: %1</translation>
+    </message>
+    <message>
+        <source>引擎库缺少所需的两个入口：%1</source>
+        <translation>Faltam à biblioteca do motor os dois pontos de entrada necessários: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLocation</name>
+    <message>
+        <source>程序同目录</source>
+        <translation>ao lado do programa</translation>
+    </message>
+    <message>
+        <source>环境变量 KELP_PLAYER_BIN</source>
+        <translation>variável de ambiente KELP_PLAYER_BIN</translation>
+    </message>
+    <message>
+        <source>开发构建（build/）</source>
+        <translation>compilação de desenvolvimento (build/)</translation>
+    </message>
+</context>
+<context>
+    <name>EngineProbe</name>
+    <message>
+        <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
+        <translation>Tempo da sondagem esgotado (%1 ms): %2 — esse processo filho foi encerrado e a interface continua (esperado no autoteste KELP_GUI_PROBE_HANG)</translation>
+    </message>
+    <message>
+        <source>探测返回非零（%1）：%2</source>
+        <translation>A sondagem retornou um valor diferente de zero (%1): %2</translation>
+    </message>
+</context>
+<context>
+    <name>LogPane</name>
+    <message>
+        <source>日志</source>
+        <translation>Registro</translation>
+    </message>
+</context>
+<context>
+    <name>NoAudioReport</name>
+    <message>
+        <source>(没有任何输出)</source>
+        <translation>(nenhuma saída)</translation>
+    </message>
+    <message>
+        <source>起播 5 秒仍没有音频样本 —— 引擎最后一行: %1</source>
+        <translation>5 segundos após o início e ainda sem amostras — última linha do motor: %1</translation>
+    </message>
+    <message>
+        <source>起播 5 秒没有声音 —— **设备从未打开**（引擎日志里没有 OPENED）：多半是独占被拒、格式不支持，或被别的程序占用；看上面的 WASAPI 行；引擎最后一行: %1</source>
+        <translation>5 segundos após o início sem som — **o dispositivo nunca foi aberto** (não há OPENED no registro do motor): em geral acesso exclusivo negado, formato não aceito ou ocupado por outro programa; veja as linhas WASAPI acima; última linha do motor: %1</translation>
+    </message>
+    <message>
+        <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
+        <translation>  Verifique em ordem: (1) em que passo parou a linha acima — decodificação / dispositivo / exclusivo; (2) reproduza o mesmo arquivo na linha de comando; (3) procure WASAPI / OPENED / 0x8889000A no registro. A sessão não é refeita sozinha.</translation>
+    </message>
+</context>
+<context>
+    <name>PlayerGuiWindow</name>
+    <message>
+        <source>引擎日志: 由引擎放在它自己的默认位置</source>
+        <translation>Registro do motor: no local padrão do próprio motor</translation>
+    </message>
+    <message>
+        <source>引擎日志（保留，退出时不删）: %1</source>
+        <translation>Registro do motor (mantido, não apagado ao sair): %1</translation>
+    </message>
+    <message>
+        <source>引擎日志（本次会话，退出时删除）: %1</source>
+        <translation>Registro do motor (desta sessão, apagado ao sair): %1</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）源… %1%</source>
+        <translation>Varrendo (decodificando) a fonte… %1%</translation>
+    </message>
+    <message>
+        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Áudio: %1 · %2 bits · %3 canais · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST: 是</source>
+        <translation> · DST: sim</translation>
+    </message>
+    <message>
+        <source> · DST: 否</source>
+        <translation> · DST: não</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
+        <translation>Níveis/espectro alinhados à latência de saída: %1 ms</translation>
+    </message>
+    <message>
+        <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
+        <translation>A sessão anterior no mesmo processo não terminou em 2 s — este processo talvez ainda retenha o dispositivo exclusivo e a próxima faixa pode não abri-lo</translation>
+    </message>
+    <message>
+        <source>(系统默认)</source>
+        <translation>(padrão do sistema)</translation>
+    </message>
+    <message>
+        <source>%1  (默认)</source>
+        <translation>%1  (padrão)</translation>
+    </message>
+    <message>
+        <source>设备列表 (-list): %1</source>
+        <translation>Lista de dispositivos (-list): %1</translation>
+    </message>
+    <message>
+        <source>%1  (未连接 —— 请插上后点“刷新设备”)</source>
+        <translation>%1  (não conectado — conecte-o e clique em “Atualizar dispositivos”)</translation>
+    </message>
+    <message>
+        <source>正在播放… %1/%2</source>
+        <translation>Reproduzindo… %1/%2</translation>
+    </message>
+    <message>
+        <source>播放列表是空的</source>
+        <translation>A lista de reprodução está vazia</translation>
+    </message>
+    <message>
+        <source>已经是第一首</source>
+        <translation>Já é a primeira faixa</translation>
+    </message>
+    <message>
+        <source>已经是最后一首</source>
+        <translation>Já é a última faixa</translation>
+    </message>
+    <message>
+        <source>第 %1/%2 首</source>
+        <translation>Faixa %1/%2</translation>
+    </message>
+    <message>
+        <source>移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)</source>
+        <translation>Não foi possível mover: linha fora do intervalo (from=%1 to=%2, a lista tem %3 itens)</translation>
+    </message>
+    <message>
+        <source>播放顺序已改: 第 %1/%2 项</source>
+        <translation>Ordem alterada: item %1/%2</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
+        <translation>Progresso recebido (PG): tocados %1 s / total %2 s</translation>
+    </message>
+    <message>
+        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
+        <translation>Posição e duração conforme a fonte; na velocidade %1 leva cerca de %2</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progresso %1%</translation>
+    </message>
+    <message>
+        <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
+        <translation>Troca automática: a lista ou a ordem mudou no fim; pelo arquivo é a faixa %1/%2</translation>
+    </message>
+    <message>
+        <source>自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3</source>
+        <translation>Troca automática (sem intervalos/crossfade): faixa %1/%2: %3</translation>
+    </message>
+    <message>
+        <source>上一个播放会话还没收尾（独占正在拆除）—— 这次不建新会话。请再按一次播放；仍不行就重启播放器。</source>
+        <translation>A sessão anterior ainda não terminou (liberando o acesso exclusivo) — nenhuma nova será criada agora. Aperte reproduzir de novo; se não resolver, reinicie o reprodutor.</translation>
+    </message>
+    <message>
+        <source>播放完成</source>
+        <translation>Reprodução concluída</translation>
+    </message>
+    <message>
+        <source>播放列表结束（%1）</source>
+        <translation>Fim da lista de reprodução (%1)</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>em ordem</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · sem repetição</translation>
+    </message>
+    <message>
+        <source>播放列表结束</source>
+        <translation>Fim da lista de reprodução</translation>
+    </message>
+    <message>
+        <source>[耗时] %1 %2 ms</source>
+        <translation>[duração] %1 %2 ms</translation>
+    </message>
+    <message>
+        <source>跳过（文件不存在）: %1</source>
+        <translation>Ignorada (o arquivo não existe): %1</translation>
+    </message>
+    <message>
+        <source>错误: 找不到播放引擎 %1 —— 请把它放在本程序同目录、加入 PATH，或用 KELP_PLAYER_BIN 指向它。</source>
+        <translation>Erro: o motor %1 não foi encontrado — coloque-o ao lado do programa, inclua-o no PATH ou aponte para ele com KELP_PLAYER_BIN.</translation>
+    </message>
+    <message>
+        <source>设备或布局有变 -&gt; 关闭当前会话（释放设备）</source>
+        <translation>Dispositivo ou layout mudou -&gt; a sessão atual é encerrada (dispositivo liberado)</translation>
+    </message>
+    <message>
+        <source>旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）</source>
+        <translation>A sessão antiga não terminou em 10 s — encerramento forçado (o dispositivo pode demorar um pouco a ser liberado)</translation>
+    </message>
+    <message>
+        <source>复用当前会话（换曲只发 load，不重发参数）: %1</source>
+        <translation>Sessão atual reaproveitada (a troca só envia load, sem repetir argumentos): %1</translation>
+    </message>
+    <message>
+        <source>[进程内 DLL] 会话参数: %1</source>
+        <translation>[DLL no processo] argumentos da sessão: %1</translation>
+    </message>
+    <message>
+        <source>播放命令: %1</source>
+        <translation>Comando de reprodução: %1</translation>
+    </message>
+    <message>
+        <source>播放器启动失败（会话 start 返回 %1）⇒ 回到未播放状态</source>
+        <translation>Falha ao iniciar o reprodutor (start da sessão retornou %1) ⇒ volta ao estado parado</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）</source>
+        <translation>Nível de redução de ruído reenviado à sessão em curso: %1 (uma sessão reaproveitada não relê os argumentos)</translation>
+    </message>
+    <message>
+        <source>向运行中的会话补发峰值保护: %1</source>
+        <translation>Proteção de picos reenviada à sessão em curso: %1</translation>
+    </message>
+    <message>
+        <source>错误: 请先添加音频文件</source>
+        <translation>Erro: adicione primeiro arquivos de áudio</translation>
+    </message>
+    <message>
+        <source>旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）</source>
+        <translation>A sessão antiga ainda não saiu ⇒ é desconectada antes de reproduzir (uma sessão no processo só termina por si)</translation>
+    </message>
+    <message>
+        <source>旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 KELP_GUI_INPROC=0 走子进程）</source>
+        <translation>A sessão antiga ainda não saiu e nada novo pode começar — aguarde (ou reinicie; para automação/diagnóstico, KELP_GUI_INPROC=0 usa um processo filho)</translation>
+    </message>
+    <message>
+        <source>没有正在运行的播放任务</source>
+        <translation>Nenhuma reprodução em andamento</translation>
+    </message>
+    <message>
+        <source>正在停止播放器...</source>
+        <translation>Parando o reprodutor...</translation>
+    </message>
+    <message>
+        <source>停止信号已发送</source>
+        <translation>Sinal de parada enviado</translation>
+    </message>
+    <message>
+        <source>播放已停止</source>
+        <translation>Reprodução parada</translation>
+    </message>
+    <message>
+        <source>播放</source>
+        <translation>Reproduzir</translation>
+    </message>
+    <message>
+        <source>继续</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>暂停</source>
+        <translation>Pausar</translation>
+    </message>
+    <message>
+        <source>播放进行中</source>
+        <translation>Reprodução em andamento</translation>
+    </message>
+    <message>
+        <source>播放尚未结束, 关闭窗口将停止播放。
+
+确定要退出吗?</source>
+        <translation>A reprodução não terminou; fechar a janela vai pará-la.
+
+Deseja mesmo sair?</translation>
+    </message>
+    <message>
+        <source>导入音频文件</source>
+        <translation>Importar arquivos de áudio</translation>
+    </message>
+    <message>
+        <source>音频数据</source>
+        <translation>Dados de áudio</translation>
+    </message>
+    <message>
+        <source>播放列表</source>
+        <translation>Lista de reprodução</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>Adicionar arquivos de áudio ao fim da lista</translation>
+    </message>
+    <message>
+        <source>引擎设置</source>
+        <translation>Configurações do motor</translation>
+    </message>
+    <message>
+        <source>下次建会话时交给引擎的设置</source>
+        <translation>Configurações que o motor recebe na próxima sessão</translation>
+    </message>
+    <message>
+        <source>输出设备</source>
+        <translation>Dispositivo de saída</translation>
+    </message>
+    <message>
+        <source>播放用的输出设备</source>
+        <translation>O dispositivo usado na reprodução</translation>
+    </message>
+    <message>
+        <source>刷新设备</source>
+        <translation>Atualizar dispositivos</translation>
+    </message>
+    <message>
+        <source>从 KelpPlayer -list 重新读取设备列表</source>
+        <translation>Reler a lista de dispositivos de KelpPlayer -list</translation>
+    </message>
+    <message>
+        <source>显示日志面板</source>
+        <translation>Mostrar o registro</translation>
+    </message>
+    <message>
+        <source>程序做了什么决定、为什么</source>
+        <translation>O que o programa decidiu e por quê</translation>
+    </message>
+    <message>
+        <source>收起日志面板</source>
+        <translation>Ocultar o registro</translation>
+    </message>
+    <message>
+        <source>=== KelpPlayer — DSD 音频播放器 ===</source>
+        <translation>=== KelpPlayer — reprodutor de áudio DSD ===</translation>
+    </message>
+    <message>
+        <source>格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</source>
+        <translation>Formatos: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE</translation>
+    </message>
+    <message>
+        <source>模式: standard / differential / btl / crossover / pairs</source>
+        <translation>Modos: standard / differential / btl / crossover / pairs</translation>
+    </message>
+    <message>
+        <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
+        <translation>Restauração das configurações: nenhum item corresponde a %1 (mantido o padrão)</translation>
+    </message>
+</context>
+<context>
+    <name>Preload</name>
+    <message>
+        <source>曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5</source>
+        <translation>Verificação de fim de faixa: restam %1 s, janela de pré-carga %2 s (crossfade %3 / sem intervalos %4), próxima=%5</translation>
+    </message>
+    <message>
+        <source>交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)</source>
+        <translation>Crossfade: a %1 s do fim, a próxima é carregada antes (%2)</translation>
+    </message>
+    <message>
+        <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
+        <translation>Sem intervalos: a %1 s do fim, a próxima é pré-carregada (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressRow</name>
+    <message>
+        <source>位置</source>
+        <translation>Posição</translation>
+    </message>
+    <message>
+        <source>播放进度</source>
+        <translation>Progresso da reprodução</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>Só mostra o progresso: não é possível saltar durante a reprodução</translation>
+    </message>
+</context>
+<context>
+    <name>StallReport</name>
+    <message>
+        <source>(未标记)</source>
+        <translation>(não marcado)</translation>
+    </message>
+    <message>
+        <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
+        <translation>[stall] A thread da interface travou por %1 ms — estava fazendo: %2</translation>
+    </message>
+</context>
+<context>
+    <name>Startup</name>
+    <message>
+        <source>[gui] 已经有另一个 KelpPlayer 在运行 —— 本次不启动
+
+再开一个会在同一台设备上叠加播放（听感就是噪声/重叠）。
+要故意多开请设 KELP_GUI_ALLOW_MULTI=1</source>
+        <translation>[gui] Já há outro KelpPlayer em execução — este não será iniciado
+
+Um segundo tocaria por cima no mesmo dispositivo (soa como ruído/sobreposição).
+Para abrir vários de propósito, defina KELP_GUI_ALLOW_MULTI=1</translation>
+    </message>
+</context>
+<context>
+    <name>StartupMetrics</name>
+    <message>
+        <source>未知</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
+        <translation>Métricas de início: interface pronta em %1, memória %2 (só valores medidos)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackStart</name>
+    <message>
+        <source>从 %1:%2 继续（上次停在这里）</source>
+        <translation>Continuando de %1:%2 (onde parou da última vez)</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>
+        <translation>O reprodutor não terminou em %1 s — encerramento forçado.</translation>
+    </message>
+    <message>
+        <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
+        <translation>O reprodutor não terminou em %1 s; uma sessão no mesmo processo não pode ser morta (aguarde; saída: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,133 @@
+// The device combos and what is known of their devices.
+#include "ui/window/player_gui_window.h"
+
+#include "app/settings_store.h"
+#include "engine/output_lines.h"
+#include "output/device_list.h"
+#include "platform/settings_table.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int probeLimitMs = 5000;
+
+DeviceListing listDevices(const WindowOptions::Probe &probe, const QString &playerBin)
+{
+    DeviceListing listing;
+    listing.result = probe(playerBin, {u"-list"_s}, probeLimitMs, [&](const QString &text, bool isError) {
+        listing.logLines.append({text, isError});
+    });
+    return listing;
+}
+
+} // namespace
+
+void PlayerGuiWindow::beginDeviceListing()
+{
+    locateEngine();
+    m_devices.pendingListing = std::async(std::launch::async, listDevices, m_options.probe, m_link.playerBin);
+}
+
+void PlayerGuiWindow::populateDevicesBlocking()
+{
+    if (!m_devices.pendingListing.valid())
+        beginDeviceListing();
+    applyDeviceList(m_devices.pendingListing.get());
+}
+
+void PlayerGuiWindow::populateDevices()
+{
+    if (sessionRuns()) {
+        logLine(u"[gui] 播放中: 暂不重新探测设备 (碰端点会有轻微爆音), 停止播放后再刷新"_s);
+        return;
+    }
+    if (m_devices.pendingListing.valid())
+        return;
+    beginDeviceListing();
+    auto *waiting = new QTimer(this);
+    connect(waiting, &QTimer::timeout, this, [this, waiting] {
+        if (m_devices.pendingListing.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
+            return;
+        waiting->deleteLater();
+        waiting->stop();
+        populateDevicesBlocking();
+    });
+    constexpr int lookIntervalMs = 50;
+    waiting->start(lookIntervalMs);
+}
+
+void PlayerGuiWindow::applyDeviceList(const DeviceListing &listing)
+{
+    for (const auto &[text, isError] : listing.logLines)
+        logLine(text, isError);
+    m_devices.populatingDevices = true;
+    const QList<ListedDevice> devices =
+        listing.result.rc < 0 ? QList<ListedDevice>() : parseDeviceList(listing.result.text);
+    const bool first = m_devices.deviceCombos.first()->count() == 0;
+    if (listing.result.rc >= 0 || first) {
+        for (QComboBox *combo : m_devices.deviceCombos) {
+            const QString chosen = combo->currentData().toString();
+            combo->clear();
+            combo->addItem(tr("(系统默认)"), QString());
+            for (const ListedDevice &device : devices) {
+                const bool marked = device.isDefault && combo == m_devices.deviceCombos.first();
+                combo->addItem(marked ? tr("%1  (默认)").arg(device.label) : device.label, device.id);
+            }
+            selectDevice(combo, chosen);
+        }
+        QStringList noted;
+        for (const ListedDevice &device : devices)
+            noted.append((device.isDefault ? u"* "_s : QString()) + device.label);
+        if (!noted.isEmpty())
+            logLine(tr("设备列表 (-list): %1").arg(noted.join(u" | "_s)));
+    }
+    if (!std::exchange(m_devices.devicesRestored, true)) {
+        const QStringList stored = readUserSetting(settings::devices);
+        for (qsizetype i = 0; i < std::min(stored.size(), m_devices.deviceCombos.size()); ++i)
+            selectDevice(m_devices.deviceCombos.at(i), stored.at(i));
+    }
+    m_devices.populatingDevices = false;
+}
+
+void PlayerGuiWindow::selectDevice(QComboBox *combo, const QString &id)
+{
+    if (id.isEmpty())
+        return;
+    int row = combo->findData(id);
+    if (row < 0) {
+        // A device that is not connected stays the listener's choice.
+        combo->addItem(tr("%1  (未连接 —— 请插上后点“刷新设备”)").arg(id), id);
+        row = combo->count() - 1;
+    }
+    combo->setCurrentIndex(row);
+}
+
+QString PlayerGuiWindow::currentDeviceName() const
+{
+    for (const QComboBox *combo : m_devices.deviceCombos) {
+        if (const QString id = combo->currentData().toString(); !id.isEmpty())
+            return id;
+    }
+    return {};
+}
+
+void PlayerGuiWindow::noteDeviceFact(const QString &text)
+{
+    switch (engine_line::deviceFactOf(text)) {
+    case engine_line::DeviceFact::Opened:
+        m_devices.lastBusyDevice.clear();
+        m_devices.lastMissingDevice.clear();
+        break;
+    case engine_line::DeviceFact::ExclusiveRefused:
+        m_devices.lastBusyDevice = currentDeviceName();
+        break;
+    case engine_line::DeviceFact::EndpointMissing:
+        m_devices.lastMissingDevice = currentDeviceName();
+        break;
+    case engine_line::DeviceFact::None:
+        break;
+    }
+}
+
+void PlayerGuiWindow::applyDeviceProfile() {}

@@ -1,0 +1,62 @@
+/// \file
+/// The window's memory for starting, ending and following tracks.
+#pragma once
+
+#include "playback/track_start.h"
+
+#include <QString>
+
+/// The session and the row, from one track start to the next.
+struct TrackStartState
+{
+    int currentRow = -1;     ///< the row to play; may run past the end of the list
+    int lastStartedRow = -1; ///< of the last playCurrent
+    int playingRow = -1;     ///< that plays or was last started
+    bool sessionLive = false;
+    bool sessionClosing = false; ///< closed on purpose
+    bool userStopped = false;
+    bool restartPending = false;
+    bool paused = false;
+    SessionShape opened;           ///< what the live session was opened with
+    int exclusiveFallbackRow = -1; ///< the row whose "exclusive" was replaced by "auto"
+    int playGeneration = 0;        ///< raised at every start that gets that far
+    qint64 ignoreDoneUntilMs = 0;  ///< since the epoch; 0 when nothing is ignored
+
+    // What the session was told on its command line; a reused session is told differences by lines.
+    int sessionDenoiseTier = -1; ///< -1: told nothing yet
+    bool sessionHarmonics = false;
+    bool sessionGuard = false;
+
+    QString resumeFile;
+    double resumePosSec = 0.;
+    bool resumeEnabled = false;
+
+    QString lastPlayed;       ///< path
+    QString lastPlayedKey;    ///< rowKey
+    int skippedAtRestore = 0; ///< rows whose file had gone when the list was restored
+};
+
+/// The next file, once it has been handed to the engine early.
+struct PreloadState
+{
+    bool pending = false;
+    int row = -1;
+    QString path;
+    QString key;
+    double positionSec = 0.; ///< of the old track at that moment
+    double totalSec = 0.;    ///< likewise
+    bool diagnosisDone = false;
+};
+
+/// What the position lines have told.
+struct ProgressState
+{
+    bool firstPgSeen = false; ///< this session's
+    bool audioHasStarted = false;
+    bool metricsLogged = false; ///< once a run of the program
+    double percent = 0.;
+    double lastPosSec = 0.;
+    int lastPosRow = -1;
+    double lastTotalSec = 0.;
+    int lastLoggedStep = -1; ///< the last tenth that was logged
+};

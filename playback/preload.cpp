@@ -1,0 +1,75 @@
+#include "playback/preload.h"
+
+#include <QCoreApplication>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double gaplessWindowSec = 1.5;
+constexpr double diagnosisSec = 3.;
+/// Later than this the engine has no time left to open the next file.
+constexpr double leastRemainingSec = 0.02;
+
+double windowSec(const PreloadFacts &facts)
+{
+    if (facts.crossfadeSec > 0.)
+        return facts.crossfadeSec;
+    return facts.gapless ? gaplessWindowSec : 0.;
+}
+
+QString seconds(double sec)
+{
+    return QString::number(sec, 'f', 1);
+}
+
+} // namespace
+
+bool preloadNeedsNextRow(const PreloadFacts &facts)
+{
+    const double remaining = facts.totalSec - facts.positionSec;
+    return !facts.pending && facts.totalSec > 0. && remaining > 0. &&
+           remaining < std::max(diagnosisSec, std::nextafter(windowSec(facts), HUGE_VAL));
+}
+
+PreloadPlan planPreload(const PreloadFacts &facts)
+{
+    PreloadPlan plan;
+    plan.windowSec = windowSec(facts);
+    plan.remainingSec = facts.totalSec - facts.positionSec;
+    if (facts.pending || facts.totalSec <= 0.)
+        return plan;
+    plan.diagnose = !facts.diagnosisDone && plan.remainingSec > 0. && plan.remainingSec < diagnosisSec;
+    plan.load = plan.windowSec > 0. && plan.remainingSec > leastRemainingSec &&
+                plan.remainingSec <= plan.windowSec && facts.nextRow >= 0 &&
+                facts.nextRow != facts.currentRow && facts.nextHasPath;
+    return plan;
+}
+
+QString preloadDiagnosis(const PreloadPlan &plan, const PreloadFacts &facts)
+{
+    return QCoreApplication::translate(
+               "Preload", "曲尾检查: 剩余 %1 s, 预载窗口 %2 s (交叉淡化 %3 / 无缝 %4), 下一首=%5")
+        .arg(seconds(plan.remainingSec), seconds(plan.windowSec), seconds(facts.crossfadeSec),
+             facts.gapless ? u"on"_s : u"off"_s)
+        .arg(facts.nextRow);
+}
+
+QString preloadAnnouncement(const PreloadPlan &plan, double crossfadeSec, const QString &fileName)
+{
+    if (crossfadeSec > 0.)
+        return QCoreApplication::translate("Preload", "交叉淡化: 距曲尾 %1 s, 提前装载下一首 (%2)")
+            .arg(seconds(plan.remainingSec), fileName);
+    return QCoreApplication::translate("Preload", "无缝: 曲尾前 %1 s, 预装下一首 (%2)")
+        .arg(seconds(plan.remainingSec), fileName);
+}
+
+bool preloadTaken(const PreloadTakenFacts &facts)
+{
+    const bool ranBackward = facts.posAtPreloadSec > 1. && facts.posAtPreloadSec > facts.positionSec + 1.;
+    const bool totalChanged = facts.totalSec > 0.5 && facts.totalAtPreloadSec > 0.5 &&
+                              std::abs(facts.totalSec - facts.totalAtPreloadSec) > 0.5 &&
+                              facts.positionSec < 5.;
+    return ranBackward || totalChanged;
+}

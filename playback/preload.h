@@ -1,0 +1,44 @@
+/// \file
+/// When the next track is handed to the engine early, and how one notices that the engine has moved on to it.
+#pragma once
+
+#include <QString>
+
+struct PreloadFacts
+{
+    double positionSec = 0.;
+    double totalSec = 0.;
+    double crossfadeSec = 0.;
+    bool gapless = false;
+    bool pending = false;       ///< the next file has been handed over
+    bool diagnosisDone = false; ///< once a track
+    int currentRow = -1;
+    int nextRow = -1; ///< -1 when the list ends
+    bool nextHasPath = false;
+};
+
+struct PreloadPlan
+{
+    bool diagnose = false; ///< log the end-of-track check
+    bool load = false;     ///< hand over nextRow
+    double remainingSec = 0.;
+    double windowSec = 0.; ///< 0: the next track is not loaded early
+};
+
+PreloadPlan planPreload(const PreloadFacts &facts);
+/// Whether the next row has to be known for planPreload; asking for it may cost.
+bool preloadNeedsNextRow(const PreloadFacts &facts);
+
+/// The log sentences, translated.
+QString preloadDiagnosis(const PreloadPlan &plan, const PreloadFacts &facts);
+QString preloadAnnouncement(const PreloadPlan &plan, double crossfadeSec, const QString &fileName);
+
+struct PreloadTakenFacts
+{
+    double posAtPreloadSec = 0.;
+    double totalAtPreloadSec = 0.;
+    double positionSec = 0.;
+    double totalSec = 0.;
+};
+/// The position has run backward, or the total has changed at the beginning of a track.
+bool preloadTaken(const PreloadTakenFacts &facts);

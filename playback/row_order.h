@@ -1,0 +1,23 @@
+/// \file
+/// Arithmetic on row numbers: which row is next, and where a row has gone.
+#pragma once
+
+#include <optional>
+
+/// The row after row in a list of count rows; none at the end of the list.
+std::optional<int> rowAfter(int row, int count);
+
+/// Which row startPlayback settles on.
+struct StartRowFacts
+{
+    int askedRow = -1;        ///< below 0: keep or choose
+    bool sessionRuns = false; ///< then the row is kept
+    int selectedRow = -1;     ///< the list's current row
+    int currentRow = -1;
+    int lastPlayedRow = -1; ///< of the stored last-played key
+    int count = 0;          ///< above 0
+};
+int settleStartRow(const StartRowFacts &facts);
+
+/// A base row plus a step, or none outside the list.
+std::optional<int> steppedRow(int baseRow, int delta, int count);

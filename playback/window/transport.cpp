@@ -1,0 +1,176 @@
+// What the listener does to playback: start, pause, stop, step.
+#include "ui/window/player_gui_window.h"
+
+#include "engine/device_reset.h"
+#include "playback/playlist_widget.h"
+#include "playback/row_order.h"
+#include "playback/track_start.h"
+#include "ui/display_panel.h"
+#include "ui/dock_bar.h"
+
+#include <QFileInfo>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int leftoverWaitMs = 2000;
+constexpr int leftoverTerminateWaitMs = 1000;
+constexpr int stopWaitMs = 5000;
+constexpr int stopKillAfterMs = 1500;
+constexpr int terminateWaitMs = 1000;
+constexpr int killWaitMs = 2000;
+
+} // namespace
+
+void PlayerGuiWindow::startPlayback(int row)
+{
+    if (m_ui.playlist->count() == 0) {
+        logLine(tr("错误: 请先添加音频文件"), true);
+        return;
+    }
+    if (!closeLeftoverSession())
+        return;
+    m_start.currentRow = settleStartRow({row, sessionRuns(), m_ui.playlist->currentRow(), m_start.currentRow,
+                                         lastPlayedRow(), m_ui.playlist->count()});
+    m_start.userStopped = false;
+    playCurrent();
+}
+
+bool PlayerGuiWindow::closeLeftoverSession()
+{
+    // A live session is told to load the next track or is rebuilt by playCurrent. One that is on its way out
+    // has to be gone first: it still holds the device.
+    const bool leavesSoon = !m_start.sessionLive || m_start.userStopped || m_start.sessionClosing;
+    if (!sessionRuns() || !leavesSoon)
+        return true;
+    logLine(tr("旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）"), true);
+    m_link.session->close();
+    if (!m_link.session->waitFinished(leftoverWaitMs)) {
+        m_link.session->terminate();
+        m_link.session->waitFinished(leftoverTerminateWaitMs);
+    }
+    if (!sessionRuns())
+        return true;
+    logLine(tr("旧会话仍未退出，无法开始新的播放 —— 请等它收尾（或退出重开；自动化/排障可设 "
+               "KELP_GUI_INPROC=0 走子进程）"),
+            true);
+    return false;
+}
+
+void PlayerGuiWindow::stopPlayback()
+{
+    if (!sessionRuns()) {
+        logLine(tr("没有正在运行的播放任务"));
+        return;
+    }
+    logLine(tr("正在停止播放器..."));
+    m_start.userStopped = true;
+    m_start.restartPending = false;
+    m_start.sessionDenoiseTier = -1;
+    setPlayingUi(false);
+    sendCmd(u"stop"_s);
+    const int generation = m_start.playGeneration;
+    const auto stillRuns = [this, generation] {
+        return generation == m_start.playGeneration && sessionRuns();
+    };
+    QTimer::singleShot(stopWaitMs, this, [this, stillRuns] {
+        if (!stillRuns())
+            return;
+        logLine(stopTimeoutText(m_link.session->canBeKilled()), true);
+        m_link.session->terminate();
+        QTimer::singleShot(stopKillAfterMs, this, [this, stillRuns] {
+            if (!stillRuns())
+                return;
+            m_link.session->kill();
+            if (!m_link.session->isInProcess())
+                resetDeviceAfterKill(m_link.playerBin, u"停止时强杀"_s,
+                                     [this](const QString &text, bool isError) { logLine(text, isError); });
+        });
+    });
+    logLine(tr("停止信号已发送"));
+}
+
+void PlayerGuiWindow::killProc(bool quiet)
+{
+    if (!sessionRuns()) {
+        if (!quiet)
+            std::fputs("[gui] killProc: no player process running, exiting\n", stderr);
+        return;
+    }
+    std::fprintf(stderr, "[gui] killProc: sent stop, waiting up to %d ms to finish\n", stopWaitMs);
+    m_start.userStopped = true;
+    sendCmd(u"stop"_s);
+    if (!m_link.session->waitFinished(stopWaitMs)) {
+        logLine(stopTimeoutText(m_link.session->canBeKilled()), true);
+        m_link.session->terminate();
+        if (!m_link.session->waitFinished(terminateWaitMs)) {
+            m_link.session->kill();
+            m_link.session->waitFinished(killWaitMs);
+            logFileOnly(u"关窗时强杀"_s);
+            if (!m_link.session->isInProcess())
+                resetDeviceAfterKill(m_link.playerBin, u"关窗时强杀"_s,
+                                     [this](const QString &text, bool isError) { logLine(text, isError); });
+        }
+    }
+    if (!quiet)
+        logLine(tr("播放已停止"));
+}
+
+void PlayerGuiWindow::togglePause()
+{
+    if (!sessionRuns() || m_start.userStopped) {
+        startPlayback();
+        return;
+    }
+    // A session that has played its list to the end idles: the button starts anew.
+    if (!m_output.sourceInfo && !m_start.paused && m_start.playingRow < 0) {
+        startPlayback();
+        return;
+    }
+    m_start.paused = !m_start.paused;
+    sendCmd(m_start.paused ? u"pause"_s : u"resume"_s);
+    refreshStartButton();
+}
+
+void PlayerGuiWindow::setPlayingUi(bool on)
+{
+    m_ui.dock->stop->setEnabled(on);
+    if (!on)
+        m_start.paused = false;
+    refreshStartButton();
+    refreshNavButtons();
+}
+
+void PlayerGuiWindow::refreshStartButton()
+{
+    const bool plays = m_ui.dock->stop->isEnabled();
+    if (!plays) {
+        m_ui.dock->showStartAs(false, tr("播放"));
+        m_ui.display->showStatus(u"■ STOP"_s, false);
+    } else if (m_start.paused) {
+        m_ui.dock->showStartAs(false, tr("继续"));
+        m_ui.display->showStatus(u"‖ PAUSE"_s, true);
+    } else {
+        m_ui.dock->showStartAs(true, tr("暂停"));
+        m_ui.display->showStatus(u"▶ PLAY"_s, true);
+    }
+}
+
+void PlayerGuiWindow::debugNext()
+{
+    stepRow(1);
+}
+
+void PlayerGuiWindow::debugStop()
+{
+    stopPlayback();
+}
+
+void PlayerGuiWindow::debugAutoplay(const QString &path, const QString &device)
+{
+    if (!device.isEmpty())
+        selectDevice(m_ui.device, device);
+    startPlayback(appendFile(QFileInfo(path).absoluteFilePath()));
+}

@@ -1,0 +1,134 @@
+// A thousand track changes in one in-process session and two hundred rebuilt sessions, with the real window,
+// the real engine and its clocked null device: memory, descriptors and threads stay where they were.
+//
+// usage: soak_test FIRST_TRACK SECOND_TRACK   (of the same format, minutes long, so that none ends by itself)
+
+#include "ui/window/player_gui_window.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <thread>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int trackChanges = 1000;
+constexpr int sessionRebuilds = 200;
+constexpr int warmUp = 100;
+constexpr int patienceMs = 20000;
+
+struct Footprint
+{
+    int descriptors = 0;
+    int threads = 0;
+    double residentMiB = 0;
+};
+
+int entries(const QString &folder)
+{
+    return static_cast<int>(
+        QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
+}
+
+Footprint footprint()
+{
+    Footprint now{entries(u"/proc/self/fd"_s), entries(u"/proc/self/task"_s), 0};
+    QFile status(u"/proc/self/status"_s);
+    if (status.open(QIODevice::ReadOnly)) {
+        for (const QByteArray &line : status.readAll().split('\n')) {
+            if (line.startsWith("VmRSS:"))
+                now.residentMiB = line.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+        }
+    }
+    return now;
+}
+
+/// Runs the event loop until the condition holds; ends the test when it does not within the patience.
+void waitFor(const char *what, const std::function<bool()> &condition)
+{
+    const QDeadlineTimer deadline(patienceMs);
+    while (!condition()) {
+        if (deadline.hasExpired()) {
+            std::fprintf(stderr, "%s did not happen within %d s\n", what, patienceMs / 1000);
+            std::exit(1);
+        }
+        QCoreApplication::processEvents();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    }
+}
+
+bool same(const char *what, const Footprint &before, const Footprint &after, double growthMiB)
+{
+    std::printf("%s: descriptors %d -> %d, threads %d -> %d, resident %.1f -> %.1f MiB\n", what,
+                before.descriptors, after.descriptors, before.threads, after.threads, before.residentMiB,
+                after.residentMiB);
+    return after.descriptors <= before.descriptors && after.threads <= before.threads &&
+           after.residentMiB <= before.residentMiB + growthMiB;
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    if (argc != 3) {
+        std::fprintf(stderr, "usage: %s FIRST_TRACK SECOND_TRACK\n", argv[0]);
+        return 2;
+    }
+    QApplication application(argc, argv);
+    QTemporaryDir settings;
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, settings.path());
+    QSettings::setPath(QSettings::IniFormat, QSettings::SystemScope, settings.path());
+    QCoreApplication::setOrganizationName(u"KELP"_s);
+    QCoreApplication::setApplicationName(u"KelpPlayer"_s);
+    qputenv("KELP_GUI_INPROC", "1");
+
+    PlayerGuiWindow window({.asksBeforeClosing = false});
+    window.show();
+    window.widgets().device->addItem(u"null"_s, u"null"_s);
+    window.widgets().device->setCurrentIndex(window.widgets().device->count() - 1);
+    window.appendFile(QString::fromLocal8Bit(argv[1]));
+    window.appendFile(QString::fromLocal8Bit(argv[2]));
+
+    // A track has announced itself when its first frame was heard; the next choice comes at once behind it.
+    const auto change = [&](int number) {
+        window.jumpToRow(number % 2);
+        waitFor("the track's start", [&] { return window.trackAnnounced(); });
+    };
+    for (int i = 0; i < warmUp; ++i)
+        change(i);
+    Footprint before = footprint();
+    for (int i = 0; i < trackChanges; ++i)
+        change(i);
+    // What the log pane holds grows with its lines up to its bound; a megabyte a hundred changes would be a
+    // leak.
+    bool good = same("1000 track changes in one session", before, footprint(), 6.0);
+
+    const auto rebuild = [&](int number) {
+        window.stopPlayback();
+        waitFor("the session's end", [&] { return !window.sessionRuns(); });
+        QCoreApplication::processEvents();
+        window.jumpToRow(number % 2);
+        waitFor("the track's start", [&] { return window.trackAnnounced(); });
+    };
+    for (int i = 0; i < warmUp / 5; ++i)
+        rebuild(i);
+    before = footprint();
+    for (int i = 0; i < sessionRebuilds; ++i)
+        rebuild(i);
+    good = same("200 rebuilt sessions", before, footprint(), 6.0) && good;
+
+    window.killProc(true);
+    return good ? 0 : 1;
+}

@@ -1,0 +1,39 @@
+// The end of the window.
+#include "ui/window/player_gui_window.h"
+
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
+
+#include <QCloseEvent>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+bool PlayerGuiWindow::confirmClose()
+{
+    if (!m_options.asksBeforeClosing || !sessionRuns())
+        return true;
+    const auto answer = QMessageBox::question(this, tr("播放进行中"),
+                                              tr("播放尚未结束, 关闭窗口将停止播放。\n\n确定要退出吗?"),
+                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
+    return answer == QMessageBox::Yes;
+}
+
+void PlayerGuiWindow::closeEvent(QCloseEvent *event)
+{
+    // A quit that is under way asks each window once more.
+    if (m_closing) {
+        event->accept();
+        return;
+    }
+    logLine(u"[gui] closeEvent: 播放中=%1"_s.arg(sessionRuns() ? 1 : 0));
+    if (!confirmClose()) {
+        event->ignore();
+        return;
+    }
+    m_closing = true;
+    saveParams();
+    writeUserSetting(settings::geometry, saveGeometry());
+    killProc(false);
+    event->accept();
+}

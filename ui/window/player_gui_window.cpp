@@ -1,0 +1,51 @@
+#include "ui/window/player_gui_window.h"
+
+#include "ui/style_sheet.h"
+
+#include <QStatusBar>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QSize initialSize(1280, 860);
+constexpr QSize leastSize(1000, 640);
+
+} // namespace
+
+PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
+    : QMainWindow(parent)
+    , m_options(options)
+{
+    // The engine lists its devices while the widgets are built; populateDevicesBlocking waits for the rest.
+    beginDeviceListing();
+    setWindowTitle(u"Kelp Player"_s);
+    setFont(interfaceFont());
+    setStyleSheet(darkStyleSheet());
+    buildLayout();
+    statusBar()->hide();
+    setMinimumSize(leastSize);
+    resize(initialSize);
+    connectControls();
+    logLine(tr("=== KelpPlayer — DSD 音频播放器 ==="));
+    logLine(
+        tr("格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE"));
+    logLine(tr("模式: standard / differential / btl / crossover / pairs"));
+    loadParams();
+    populateDevicesBlocking();
+    restorePlaylist();
+    setPlayingUi(false);
+}
+
+PlayerGuiWindow::~PlayerGuiWindow()
+{
+    killProc(true);
+    // The session's threads call sinks that post to this window: it ends while the window is whole.
+    m_link.session.reset();
+}
+
+void PlayerGuiWindow::startUpdateCheck(bool) {}
+
+void PlayerGuiWindow::restorePlaylist() {}
+
+void PlayerGuiWindow::runRigReport() {}

@@ -1,0 +1,197 @@
+/// \file
+/// The main window: the one object that every subsystem meets in.
+#pragma once
+
+#include "app/log_state.h"
+#include "engine/command_line.h"
+#include "engine/link_state.h"
+#include "engine/output_state.h"
+#include "output/device_state.h"
+#include "playback/playback_state.h"
+#include "ui/window/window_options.h"
+#include "ui/window/window_widgets.h"
+
+#include <QMainWindow>
+#include <exception>
+
+class QSettings;
+struct SessionEndVerdict;
+
+/// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
+/// folder `window` of the subsystem that the topic belongs to; each gathers facts, asks that subsystem's
+/// logic what to do, and does it. GUI thread, except lineMailbox() and what it says of itself.
+class PlayerGuiWindow final : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit PlayerGuiWindow(const WindowOptions &options = {}, QWidget *parent = nullptr);
+    ~PlayerGuiWindow() override;
+
+    // ── log (app/window) ──
+    void logLine(const QString &text, bool isError = false);
+    /// For what is worth keeping and not worth showing.
+    void logFileOnly(const QString &text);
+    /// Names what the GUI thread is doing; an empty text clears the name. The former name comes back.
+    QString markStage(const QString &label);
+    /// Called in a catch block with the exception, or null for one of a foreign type.
+    void crashGuard(const QString &functionName, const std::exception *exception);
+
+    // ── settings (app/window) ──
+    void loadParams();
+    void saveParams();
+    void restoreCombo(QSettings &store, QLatin1StringView key, QComboBox *combo);
+    void restoreComboText(const QString &stored, QComboBox *combo);
+    void saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo);
+
+    // ── the link to the engine (engine/window) ──
+    void locateEngine();
+    bool isInProcessPreferred() const;
+    /// Puts a fresh session in the place of the present one.
+    void ensureSession();
+    void checkControlClosure();
+    bool sendCmd(const QString &line);
+    bool sessionRuns() const;
+    void onEngineLine(const QString &line, bool isStderr);
+
+    // ── playback (playback/window) ──
+    void startPlayback(int row = -1);
+    void playCurrent();
+    void stopPlayback();
+    void killProc(bool quiet);
+    void togglePause();
+    bool moveRow(int from, int to);
+    void stepRow(int delta);
+    /// Appends one plain file; the row's number.
+    int appendFile(const QString &path);
+
+    // ── devices (output/window) ──
+    void populateDevices();
+    void populateDevicesBlocking();
+    QString currentDeviceName() const;
+
+    // ── named places that later subsystems fill ──
+    void startUpdateCheck(bool manual);
+    void restorePlaylist();
+    void runRigReport();
+
+    // ── what hooks and the self-check ask ──
+    bool trackAnnounced() const { return m_output.sourceInfo.has_value(); }
+    const TrackStartState &trackStart() const { return m_start; }
+    const WindowWidgets &widgets() const { return m_ui; }
+    /// Rows that could not be restored.
+    int skippedAtRestore() const { return m_start.skippedAtRestore; }
+    int lastPlayedRow() const;
+    /// Called once, when the window has been shown.
+    void noteShown();
+
+public Q_SLOTS:
+    void debugAutoplay(const QString &path, const QString &device);
+    void debugNext();
+    void debugStop();
+    void jumpToRow(int row);
+    /// What has to be settled when the application is about to quit.
+    void shutdown();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+
+private:
+    friend struct WindowInspector; // the tests' view of the state below
+
+    // ── ui/window ──
+    void buildLayout();
+    QWidget *buildTitleLine();
+    QWidget *buildPlaylistPanel();
+    QWidget *buildCentre();
+    QWidget *buildDevicePanel();
+    QWidget *buildStatusLine();
+    void orderTabs();
+    void connectControls();
+    void showMessage(const QString &text);
+    bool confirmClose();
+
+    // ── app/window ──
+    void flushLog();
+    void reportStartupMetrics();
+
+    // ── engine/window ──
+    void installSinks();
+    void startSessionTimers();
+    void addStallReporter();
+    SessionOptions sessionOptions();
+    EngineArgsInput engineArgsInput() const;
+    void tellNotices(const QList<EngineArgsNotice> &notices);
+    void prepareSessionLog();
+    void startNoAudioTimer();
+    void writeHostCopy(const QString &line);
+    // The steps of onEngineLine in their order; a true return ends the line.
+    bool collectChain(const QString &text);
+    bool countTelemetry(const QString &text);
+    bool warnLine(const QString &text);
+    bool scanLine(const QString &text);
+    bool sourceLine(const QString &text);
+    bool latencyLine(const QString &text);
+    bool progressLine(const QString &text);
+    bool segmentLine(const QString &text);
+    bool doneLine(const QString &text);
+    bool percentLine(const QString &text);
+    bool plainLine(const QString &text);
+
+    // ── playback/window ──
+    void playCurrentUnguarded();
+    void logElapsed(const QString &stage, qint64 elapsedMs);
+    bool skipMissingFiles();
+    bool findEngine();
+    void closeForRebuild();
+    bool startSession(const struct TrackStartPlan &plan, const QStringList &args, const SessionShape &wanted);
+    void logStart(const struct TrackStartPlan &plan, const PlaylistEntry &entry, const QStringList &args);
+    void sendLoadLine(const struct TrackStartPlan &plan);
+    void resendSessionDifferences();
+    struct TrackStartFacts trackStartFacts(const PlaylistEntry &entry) const;
+    SessionShape wantedShape() const;
+    void setPlayingUi(bool on);
+    void showTrackOf(int row);
+    void refreshStartButton();
+    void refreshNavButtons();
+    void resetTrackState();
+    bool closeLeftoverSession();
+    void setLastPlayed(const PlaylistEntry &entry);
+    int baseRow() const;
+
+    void onEngineDone(int exitCode, bool crashed, int startIndex);
+    bool retryWithoutExclusive();
+    void onDoneLine();
+    void trackFinished();
+    bool advanceRow();
+    int peekNextRow() const;
+    QString orderText() const;
+    void noAudioWatchdog();
+    void checkPreload();
+    void autoAdvanceTaken();
+    void onProgress(double percent, double positionSec, double totalSec);
+    void updateProgress(double percent, double positionSec, double totalSec);
+    void segmentChanged(int number);
+    void commitPlayStat();
+
+    // ── output/window ──
+    void beginDeviceListing();
+    void applyDeviceList(const DeviceListing &listing);
+    void selectDevice(QComboBox *combo, const QString &id);
+    void applyDeviceProfile();
+    void noteDeviceFact(const QString &text);
+    bool effectsAudible() const;
+
+    const WindowOptions m_options;
+    WindowWidgets m_ui;
+    LogState m_log;
+    EngineLinkState m_link;
+    EngineOutputState m_output;
+    TrackStartState m_start;
+    PreloadState m_preload;
+    ProgressState m_progress;
+    DeviceState m_devices;
+    bool m_pcmFilterExplicit = false; ///< the user has taken a decode filter by hand
+    bool m_volumeTouched = false;     ///< the user has moved the volume since the program started
+    bool m_closing = false;           ///< killProc has run on the way out
+};
