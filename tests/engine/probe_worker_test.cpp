@@ -4,11 +4,13 @@
 #include <QEventLoop>
 #include <QStringList>
 #include <QTest>
+#include <QTimer>
 #include <atomic>
 #include <condition_variable>
 #include <gtest/gtest.h>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 
@@ -201,6 +203,26 @@ TEST(ProbeWorker, AHangingProbeIsLeftToItself)
     gate->open();
     EXPECT_TRUE(waitUntil([&] { return ended->load(); }));
     EXPECT_FALSE(delivered);
+}
+
+TEST(ProbeWorker, TheEventLoopRunsOnWhileAProbeHangs)
+{
+    ASSERT_TRUE(qputenv("KELP_GUI_PROBE_HANG", "1"));
+    ProbeWorker worker;
+    std::optional<PlayerProbeResult> result;
+    int ticks = 0;
+    QTimer timer;
+    QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    timer.start(20);
+    worker.run([] { return runEngineProbe(u"/nowhere"_s, {u"-list"_s}, 5000, {}); }, &worker,
+               [&](const PlayerProbeResult &answer) { result = answer; });
+    EXPECT_TRUE(waitUntil([&] { return result.has_value(); }));
+    qunsetenv("KELP_GUI_PROBE_HANG");
+    ASSERT_TRUE(result);
+    EXPECT_EQ(result->rc, -1000);
+    EXPECT_EQ(result->text, u"[probe] timed out after 1200 ms (KELP_GUI_PROBE_HANG self-test) -- killed"_s);
+    // The time-out lasts for sixty ticks; a loop that waits for the probe has one or none.
+    EXPECT_GT(ticks, 10);
 }
 
 TEST(ProbeWorker, AnUnusedWorkerEndsAtOnce)
