@@ -48,7 +48,7 @@ BENCHMARK(mailbox)->Name("mailbox/put LVL");
 
 void progress(benchmark::State &state)
 {
-    ProgressState progressState;
+    TrackProgressState progressState;
     ProgressFacts facts{50., 120., 240., 3, 240., 1.25, true};
     for (auto _ : state) {
         facts.positionSec += 0.2;

@@ -79,7 +79,7 @@ QString speedRatioText(double ratio)
     return QString::number(ratio, 'f', oneDecimal ? 1 : 2);
 }
 
-ProgressDisplay updateProgress(ProgressState &state, const ProgressFacts &facts)
+ProgressDisplay updateProgress(TrackProgressState &state, const ProgressFacts &facts)
 {
     ProgressDisplay display;
     const double percent = std::clamp(facts.percent, 0., 100.);
@@ -104,7 +104,7 @@ ProgressDisplay updateProgress(ProgressState &state, const ProgressFacts &facts)
     return display;
 }
 
-ScanDisplay updateScan(ProgressState &state, const ScanLine &scan)
+ScanDisplay updateScan(TrackProgressState &state, const ScanLine &scan)
 {
     ScanDisplay display;
     const double percent = std::clamp(scan.percent, 0., 100.);

@@ -10,7 +10,7 @@
 /// Full width of the progress bar: hundredths of a percent.
 inline constexpr int progressBarMaximum = 10000;
 
-struct ProgressState
+struct TrackProgressState
 {
     double lastPosSec = 0.;
     int lastPosRow = -1;         ///< the row that lastPosSec belongs to
@@ -69,7 +69,7 @@ struct ProgressDisplay
 };
 
 /// Takes a report into the state and says what to show.
-ProgressDisplay updateProgress(ProgressState &state, const ProgressFacts &facts);
+ProgressDisplay updateProgress(TrackProgressState &state, const ProgressFacts &facts);
 
 /// What is shown while a source is read through before it sounds.
 struct ScanDisplay
@@ -78,7 +78,7 @@ struct ScanDisplay
     QString text;     ///< for the position label and the status bar
     QString logText;  ///< empty: nothing to log
 };
-ScanDisplay updateScan(ProgressState &state, const ScanLine &scan);
+ScanDisplay updateScan(TrackProgressState &state, const ScanLine &scan);
 
 /// "3:07". Minutes are not folded into hours; below 0 counts as 0.
 QString clockText(double sec);

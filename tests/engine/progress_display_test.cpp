@@ -19,7 +19,7 @@ ProgressFacts at(double percent, double positionSec, double totalSec)
 
 TEST(ProgressDisplay, BarAndStateFollowThePercent)
 {
-    ProgressState state;
+    TrackProgressState state;
     const ProgressDisplay display = updateProgress(state, at(37.506, 90., 240.));
     EXPECT_EQ(display.barValue, 3751);
     EXPECT_DOUBLE_EQ(state.progressPercent, 37.506);
@@ -32,7 +32,7 @@ TEST(ProgressDisplay, BarAndStateFollowThePercent)
 
 TEST(ProgressDisplay, PercentIsClamped)
 {
-    ProgressState state;
+    TrackProgressState state;
     EXPECT_EQ(updateProgress(state, at(130., 1., 2.)).barValue, progressBarMaximum);
     EXPECT_EQ(state.progressPercent, 100.);
     EXPECT_EQ(updateProgress(state, at(-5., 1., 2.)).barValue, 0);
@@ -41,7 +41,7 @@ TEST(ProgressDisplay, PercentIsClamped)
 
 TEST(ProgressDisplay, AudioHasStartedOnceSomethingIsAboveZero)
 {
-    ProgressState state;
+    TrackProgressState state;
     updateProgress(state, at(0., 0., 240.));
     EXPECT_FALSE(state.audioHasStarted);
     updateProgress(state, at(0., 0.1, -1.));
@@ -54,7 +54,7 @@ TEST(ProgressDisplay, AudioHasStartedOnceSomethingIsAboveZero)
 
 TEST(ProgressDisplay, MetricsAreStartedByTheFirstUpdateOnly)
 {
-    ProgressState state;
+    TrackProgressState state;
     EXPECT_TRUE(updateProgress(state, at(0., 0., 240.)).startMetricsTimer);
     EXPECT_FALSE(updateProgress(state, at(0., 1., 240.)).startMetricsTimer);
     state.resetForTrack();
@@ -63,7 +63,7 @@ TEST(ProgressDisplay, MetricsAreStartedByTheFirstUpdateOnly)
 
 TEST(ProgressDisplay, PositionOfMinusOneLeavesLabelAndPositionAlone)
 {
-    ProgressState state;
+    TrackProgressState state;
     updateProgress(state, at(10., 24., 240.));
     const ProgressDisplay display = updateProgress(state, at(37.5, -1., 0.));
     EXPECT_FALSE(display.position);
@@ -76,7 +76,7 @@ TEST(ProgressDisplay, PositionOfMinusOneLeavesLabelAndPositionAlone)
 
 TEST(ProgressDisplay, ANewTrackKeepsThePositionForARestartOfItsRow)
 {
-    ProgressState state;
+    TrackProgressState state;
     updateProgress(state, at(50., 120., 240.));
     state.resetForTrack();
     EXPECT_EQ(state.progressPercent, 0.);
@@ -87,7 +87,7 @@ TEST(ProgressDisplay, ANewTrackKeepsThePositionForARestartOfItsRow)
 
 TEST(ProgressDisplay, PositionText)
 {
-    ProgressState state;
+    TrackProgressState state;
     EXPECT_EQ(updateProgress(state, at(1., 65.9, 3725.)).position, (PositionDisplay{u"1:05 / 62:05"_s, {}}));
     EXPECT_EQ(updateProgress(state, at(1., 5., 0.5)).position->text, u"0:05"_s);
     EXPECT_EQ(updateProgress(state, at(1., 5., -1.)).position->text, u"0:05"_s);
@@ -95,7 +95,7 @@ TEST(ProgressDisplay, PositionText)
 
 TEST(ProgressDisplay, ItemsDurationStandsInForTheTotal)
 {
-    ProgressState state;
+    TrackProgressState state;
     ProgressFacts facts = at(1., 5., -1.);
     facts.itemDurationSec = 100.;
     EXPECT_EQ(updateProgress(state, facts).position->text, u"0:05 / 1:40"_s);
@@ -105,7 +105,7 @@ TEST(ProgressDisplay, ItemsDurationStandsInForTheTotal)
 
 TEST(ProgressDisplay, OtherSpeedsAreNamed)
 {
-    ProgressState state;
+    TrackProgressState state;
     ProgressFacts facts = at(1., 5., 120.);
     facts.speedRatio = 1.5;
     auto position = updateProgress(state, facts).position;
@@ -120,7 +120,7 @@ TEST(ProgressDisplay, OtherSpeedsAreNamed)
 
 TEST(ProgressDisplay, SpeedWithinAMillionthIsNormal)
 {
-    ProgressState state;
+    TrackProgressState state;
     ProgressFacts facts = at(1., 5., 0.);
     facts.speedRatio = 1.0000005;
     EXPECT_EQ(updateProgress(state, facts).position, (PositionDisplay{u"0:05"_s, {}}));
@@ -141,7 +141,7 @@ TEST(ProgressDisplay, SpeedRatioText)
 
 TEST(ProgressDisplay, EachTenIsLoggedOnceAndAJumpLogsTheHighest)
 {
-    ProgressState state;
+    TrackProgressState state;
     EXPECT_EQ(updateProgress(state, at(9.99, 1., 10.)).logText, QString());
     EXPECT_EQ(updateProgress(state, at(10., 1., 10.)).logText, u"进度 10%"_s);
     EXPECT_EQ(updateProgress(state, at(19., 1., 10.)).logText, QString());
@@ -155,7 +155,7 @@ TEST(ProgressDisplay, EachTenIsLoggedOnceAndAJumpLogsTheHighest)
 
 TEST(ProgressDisplay, ResumePositionIsSavedEveryFiveSeconds)
 {
-    ProgressState state;
+    TrackProgressState state;
     state.resetForTrack(60.);
     ProgressFacts facts = at(1., 64.9, 240.);
     facts.resumeTracked = true;
@@ -180,7 +180,7 @@ TEST(ProgressDisplay, ClockSurvivesAnyNumber)
 
 TEST(ScanDisplay, TextWithAndWithoutATotal)
 {
-    ProgressState state;
+    TrackProgressState state;
     ScanDisplay display = updateScan(state, {9.9, 24., 240.});
     EXPECT_EQ(display.barValue, 990);
     EXPECT_EQ(display.text, u"正在扫描（解码）音源… 9%  0:24 / 4:00"_s);
@@ -191,7 +191,7 @@ TEST(ScanDisplay, TextWithAndWithoutATotal)
 
 TEST(ScanDisplay, PercentIsClampedAndTensAreLoggedOnce)
 {
-    ProgressState state;
+    TrackProgressState state;
     EXPECT_EQ(updateScan(state, {-4., 0., 0.}).barValue, 0);
     EXPECT_TRUE(updateScan(state, {5., 0., 0.}).logText.isEmpty());
     EXPECT_EQ(updateScan(state, {31., 0., 0.}).logText, u"正在扫描（解码）音源… 31%"_s);
@@ -203,7 +203,7 @@ TEST(ScanDisplay, PercentIsClampedAndTensAreLoggedOnce)
 
 TEST(ScanDisplay, ASecondScanLogsAgain)
 {
-    ProgressState state;
+    TrackProgressState state;
     updateScan(state, {100., 0., 0.});
     EXPECT_TRUE(updateScan(state, {1., 0., 0.}).logText.isEmpty());
     EXPECT_FALSE(updateScan(state, {10., 0., 0.}).logText.isEmpty());
