@@ -88,6 +88,8 @@ void WindowTest::addFiles(int count)
 int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
+    // Also where CTest only asks for the names of the tests, and outside of CTest.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }
