@@ -120,8 +120,8 @@ void PlayerGuiWindow::autoAdvanceTaken()
         return;
     commitPlayStat();
     // A row number alone proves nothing: another file may have moved into its place.
-    if (!advanceRow() || m_start.currentRow != taken.row
-        || m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
+    if (!advanceRow() || m_start.currentRow != taken.row ||
+        m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
         const int byFile = m_ui.playlist->rowOfPath(taken.path);
         m_start.currentRow = byFile >= 0 ? byFile : taken.row;
         logLine(
