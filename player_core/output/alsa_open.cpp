@@ -48,17 +48,9 @@ std::string openReason(int error, const std::string &said)
     return alsaErrorText(error) + (said.empty() ? "" : " (" + said + ")");
 }
 
-/// False when another program keeps the card.
-bool reserve(Candidate &candidate, OpenAttempt &attempt)
+/// Reserves a card; false when another program keeps it.
+bool reserveCard(Candidate &candidate, int card, OpenAttempt &attempt)
 {
-    const bool named = parseHardwareName(candidate.name).has_value();
-    const int card = cardOf(candidate.name);
-    if (named && card < 0) {
-        attempt.refuse(OpenFailure::missing, "there is no such sound card");
-        return false;
-    }
-    if (!named)
-        return true;
     DeviceReservation::Outcome reservation = DeviceReservation::acquire(card, candidate.name);
     if (reservation.refused) {
         attempt.refuse(OpenFailure::busy, "the device is busy: " + reservation.note);
@@ -69,9 +61,21 @@ bool reserve(Candidate &candidate, OpenAttempt &attempt)
     return true;
 }
 
+/// Reserves the card that the name speaks of, if it does; false when it cannot be opened.
+bool reserveByName(Candidate &candidate, OpenAttempt &attempt)
+{
+    if (!parseHardwareName(candidate.name))
+        return true;
+    const int card = cardOf(candidate.name);
+    if (card >= 0)
+        return reserveCard(candidate, card, attempt);
+    attempt.refuse(OpenFailure::missing, "there is no such sound card");
+    return false;
+}
+
 bool openCandidate(Candidate &candidate, OpenAttempt &attempt)
 {
-    if (!reserve(candidate, attempt))
+    if (!reserveByName(candidate, attempt))
         return false;
     const AlsaMessages messages;
     snd_pcm_t *raw = nullptr;
@@ -83,7 +87,9 @@ bool openCandidate(Candidate &candidate, OpenAttempt &attempt)
     candidate.pcm.reset(raw);
     candidate.chain = chainOf(raw);
     candidate.place = candidate.chain.hardware ? placeOf(raw) : std::nullopt;
-    return true;
+    // Of a PCM with a name of its own it is known only now that it ends at a card.
+    const bool unasked = candidate.place && !parseHardwareName(candidate.name);
+    return !unasked || reserveCard(candidate, candidate.place->card, attempt);
 }
 
 /// True when the set-up PCM really is what the wish needs, and not only by name.

@@ -96,7 +96,8 @@ public:
     /// Throws away what was handed over and not yet heard; writing may go on at once. Audio thread.
     virtual void drop() = 0;
 
-    /// Makes a waiting write() or drain() return soon. Any thread.
+    /// Makes a waiting write() or drain() return soon; when none waits, the next one returns at once. Any
+    /// thread.
     virtual void interrupt() = 0;
 
     /// Frames were late this many times since it was opened. Any thread.

@@ -44,8 +44,8 @@ struct AudioEvent
 {
     AudioEventKind kind;
     uint32_t serial = 0; ///< of the track, or the deck's number
-    uint64_t at = 0;    ///< frames handed over before the event
-    int64_t frames = 0; ///< trackStarted, chainEnded: frames of the track that was left
+    uint64_t at = 0;     ///< frames handed over before the event
+    int64_t frames = 0;  ///< trackStarted, chainEnded: frames of the track that was left
 };
 
 struct AudioSetup

@@ -123,7 +123,7 @@ private:
     bool startUsed_ = false;  ///< `-start` has been applied
     uint32_t lastSerial_ = 0; ///< of the track that was asked for last
     uint32_t heardSerial_ = 0;
-    uint32_t firstWanted_ = 0;  ///< the listener has left all tracks before this one
+    uint32_t firstWanted_ = 0; ///< the listener has left all tracks before this one
     uint32_t decksMade_ = 0;
     uint32_t openings_ = 0;
     int volume_;

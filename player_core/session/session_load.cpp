@@ -76,11 +76,11 @@ LoadFacts Session::loadFacts(const LoadRequest &request)
     LoadFacts facts;
     facts.playing = playing_ && !parked_;
     facts.paused = paused_;
-    facts.preloaded = deferred_.has_value() || lastSerial_ != heardSerial_;
     facts.hasPosition = request.hasPosition;
     facts.crossfadeSec = options_.crossfadeSec;
     facts.gapless = options_.gapless;
     const HeardPosition heard = telemetry_.heard();
+    facts.preloaded = deferred_.has_value() || lastSerial_ != heard.serial;
     facts.positionSec = heard.seconds;
     if (const auto info = book_.find(heard.serial))
         facts.totalSec = info->totalSec;

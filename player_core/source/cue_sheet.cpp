@@ -1,5 +1,6 @@
 #include "player_core/source/cue_sheet.h"
 
+#include "player_core/source/cue_line.h"
 #include "player_core/source/text_encoding.h"
 
 #include <algorithm>
@@ -14,11 +15,6 @@ constexpr size_t maxTracks = 1000;
 constexpr size_t maxTextBytes = 4096;
 constexpr int maxMinutes = 100000;
 
-bool isBlank(char letter)
-{
-    return letter == ' ' || letter == '\t';
-}
-
 std::string upper(std::string_view word)
 {
     std::string out(word);
@@ -26,88 +22,6 @@ std::string upper(std::string_view word)
         letter = static_cast<char>(std::toupper(static_cast<unsigned char>(letter)));
     return out;
 }
-
-/// A line that is taken apart from the left.
-class Line
-{
-public:
-    explicit Line(std::string_view text)
-        : left_(text)
-    {
-        skipBlanks();
-    }
-
-    /// The next word, or what stands in quotes; "" at the end.
-    std::string_view word()
-    {
-        if (left_.empty())
-            return {};
-        if (left_[0] == '"')
-            return quoted(left_.find('"', 1));
-        size_t size = 0;
-        while (size < left_.size() && !isBlank(left_[size]))
-            ++size;
-        return take(size);
-    }
-
-    /// All that is left as one text. The closing quote is the last one, since titles hold quotes.
-    std::string_view rest()
-    {
-        if (!left_.empty() && left_[0] == '"')
-            return quoted(left_.rfind('"'));
-        std::string_view text = left_;
-        while (!text.empty() && isBlank(text.back()))
-            text.remove_suffix(1);
-        left_ = {};
-        return text;
-    }
-
-    /// A file's name and, behind it, its type: the name may hold blanks, quoted or not.
-    std::pair<std::string_view, std::string_view> nameAndType()
-    {
-        if (!left_.empty() && left_[0] == '"') {
-            const std::string_view name = quoted(left_.rfind('"'));
-            return {name, word()};
-        }
-        std::string_view text = rest();
-        const size_t blank = text.find_last_of(" \t");
-        if (blank == std::string_view::npos)
-            return {text, {}};
-        const std::string_view type = text.substr(blank + 1);
-        text = text.substr(0, blank);
-        while (!text.empty() && isBlank(text.back()))
-            text.remove_suffix(1);
-        return {text, type};
-    }
-
-private:
-    std::string_view take(size_t size)
-    {
-        const std::string_view text = left_.substr(0, size);
-        left_.remove_prefix(std::min(size, left_.size()));
-        skipBlanks();
-        return text;
-    }
-    std::string_view quoted(size_t end)
-    {
-        left_.remove_prefix(1);
-        // A quote that is never closed ends with the line.
-        const size_t size = end == std::string_view::npos || end == 0 ? left_.size() : end - 1;
-        const std::string_view text = take(std::min(size, left_.size()));
-        if (!left_.empty() && left_[0] == '"') {
-            left_.remove_prefix(1);
-            skipBlanks();
-        }
-        return text;
-    }
-    void skipBlanks()
-    {
-        while (!left_.empty() && isBlank(left_[0]))
-            left_.remove_prefix(1);
-    }
-
-    std::string_view left_;
-};
 
 std::optional<int> number(std::string_view word, int highest)
 {
@@ -149,7 +63,7 @@ public:
 
     void line(std::string_view content)
     {
-        Line words(content);
+        CueLine words(content);
         const std::string command = upper(words.word());
         const auto found = std::find_if(commands.begin(), commands.end(),
                                         [&](const Command &entry) { return command == entry.word; });
@@ -161,34 +75,34 @@ private:
     struct Command
     {
         std::string_view word;
-        void (Parser::*run)(Line &);
+        void (Parser::*run)(CueLine &);
     };
 
     CueTrack *track() { return sheet.tracks.empty() || dropped_ ? nullptr : &sheet.tracks.back(); }
 
-    void title(Line &words) { (track() ? track()->title : ignoredOr(sheet.title)) = text(words.rest()); }
-    void performer(Line &words)
+    void title(CueLine &words) { (track() ? track()->title : ignoredOr(sheet.title)) = text(words.rest()); }
+    void performer(CueLine &words)
     {
         (track() ? track()->performer : ignoredOr(sheet.performer)) = text(words.rest());
     }
-    void catalog(Line &words) { sheet.catalog = text(words.word()); }
-    void isrc(Line &words)
+    void catalog(CueLine &words) { sheet.catalog = text(words.word()); }
+    void isrc(CueLine &words)
     {
         if (track())
             track()->isrc = text(words.word());
     }
-    void flags(Line &words)
+    void flags(CueLine &words)
     {
         if (track())
             track()->flags = upper(text(words.rest()));
     }
-    void file(Line &words)
+    void file(CueLine &words)
     {
         const auto [name, type] = words.nameAndType();
         if (sheet.files.size() < maxFiles)
             sheet.files.push_back({text(name), text(name), upper(text(type))});
     }
-    void newTrack(Line &words)
+    void newTrack(CueLine &words)
     {
         const auto value = number(words.word(), 9999);
         dropped_ = !value || sheet.files.empty() || sheet.tracks.size() >= maxTracks;
@@ -200,7 +114,7 @@ private:
         next.file = sheet.files.size() - 1;
         sheet.tracks.push_back(next);
     }
-    void index(Line &words)
+    void index(CueLine &words)
     {
         const auto value = number(words.word(), 99);
         const auto time = cueTime(words.word());
@@ -213,12 +127,12 @@ private:
             track()->file = sheet.files.size() - 1;
         }
     }
-    void pregap(Line &words)
+    void pregap(CueLine &words)
     {
         if (const auto time = cueTime(words.word()); time && track())
             track()->pregapFrames = *time;
     }
-    void postgap(Line &words)
+    void postgap(CueLine &words)
     {
         if (const auto time = cueTime(words.word()); time && track())
             track()->postgapFrames = *time;

@@ -8,6 +8,7 @@
 #include "player_core/source/wav_head.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace kelp_core {
 namespace {
@@ -37,6 +38,7 @@ private:
     std::string measure(const SourceRequest &request);
     std::string scanLength(const SourceRequest &request);
     ReadOutcome decodeFrame();
+    ReadOutcome decodeInOrder();
     ReadOutcome feedPacket();
     ReadOutcome failAt(int code);
     ReadOutcome endOrFailure() const;
@@ -54,9 +56,11 @@ private:
     std::unique_ptr<AVCodecContext, DecoderFree> decoder_;
     std::unique_ptr<AVFrame, FrameFree> frame_;
     AvPacketPtr packet_;
-    size_t used_ = 0;                          ///< frames of frame_ that were handed on
-    int64_t position_ = 0;                     ///< the next frame that read() gives
-    bool draining_ = false;                    ///< all packets were sent
+    size_t used_ = 0;       ///< frames of frame_ that were handed on
+    int64_t position_ = 0;  ///< the next frame that read() gives
+    bool draining_ = false; ///< all packets were sent
+    /// Times come from the frames themselves, not from counting them.
+    bool hasFrameNumbers_ = false;
     ReadOutcome over_{ReadStatus::frames, {}}; ///< the end or the failure, once it was met
 };
 
@@ -64,6 +68,7 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
 {
     path_ = path;
     kind_ = kind;
+    hasFrameNumbers_ = std::string_view(kind.demuxer) == "flac";
     frame_.reset(av_frame_alloc());
     packet_.reset(av_packet_alloc());
     if (!frame_ || !packet_)
@@ -230,6 +235,22 @@ ReadOutcome PcmSource::decodeFrame()
     }
 }
 
+/// As decodeFrame, but a frame that does not follow the one before it is damage: FLAC numbers its frames, and
+/// the demuxer passes over damaged ones without a word.
+ReadOutcome PcmSource::decodeInOrder()
+{
+    ReadOutcome outcome = decodeFrame();
+    if (outcome.status != ReadStatus::frames || !hasFrameNumbers_ || frame_->pts == AV_NOPTS_VALUE)
+        return outcome;
+    const int64_t missing = frameOfTime(frame_->pts) - position_;
+    if (missing == 0)
+        return outcome;
+    dropDecoded();
+    return damagedAt(facts_, position_,
+                     missing > 0 ? std::to_string(missing) + " frames are missing"
+                                 : "its frames are out of order");
+}
+
 void PcmSource::dropDecoded()
 {
     av_frame_unref(frame_.get());
@@ -246,7 +267,7 @@ ReadOutcome PcmSource::read(AudioBlock &block, size_t maxFrames)
             break;
         }
         if (decodedLeft() == 0) {
-            if (ReadOutcome outcome = decodeFrame(); outcome.status != ReadStatus::frames) {
+            if (ReadOutcome outcome = decodeInOrder(); outcome.status != ReadStatus::frames) {
                 over_ = outcome;
                 break;
             }
@@ -309,7 +330,7 @@ bool PcmSource::settleAt(int64_t frame)
 {
     while (position_ < frame) {
         if (decodedLeft() == 0) {
-            if (ReadOutcome outcome = decodeFrame(); outcome.status != ReadStatus::frames) {
+            if (ReadOutcome outcome = decodeInOrder(); outcome.status != ReadStatus::frames) {
                 over_ = outcome;
                 return true; // the next read tells what was met on the way
             }

@@ -18,12 +18,13 @@ struct Kind
     const char *word;
     const char *muxer;
     AVCodecID codec;
+    bool takesCover;
 };
 
 constexpr std::array kinds{
-    Kind{"flac", "flac", AV_CODEC_ID_FLAC}, Kind{"m4a", "ipod", AV_CODEC_ID_ALAC},
-    Kind{"wv", "wv", AV_CODEC_ID_WAVPACK},  Kind{"tta", "tta", AV_CODEC_ID_TTA},
-    Kind{"dts", "dts", AV_CODEC_ID_DTS},
+    Kind{"flac", "flac", AV_CODEC_ID_FLAC, true}, Kind{"m4a", "ipod", AV_CODEC_ID_ALAC, true},
+    Kind{"wv", "wv", AV_CODEC_ID_WAVPACK, false}, Kind{"tta", "tta", AV_CODEC_ID_TTA, false},
+    Kind{"dts", "dts", AV_CODEC_ID_DTS, false},
 };
 
 struct FormatClose
@@ -101,7 +102,7 @@ public:
 
 private:
     std::string openCodec(const Kind &kind, const PcmSignal &signal);
-    std::string addCover(const std::vector<uint8_t> &png);
+    void addCover(const std::vector<uint8_t> &png);
     std::string encode(const AVFrame *frame);
 
     FormatPtr format_;
@@ -134,7 +135,7 @@ std::string Packer::openCodec(const Kind &kind, const PcmSignal &signal)
     return {};
 }
 
-std::string Packer::addCover(const std::vector<uint8_t> &png)
+void Packer::addCover(const std::vector<uint8_t> &png)
 {
     AVStream *stream = avformat_new_stream(format_.get(), nullptr);
     stream->codecpar->codec_type = AVMEDIA_TYPE_VIDEO;
@@ -145,7 +146,6 @@ std::string Packer::addCover(const std::vector<uint8_t> &png)
     stream->disposition = AV_DISPOSITION_ATTACHED_PIC;
     av_dict_set(&stream->metadata, "comment", "Cover (front)", 0);
     cover_ = png;
-    return {};
 }
 
 std::string Packer::open(const Kind &kind, const std::string &path, const PcmSignal &signal,
@@ -160,7 +160,7 @@ std::string Packer::open(const Kind &kind, const std::string &path, const PcmSig
         av_dict_set(&format_->metadata, key.c_str(), value.c_str(), 0);
     if (std::string error = openCodec(kind, signal); !error.empty())
         return error;
-    if (!tags.coverPng.empty())
+    if (!tags.coverPng.empty() && kind.takesCover)
         addCover(tags.coverPng);
     if (avio_open(&format_->pb, ("file:" + path).c_str(), AVIO_FLAG_WRITE) < 0)
         return "cannot write " + path;
@@ -189,6 +189,7 @@ std::string Packer::write(const PcmSignal &signal)
         std::memcpy(picture->data, cover_.data(), cover_.size());
         picture->stream_index = 1;
         picture->flags |= AV_PKT_FLAG_KEY;
+        picture->pts = picture->dts = 0;
         if (av_interleaved_write_frame(format_.get(), picture.get()) < 0)
             return "the cover cannot be written";
     }

@@ -18,6 +18,7 @@ struct FileTags
 
 /// Packs a signal with an encoder of FFmpeg's and writes the file. kind: "flac", "m4a" (ALAC), "wv", "tta",
 /// "dts". Returns "" or a line that says what failed (an encoder may be missing from a build of FFmpeg).
+/// Only "flac" and "m4a" take a cover.
 std::string writePacked(const std::string &kind, const std::string &path, const PcmSignal &signal,
                         const FileTags &tags = {});
 

@@ -111,7 +111,8 @@ TEST_F(EngineTest, WavReachesTheDeviceBitForBit)
         EngineHost host;
         host.start({"-i", path, "-dev", "cap"});
         EXPECT_EQ(host.wait(), 0);
-        EXPECT_EQ(host.lines("DONE "), std::vector<std::string>{"DONE " + path}) << testing::PrintToString(host.lines());
+        EXPECT_EQ(host.lines("DONE "), std::vector<std::string>{"DONE " + path})
+            << testing::PrintToString(host.lines());
         EXPECT_EQ(captured(), rawBytes(signal)) << rateHz << '/' << depthBits;
     }
 }

@@ -37,7 +37,9 @@ public:
             return track_.failAt >= 0 ? ReadOutcome{ReadStatus::failed, "the file ends too early"}
                                       : ReadOutcome{};
         const int64_t n = std::min<int64_t>(end - at_, static_cast<int64_t>(maxFrames));
-        for (int64_t f = at_; f < at_ + n; ++f) {
+        if (track_.plain)
+            block.dsd.assign(static_cast<size_t>(n * track_.format.channels), 0x96);
+        for (int64_t f = at_; f < at_ + n && !track_.plain; ++f) {
             for (int c = 0; c < track_.format.channels; ++c) {
                 const int16_t s = fakeSample(track_.seed, f, c);
                 if (track_.format.isDsd())
@@ -128,7 +130,10 @@ public:
             device_.bytes.insert(device_.bytes.end(), frames,
                                  frames + count * static_cast<size_t>(opened_.wire.bytesPerFrame()));
         }
+        if (device_.countMarkers)
+            countMarkers(frames, count);
         written_ += static_cast<int64_t>(count);
+        device_.frames += count;
         return static_cast<long>(count);
     }
 
@@ -147,6 +152,16 @@ public:
     double latencyMs() const override { return opened_.clocked ? device_.bufferSec * 1000 : 0; }
 
 private:
+    void countMarkers(const uint8_t *frames, size_t count)
+    {
+        uint64_t wrong = 0;
+        for (size_t f = 0; f < count; ++f) {
+            const uint8_t marker = (static_cast<size_t>(written_) + f) % 2 ? 0xFA : 0x05;
+            wrong += frames[f * 6 + 2] != marker || frames[f * 6 + 5] != marker;
+        }
+        device_.wrongMarkers += wrong;
+    }
+
     int64_t played() const
     {
         const std::chrono::duration<double> since = Clock::now() - begun_;

@@ -26,6 +26,7 @@ struct FakeTrack
     uint32_t seed = 1; ///< gives each track samples of its own
     bool lossless = true;
     std::vector<SourceSegment> segments;
+    bool plain = false; ///< every byte of DSD the same, for very long tracks
 };
 
 /// The 16-bit sample of a frame and channel; as DSD its low byte.
@@ -40,6 +41,9 @@ struct FakeDevice
     int opened = 0;                      ///< guarded by mutex
     int closed = 0;                      ///< guarded by mutex
     bool keepBytes = true;
+    bool countMarkers = false;             ///< of 24-bit DoP on two channels
+    std::atomic<uint64_t> wrongMarkers{0}; ///< frames whose markers are out of step
+    std::atomic<uint64_t> frames{0};
     bool clocked = false;               ///< takes samples at their rate instead of at once
     double bufferSec = 0.1;             ///< of a clocked device
     std::atomic<int64_t> goneAfter{-1}; ///< frames

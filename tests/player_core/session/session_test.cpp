@@ -191,6 +191,28 @@ TEST(SessionTest, CrossfadeTakesItsTimeOffTheSum)
     EXPECT_LT(frames, 88'200 - 4'410);
 }
 
+TEST(SessionTest, ATrackShorterThanItsFadeEndsTheChain)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44'100, 1);
+    world.tracks["/b.wav"] = pcmTrack(4'000, 2);
+    world.tracks["/c.wav"] = pcmTrack(4'000, 3);
+    world.start({"-stream", "-parent-pid", ownPid, "-crossfade", "2.0"});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("load /c.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /c.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    const std::vector<int16_t> all = trimmed(world.written16());
+    const std::vector<int16_t> last = samplesOf(world.tracks["/c.wav"]);
+    ASSERT_GT(all.size(), last.size());
+    EXPECT_TRUE(std::equal(last.rbegin(), last.rend(), all.rbegin())) << "nothing of the fade is left over";
+}
+
 TEST(SessionTest, StopEndsWithinAMoment)
 {
     FakeWorld world;
@@ -375,17 +397,68 @@ TEST(SessionTest, DecodedDsdHasItsLengthAndItsFilterLine)
 
 TEST(SessionTest, AnHourOfDoPHasNoMarkerOutOfStep)
 {
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+    constexpr int64_t seconds = 30;
+#else
+    constexpr int64_t seconds = 3600;
+#endif
     FakeWorld world;
     world.device.dsdCarrier = Carrier::dop;
-    world.tracks["/hour.dsf"] = dsdTrack(2'000'003, 1);
-    // The markers of a long chain are counted by a device that keeps only what it needs; here a run of
-    // several seconds stands for it, the hour is measured at the real file device.
+    world.device.keepBytes = false;
+    world.device.countMarkers = true;
+    world.tracks["/hour.dsf"] = dsdTrack(352'800 * seconds + 1, 1);
+    world.tracks["/hour.dsf"].plain = true;
     world.start({"-i", "/hour.dsf"});
-    EXPECT_EQ(world.wait(), exit_code::done);
-    const std::vector<uint8_t> &bytes = world.device.bytes;
-    EXPECT_EQ(bytes.size(), (2'000'003u + 1) / 2 * 6);
-    for (size_t frame = 0; frame * 6 + 5 < bytes.size(); ++frame)
-        ASSERT_EQ(bytes[frame * 6 + 2], frame % 2 ? 0xFA : 0x05) << "frame " << frame;
+    EXPECT_EQ(world.wait(110), exit_code::done);
+    EXPECT_EQ(world.device.frames.load(), static_cast<uint64_t>(176'400 * seconds + 1));
+    EXPECT_EQ(world.device.wrongMarkers.load(), 0u);
+}
+
+TEST(SessionTest, AStormOfLoadsEndsWithTheLastOne)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.dsdCarrier = Carrier::dop;
+    world.device.keepBytes = false;
+    world.tracks["/a.wav"] = pcmTrack(44'100 * 60, 1);
+    world.tracks["/b.wav"] = pcmTrack(96'000 * 60, 2, 96'000);
+    world.tracks["/c.dsf"] = dsdTrack(352'800 * 60, 3);
+    world.tracks["/last.wav"] = pcmTrack(4'000, 4);
+    world.start({"-stream", "-parent-pid", ownPid, "-spectrum", "on", "-scope", "on", "-crossfade", "1.0"});
+    const char *const lines[] = {"load /a.wav",  "loadat 10.000 /a.wav",
+                                 "pause",        "load /b.wav",
+                                 "vol 40",       "load /c.dsf",
+                                 "scope off",    "pause",
+                                 "load /none",   "resume",
+                                 "spectrum off", "load /a.wav",
+                                 "load /a.wav",  "scope on",
+                                 "vol 100",      "report",
+                                 "spectrum on"};
+    for (size_t i = 0; i < 300; ++i)
+        world.send(lines[i * 7 % std::size(lines)]);
+    world.send("loadat 0.000 /last.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /last.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
+    EXPECT_EQ(world.device.opened, world.device.closed);
+}
+
+TEST(SessionTest, ATrackTooLateForItsDeckStillFollows)
+{
+    // Shorter than what a deck reads ahead: its end is sealed almost at once.
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.bufferSec = 0.5;
+    world.tracks["/a.wav"] = pcmTrack(8'000, 1);
+    world.tracks["/b.wav"] = pcmTrack(8'000, 2);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("SRC ").empty());
+    world.send("load /b.wav");
+    ASSERT_FALSE(world.waitLine("SRC ").empty());
+    EXPECT_EQ(world.waitLine("DONE /b"), "DONE /b.wav");
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
 }
 
 TEST(SessionTest, UnknownAndMalformedLinesAreHarmless)

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -181,6 +182,67 @@ INSTANTIATE_TEST_SUITE_P(Kinds, CutFiles,
                          testing::Values(CutCase{"wav", 16}, CutCase{"w64", 24}, CutCase{"aiff", 16},
                                          CutCase{"flac", 16}, CutCase{"flac", 24}, CutCase{"wv", 16},
                                          CutCase{"tta", 16}));
+
+/// Where the frames of a FLAC file begin.
+std::vector<size_t> flacFrames(const std::vector<uint8_t> &bytes)
+{
+    std::vector<size_t> places;
+    for (size_t at = 42; at + 4 < bytes.size(); ++at) {
+        const size_t first = places.empty() ? at : places[0];
+        // All but the last have the same block size and rate in their third and fourth byte.
+        if (bytes[at] == 0xFF && bytes[at + 1] == 0xF8 && bytes[at + 2] == bytes[first + 2] &&
+            bytes[at + 3] == bytes[first + 3])
+            places.push_back(at);
+    }
+    return places;
+}
+
+TEST_F(BadFiles, FlacFramesThatAreMissingAreNoticed)
+{
+    const PcmSignal signal = makeSignal({.shape = SignalShape::noise, .frames = 88200});
+    ASSERT_EQ(writePacked("flac", path_, signal), "");
+    std::vector<uint8_t> bytes = readFile(path_);
+    const std::vector<size_t> frames = flacFrames(bytes);
+    ASSERT_GT(frames.size(), 10U);
+    bytes.erase(bytes.begin() + static_cast<std::ptrdiff_t>(frames[8]),
+                bytes.begin() + static_cast<std::ptrdiff_t>(frames[9]));
+    writeFile(path_, bytes);
+    auto opened = openPath(path_);
+    ASSERT_TRUE(opened.source) << opened.error;
+    const Delivered all = readAll(*opened.source);
+    EXPECT_EQ(all.last.message, "damaged at 0.835 s: 4608 frames are missing");
+    EXPECT_TRUE(all.pcm == cut(signal, 0, 8 * 4608).samples);
+}
+
+TEST_F(BadFiles, TagsAroundFlacAndAnUnknownLengthDoNoHarm)
+{
+    const PcmSignal signal = makeSignal({.shape = SignalShape::noise, .frames = 88200});
+    ASSERT_EQ(writePacked("flac", path_, signal), "");
+    std::vector<uint8_t> bytes = readFile(path_);
+    // The count of samples: the low four bits of byte 21, and the four bytes behind it.
+    bytes[21] &= 0xF0;
+    std::fill(bytes.begin() + 22, bytes.begin() + 26, uint8_t{0});
+    const std::vector<uint8_t> id3{'I', 'D', '3', 3, 0, 0, 0, 0, 0, 10, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0};
+    bytes.insert(bytes.begin(), id3.begin(), id3.end());
+    writeFile(path_, bytes);
+    auto opened = openPath(path_);
+    ASSERT_TRUE(opened.source) << opened.error;
+    EXPECT_EQ(opened.source->facts().totalFrames, 88200);
+    EXPECT_TRUE(readAll(*opened.source).pcm == signal.samples);
+    ASSERT_TRUE(opened.source->seekFrame(50000));
+    EXPECT_TRUE(readSome(*opened.source, 100).pcm == cut(signal, 50000, 100).samples);
+
+    ASSERT_EQ(writePacked("flac", path_, signal), "");
+    bytes = readFile(path_);
+    bytes.insert(bytes.end(), {'T', 'A', 'G'});
+    bytes.resize(bytes.size() + 125, ' ');
+    writeFile(path_, bytes);
+    opened = openPath(path_);
+    ASSERT_TRUE(opened.source) << opened.error;
+    const Delivered all = readAll(*opened.source);
+    EXPECT_EQ(all.last.status, ReadStatus::end) << all.last.message;
+    EXPECT_TRUE(all.pcm == signal.samples);
+}
 
 TEST_F(BadFiles, CancellingOpensNothing)
 {

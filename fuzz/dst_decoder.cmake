@@ -1,0 +1,1 @@
+kelp_fuzz(dst_decoder SOURCES fuzz_dst_decoder.cpp LINK core_source)
