@@ -41,7 +41,7 @@ struct HookPlan
     double stopAfterSec = 0.;
     double autostopMs = 0.;
     std::optional<MoveRow> moveRow;
-    QString badMoveRow; ///< a specification that cannot be read
+    QString badMoveRow; ///< a value that cannot be read
     bool rigDump = false;
     QString rigDumpValue;
     bool autoClose = false;

@@ -22,7 +22,20 @@ int LineMailbox::slotOf(const QString &line, bool isStderr)
     return -1;
 }
 
+void LineMailbox::close()
+{
+    const QMutexLocker lock(&m_gate);
+    m_closed = true;
+}
+
 void LineMailbox::put(const QString &line, bool isStderr)
+{
+    const QMutexLocker lock(&m_gate);
+    if (!m_closed)
+        putLine(line, isStderr);
+}
+
+void LineMailbox::putLine(const QString &line, bool isStderr)
 {
     const int slot = slotOf(line, isStderr);
     if (slot < 0) {

@@ -26,6 +26,9 @@ public:
 
     void put(const QString &line, bool isStderr);
     void drain(const Deliver &deliver);
+    /// From now on lines are dropped and the callbacks are not called: a thread of a session that could not
+    /// be ended may speak long after its listener has gone.
+    void close();
     /// How many lines came for a slot, delivered or not.
     qint64 countOf(int slot) const;
 
@@ -38,10 +41,13 @@ private:
         qint64 count = 0;
     };
 
+    void putLine(const QString &line, bool isStderr);
     static int slotOf(const QString &line, bool isStderr);
 
     const PostLine m_postLine;
     const PostDrain m_postDrain;
+    QMutex m_gate;                          ///< held while a callback runs; guards m_closed
+    bool m_closed = false;                  ///< guarded by m_gate
     mutable QMutex m_mutex;                 ///< guards m_slots
     std::array<Slot, slotCount> m_slots;    ///< guarded by m_mutex
     std::atomic<bool> m_drainPosted{false}; ///< a drain is on its way to the GUI thread

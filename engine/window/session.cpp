@@ -41,6 +41,9 @@ void PlayerGuiWindow::ensureSession()
         logLine(tr("上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它"), true);
     }
     m_link.session.reset();
+    // What a session that would not end still says is no news of the next one.
+    if (m_link.mailbox)
+        m_link.mailbox->close();
     delete m_link.pollTimer;
     m_link.pollTimer = nullptr;
 

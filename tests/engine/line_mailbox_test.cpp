@@ -56,3 +56,15 @@ TEST(LineMailbox, OtherLinesAreNeverLost)
         << "telemetry on stderr is an ordinary line";
     EXPECT_EQ(recorder.drains, 0);
 }
+
+TEST(LineMailbox, AClosedBoxIsDeaf)
+{
+    Recorder recorder;
+    recorder.box.close();
+    recorder.box.put(u"PG 1 1 9"_s, false);
+    recorder.box.put(u"OPENED"_s, false);
+    EXPECT_TRUE(recorder.posted.isEmpty());
+    EXPECT_EQ(recorder.drains, 0);
+    recorder.drain();
+    EXPECT_TRUE(recorder.delivered.isEmpty());
+}

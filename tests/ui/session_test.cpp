@@ -86,3 +86,17 @@ TEST_F(Session, WithoutALogTheEndsCannotBeReconciled)
     m_window->checkControlClosure();
     EXPECT_TRUE(logHas(u"无法对账"_s));
 }
+
+TEST_F(Session, AReplacedSessionIsNoLongerHeard)
+{
+    m_window->ensureSession();
+    const PlayerSession::LineSink oldSink = m_engine.current->lineSink;
+    m_window->ensureSession();
+    oldSink(u"a late word of the old engine\n"_s, false);
+    settle();
+    EXPECT_FALSE(logHas(u"a late word"_s));
+    const PlayerSession::LineSink lastSink = m_engine.current->lineSink;
+    m_window.reset();
+    lastSink(u"to nobody\n"_s, false);
+    settle();
+}

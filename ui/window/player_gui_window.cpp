@@ -1,5 +1,6 @@
 #include "ui/window/player_gui_window.h"
 
+#include "engine/line_mailbox.h"
 #include "ui/style_sheet.h"
 
 #include <QStatusBar>
@@ -42,6 +43,8 @@ PlayerGuiWindow::~PlayerGuiWindow()
     killProc(true);
     // The session's threads call sinks that post to this window: it ends while the window is whole.
     m_link.session.reset();
+    if (m_link.mailbox)
+        m_link.mailbox->close();
 }
 
 void PlayerGuiWindow::startUpdateCheck(bool) {}
