@@ -87,6 +87,8 @@ void WindowTest::addFiles(int count)
 
 int main(int argc, char **argv)
 {
+    // Also when the tests are only listed, which happens without the tests' environment.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     QApplication application(argc, argv);
     return RUN_ALL_TESTS();
