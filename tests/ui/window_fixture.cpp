@@ -87,6 +87,8 @@ void WindowTest::addFiles(int count)
 
 int main(int argc, char **argv)
 {
+    // Also when the tests are only listed, which happens without the tests' environment.
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleTest(&argc, argv);
     // Also where CTest only asks for the names of the tests, and outside of CTest.
     qputenv("QT_QPA_PLATFORM", "offscreen");
