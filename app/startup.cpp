@@ -19,6 +19,7 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <chrono>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -122,12 +123,14 @@ void addAboutBlock(PlayerGuiWindow &window)
 
 void showWindow(PlayerGuiWindow &window)
 {
+    using namespace std::chrono_literals;
+    constexpr auto preloadDelay = 300ms;
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
     window.show();
     window.noteShown();
-    // The engine's library draws in dozens of others: it is loaded once the window is up, so that the first
-    // track need not wait for it and the window neither.
-    QTimer::singleShot(0, &window, [] {
+    // The engine's library draws in dozens of others: it is loaded a moment after the window is up, so that the
+    // first track need not wait for it and the first picture of the window need not share the processor with it.
+    QTimer::singleShot(preloadDelay, &window, [] {
         kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
         std::thread([library] { library->preload(); }).detach();
     });

@@ -36,10 +36,10 @@ def bare_display(stage):
 
 def first_window(stage, command):
     done = subprocess.run([os.path.join(BUILD, "bench", "first_window"), *command], env=stage.env, capture_output=True, text=True)
-    return float(done.stdout) if done.returncode == 0 else None
+    return float(done.stdout.split()[-1]) if done.returncode == 0 else None
 
 
-def bench_start(rounds=15):
+def bench_start(rounds=21):
     with Stage() as stage:
         bare_display(stage)
         stage.bus()

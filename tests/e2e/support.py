@@ -153,14 +153,14 @@ class Player:
         """Waits until the log holds the pattern so many times; returns the last match."""
         def found():
             if self.process.poll() is not None and len(re.findall(pattern, self.log())) < count:
-                raise AssertionError(f"the program ended ({self.process.returncode}) before {pattern!r}:\n{self.log()[-3000:]}"
-                                     f"\n{read_text(self.output_path)[-2000:]}")
+                raise AssertionError(f"the program ended ({self.process.returncode}) before {pattern!r}:\n{self.log()[-1500:]}"
+                                     f"\n{read_text(self.output_path)[-500:]}")
             matches = list(re.finditer(pattern, self.log()))
             return matches[-1] if len(matches) >= count else None
         try:
             return wait_until(found, seconds, f"the line {pattern!r}")
         except AssertionError as failure:
-            raise AssertionError(f"{failure}\nThe log:\n{self.log()[-4000:]}") from None
+            raise AssertionError(f"{failure}\nThe log:\n{self.log()[-1500:]}") from None
 
     def wait_end(self, seconds=30):
         return self.process.wait(seconds)

@@ -12,13 +12,14 @@ KINDS = [("flac", dict(rate=44100, bits=16)), ("wav", dict(rate=96000, bits=24))
 
 class Play(unittest.TestCase):
     def play_to_the_end(self, stage, path, inproc, finished=1):
-        player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_QUIT_AFTER=6)
+        player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_QUIT_AFTER=4)
         player.wait_log("Playback finished", count=finished)
         player.wait_log(r"OPENED ")
         self.assertEqual(player.wait_end(), 0, read_text(player.output_path))
         log = player.log()
-        self.assertRegex(log, r"播放会话|session")
-        self.assertRegex(log, r"\[控制\] 闭合: queued=\d+ recv=\d+ diff=\d+ —— 通过" if inproc else "")
+        self.assertRegex(log, r"\[control\] closure: queued=\d+ recv=\d+ diff=\d+ — passed")
+        if inproc:
+            self.assertRegex(log, r"\[control\] closure: queued=[1-9]\d* recv=[1-9]\d* diff=0 — passed")
         self.assertNotIn("[crash-guard]", log)
         return log
 
@@ -99,7 +100,7 @@ class Play(unittest.TestCase):
             for inproc in (1, 0):
                 player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_AUTOCLOSE=1)
                 self.assertEqual(player.wait_end(20), 0)
-                self.assertIn("测试钩子: 自动关窗", player.log())
+                self.assertRegex(player.log(), "test hook: ")
                 time.sleep(0.1)
                 left = subprocess.run(["pgrep", "-f", f"KelpPlayerEngine.*-parent-pid {player.process.pid}"], capture_output=True)
                 self.assertNotEqual(left.returncode, 0, "an engine process was left behind")

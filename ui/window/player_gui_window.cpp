@@ -22,8 +22,9 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
     setFont(interfaceFont());
-    setStyleSheet(darkStyleSheet());
     buildLayout();
+    // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
+    setStyleSheet(darkStyleSheet());
     statusBar()->hide();
     setMinimumSize(leastSize);
     resize(initialSize);
