@@ -87,7 +87,6 @@ QComboBox *EngineControls::addCombo(QGridLayout *grid, const QString &name, cons
 {
     auto *combo = new QComboBox(this);
     combo->setFixedWidth(controlWidth);
-    combo->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     addRow(grid, name, tip, combo);
     return combo;
 }
