@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>مطابق بتًّا ببت</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>خلط+تحويل</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>خلّاط النظام</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>محوَّل</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>غير معروف</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -168,6 +191,45 @@
     </message>
 </context>
 <context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>البتات الفعّالة: كسب أحادي (العينات كما هي)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>البتات الفعّالة: استُنفدت (التوهين شديد)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>البتات الفعّالة: بلا فقد، لكن الكسب يرفع الذروات (خطر القص)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>البتات الفعّالة: لم تتأثر (مستوى صوت الجهاز/نقطة النهاية، دون تحجيم العينات)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>البتات الفعّالة: لم تتأثر (لا معالجة لمستوى الصوت في دفق DoP)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>البتات الفعّالة: انظر السجل (DSD مباشر، يُستخدم خلّاط الجهاز)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>البتات الفعّالة: يحددها الكسب البرمجي (انظر السطر التالي)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>البتات الفعّالة: نحو %1 بت (بعد التوهين البرمجي)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>البتات الفعّالة: انظر السجل</translation>
+    </message>
+</context>
+<context>
     <name>EndVerdict</name>
     <message>
         <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
@@ -270,7 +332,7 @@
     </message>
     <message>
         <source>低于这个频率的送到低音设备。</source>
-        <translation>ما دون هذا التردد يُرسل إلى جهاز الجهير.</translation>
+        <translation>ما دون هذا التردد يُرسل إلى أجهزة الجهير.</translation>
     </message>
     <message>
         <source>桥接分频</source>
@@ -330,7 +392,7 @@
     </message>
     <message>
         <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
-        <translation>يُضمَّن PCM إلى DSD قبل الإرسال: تتغير العينات فلا تطابق بتًّا ببت.</translation>
+        <translation>يُضمَّن PCM إلى DSD قبل الإرسال: تتغير العينات، فلا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>
         <source>目标速率</source>
@@ -346,7 +408,7 @@
     </message>
     <message>
         <source>升频滤波器的长度；自动由引擎决定。</source>
-        <translation>طول مرشح رفع المعدل؛ في الوضع التلقائي يقرر المحرك.</translation>
+        <translation>طول مرشح رفع معدل العينات؛ في الوضع التلقائي يقرر المحرك.</translation>
     </message>
     <message>
         <source>自动</source>
@@ -370,19 +432,19 @@
     </message>
     <message>
         <source>只在会削波时压低峰值。</source>
-        <translation>يخفض الذروات فقط حين يقع القص.</translation>
+        <translation>يخفض الذروات فقط حيث كانت ستُقص.</translation>
     </message>
     <message>
         <source>重采样到设备速率</source>
-        <translation>إعادة التعيين إلى معدل الجهاز</translation>
+        <translation>إعادة أخذ العينات إلى معدل الجهاز</translation>
     </message>
     <message>
         <source>改变样本，不是比特完美。</source>
-        <translation>تتغير العينات فلا تطابق بتًّا ببت.</translation>
+        <translation>تتغير العينات، فلا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>
         <source>重采样质量</source>
-        <translation>جودة إعادة التعيين</translation>
+        <translation>جودة إعادة أخذ العينات</translation>
     </message>
     <message>
         <source>越好越费算力。</source>
@@ -398,7 +460,7 @@
     </message>
     <message>
         <source>关闭</source>
-        <translation>متوقف</translation>
+        <translation>معطّل</translation>
     </message>
     <message>
         <source>按曲目</source>
@@ -454,7 +516,7 @@
     </message>
     <message>
         <source>保持音高；不是 1.00 就不是比特完美。</source>
-        <translation>تبقى طبقة الصوت؛ وما لم تكن 1.00 فلا تطابق بتًّا ببت.</translation>
+        <translation>تبقى طبقة الصوت؛ وعند غير 1.00 لا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>
         <source>边读边播</source>
@@ -481,6 +543,45 @@
     </message>
 </context>
 <context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>جارٍ تعلّم ملف الضجيج</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>ملف الضجيج جاهز</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>لا ضجيج في هذا المقطع، يمر كما هو</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>جارٍ تعلّم الضجيج (نحو ثانية واحدة)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>المستويات/الطيف مُوائمة مع تأخير الإخراج: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>وصل التقدّم (PG): شُغّل %1 s / المجموع %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>يُطبّق المضمِّن معالجة DSP</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>راسم الإشارة: وصل أول إطار (عدد الفترات: %1)</translation>
+    </message>
+</context>
+<context>
     <name>EngineLocation</name>
     <message>
         <source>程序同目录</source>
@@ -499,7 +600,7 @@
     <name>EngineProbe</name>
     <message>
         <source>探测超时（%1 ms）：%2 —— 已结束该子进程，界面继续运行（KELP_GUI_PROBE_HANG 自检时属预期）</source>
-        <translation>انتهت مهلة الاستعلام (%1 مللي ثانية): %2 — أُنهيت تلك العملية الفرعية والواجهة مستمرة (متوقع في الفحص الذاتي KELP_GUI_PROBE_HANG)</translation>
+        <translation>انتهت مهلة الاستعلام (%1 ms): %2 — أُنهيت تلك العملية الفرعية والواجهة مستمرة (متوقع في الفحص الذاتي KELP_GUI_PROBE_HANG)</translation>
     </message>
     <message>
         <source>探测返回非零（%1）：%2</source>
@@ -568,7 +669,7 @@
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
-        <translation>لم تنتهِ الجلسة السابقة داخل العملية خلال ثانيتين (2) — قد تبقى هذه العملية ممسكة بالجهاز الحصري وقد يتعذر فتحه للمقطع التالي</translation>
+        <translation>لم تنتهِ الجلسة السابقة داخل العملية خلال ثانيتين — قد تبقى هذه العملية ممسكة بالجهاز الحصري وقد يتعذر فتحه للمقطع التالي</translation>
     </message>
     <message>
         <source>(系统默认)</source>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>الموضع بزمن المصدر؛ التشغيل بسرعة %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>الموضع والطول بزمن المصدر؛ عند السرعة %1× يستغرق المقطع كله %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>التقدّم %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>جارٍ مسح المصدر (فك ترميزه)… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -862,6 +982,25 @@
     </message>
 </context>
 <context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>الصوت: %1 · %2 بت · القنوات: %3 · %4 ث</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: نعم</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: لا</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>القنوات: %1</translation>
+    </message>
+</context>
+<context>
     <name>StallReport</name>
     <message>
         <source>(未标记)</source>
@@ -869,7 +1008,7 @@
     </message>
     <message>
         <source>[stall] 界面线程卡住了 %1 ms —— 当时正在：%2</source>
-        <translation>[stall] تجمّد خيط الواجهة %1 مللي ثانية — كان يقوم بـ: %2</translation>
+        <translation>[stall] تجمّد خيط الواجهة %1 ms — كان يقوم بـ: %2</translation>
     </message>
 </context>
 <context>
@@ -897,6 +1036,55 @@
     </message>
 </context>
 <context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>يتعذر التحديد</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+السلّم الموسيقي: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>تحليل المقطع: BPM %1، السلّم %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>تحليل المقطع: BPM %1 (يتعذر تحديد السلّم ولا يُخمَّن)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>تحليل المقطع: السلّم %1 (يتعذر تحديد BPM ولا يُخمَّن)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>تحليل المقطع: يتعذر تحديد BPM والسلّم ولا يُخمَّنان</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>اختر مقطعًا أولًا ثم حلّله</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>لا يمكن التحليل أثناء التشغيل — اضغط «إيقاف» أولًا</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>تحليل المقطع</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>تعذّر بدء التحليل (مكتبة المحرك غير متاحة، rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>لم يُسفر التحليل عن نتيجة: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrackStart</name>
     <message>
         <source>从 %1:%2 继续（上次停在这里）</source>
@@ -908,7 +1096,7 @@
     </message>
     <message>
         <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
-        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية؛ لا يمكن إنهاء جلسة داخل العملية قسرًا (انتظر؛ المخرج: KELP_GUI_INPROC=0)</translation>
+        <translation>لم يُنهِ المشغّل عمله خلال %1 ثانية؛ لا يمكن إنهاء جلسة داخل العملية قسرًا (انتظر؛ حل بديل: KELP_GUI_INPROC=0)</translation>
     </message>
 </context>
 </TS>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bitgenau</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mischer+Wandlung</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Systemmischer</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Gewandelt</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unbekannt</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -128,7 +151,7 @@
     </message>
     <message>
         <source>停止播放</source>
-        <translation>Wiedergabe anhalten</translation>
+        <translation>Wiedergabe stoppen</translation>
     </message>
     <message>
         <source>上一首</source>
@@ -160,7 +183,7 @@
     </message>
     <message>
         <source>音量；100% 不改变样本</source>
-        <translation>Lautstärke; bei 100% bleiben die Samples unverändert</translation>
+        <translation>Lautstärke; bei 100&#xa0;% bleiben die Samples unverändert</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
@@ -168,10 +191,49 @@
     </message>
 </context>
 <context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Effektive Bits: Verstärkung 1 (Samples unverändert)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Effektive Bits: aufgebraucht (Dämpfung zu groß)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Effektive Bits: kein Verlust, aber die Verstärkung hebt die Spitzen an (Gefahr der Übersteuerung)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Effektive Bits: unberührt (Lautstärke des Geräts/Endpunkts, Samples werden nicht skaliert)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Effektive Bits: unberührt (im DoP-Strom wird die Lautstärke nicht bearbeitet)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Effektive Bits: siehe Protokoll (DSD direkt, Mischer des Geräts in Gebrauch)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Effektive Bits: von der Software-Verstärkung bestimmt (siehe nächste Zeile)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Effektive Bits: etwa %1 Bit (nach der Software-Dämpfung)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Effektive Bits: siehe Protokoll</translation>
+    </message>
+</context>
+<context>
     <name>EndVerdict</name>
     <message>
         <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
-        <translation>Vor dem Ende abgebrochen (%1%); angehalten, es geht nicht mit dem nächsten Titel weiter</translation>
+        <translation>Vor dem Ende abgebrochen (%1&#xa0;%); gestoppt, es geht nicht mit dem nächsten Titel weiter</translation>
     </message>
     <message>
         <source>播放器异常退出，代码: %1</source>
@@ -191,7 +253,7 @@
     </message>
     <message>
         <source>播放已停止</source>
-        <translation>Wiedergabe angehalten</translation>
+        <translation>Wiedergabe gestoppt</translation>
     </message>
     <message>
         <source>播放完成</source>
@@ -270,7 +332,7 @@
     </message>
     <message>
         <source>低于这个频率的送到低音设备。</source>
-        <translation>Was tiefer liegt, geht an das Bassgerät.</translation>
+        <translation>Was tiefer liegt, geht an die Bassgeräte.</translation>
     </message>
     <message>
         <source>桥接分频</source>
@@ -322,7 +384,7 @@
     </message>
     <message>
         <source>最佳</source>
-        <translation>Bester</translation>
+        <translation>Optimal</translation>
     </message>
     <message>
         <source>PCM 转 DSD</source>
@@ -342,11 +404,11 @@
     </message>
     <message>
         <source>调制滤波器抽头</source>
-        <translation>Filterkoeffizienten</translation>
+        <translation>Taps des Modulatorfilters</translation>
     </message>
     <message>
         <source>升频滤波器的长度；自动由引擎决定。</source>
-        <translation>Länge des Hochtastfilters; automatisch entscheidet die Engine.</translation>
+        <translation>Länge des Upsampling-Filters; automatisch entscheidet die Engine.</translation>
     </message>
     <message>
         <source>自动</source>
@@ -370,11 +432,11 @@
     </message>
     <message>
         <source>只在会削波时压低峰值。</source>
-        <translation>Senkt Spitzen nur, wenn es sonst übersteuerte.</translation>
+        <translation>Senkt Spitzen nur dort, wo sie sonst übersteuern würden.</translation>
     </message>
     <message>
         <source>重采样到设备速率</source>
-        <translation>Auf die Rate des Geräts umtasten</translation>
+        <translation>Resampling auf die Rate des Geräts</translation>
     </message>
     <message>
         <source>改变样本，不是比特完美。</source>
@@ -382,7 +444,7 @@
     </message>
     <message>
         <source>重采样质量</source>
-        <translation>Güte der Umtastung</translation>
+        <translation>Qualität des Resamplings</translation>
     </message>
     <message>
         <source>越好越费算力。</source>
@@ -481,6 +543,45 @@
     </message>
 </context>
 <context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>Rauschprofil wird gelernt</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>Rauschprofil bereit</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>kein Rauschen in diesem Titel, wird durchgereicht</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Rauschen wird gelernt (etwa 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Pegel/Spektrum an die Ausgabelatenz angeglichen: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Fortschritt erhalten (PG): gespielt %1 s / gesamt %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP führt der Modulator aus</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Oszilloskop: erstes Bild empfangen (%1 Abschnitte)</translation>
+    </message>
+</context>
+<context>
     <name>EngineLocation</name>
     <message>
         <source>程序同目录</source>
@@ -492,7 +593,7 @@
     </message>
     <message>
         <source>开发构建（build/）</source>
-        <translation>Entwicklungsbau (build/)</translation>
+        <translation>Entwicklungs-Build (build/)</translation>
     </message>
 </context>
 <context>
@@ -548,7 +649,7 @@
     </message>
     <message>
         <source>正在扫描（解码）源… %1%</source>
-        <translation>Quelle wird durchlaufen (dekodiert) … %1%</translation>
+        <translation>Quelle wird eingelesen (dekodiert) … %1&#xa0;%</translation>
     </message>
     <message>
         <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
@@ -628,7 +729,7 @@
     </message>
     <message>
         <source>进度 %1%</source>
-        <translation>Fortschritt %1%</translation>
+        <translation>Fortschritt %1&#xa0;%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -724,7 +825,7 @@
     </message>
     <message>
         <source>正在停止播放器...</source>
-        <translation>Player wird angehalten ...</translation>
+        <translation>Player wird gestoppt …</translation>
     </message>
     <message>
         <source>停止信号已发送</source>
@@ -732,7 +833,7 @@
     </message>
     <message>
         <source>播放已停止</source>
-        <translation>Wiedergabe angehalten</translation>
+        <translation>Wiedergabe gestoppt</translation>
     </message>
     <message>
         <source>播放</source>
@@ -754,7 +855,7 @@
         <source>播放尚未结束, 关闭窗口将停止播放。
 
 确定要退出吗?</source>
-        <translation>Die Wiedergabe läuft noch; das Schließen des Fensters hält sie an.
+        <translation>Die Wiedergabe läuft noch; das Schließen des Fensters stoppt sie.
 
 Wirklich beenden?</translation>
     </message>
@@ -847,6 +948,25 @@ Wirklich beenden?</translation>
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>Die Position folgt der Zeit der Quelle; Wiedergabe mit %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Position und Länge folgen der Zeit der Quelle; bei %1× dauert der ganze Titel %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Fortschritt %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Quelle wird eingelesen (dekodiert) … %1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@ Wirklich beenden?</translation>
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Zeigt nur den Fortschritt: Springen während der Wiedergabe geht nicht</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio: %1 · %2 Bit · %3 Kanäle · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: ja</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: nein</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 Kan.</translation>
     </message>
 </context>
 <context>
@@ -897,10 +1036,59 @@ Für absichtlich mehrere bitte KELP_GUI_ALLOW_MULTI=1 setzen</translation>
     </message>
 </context>
 <context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>nicht bestimmbar</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Tonart: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Titelanalyse: BPM %1, Tonart %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Titelanalyse: BPM %1 (die Tonart ist nicht bestimmbar und wird nicht geraten)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Titelanalyse: Tonart %1 (BPM ist nicht bestimmbar und wird nicht geraten)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Titelanalyse: weder BPM noch Tonart sind bestimmbar, geraten wird nicht</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Erst einen Titel wählen, dann analysieren</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>Während der Wiedergabe ist keine Analyse möglich – bitte erst auf Stopp drücken</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Titelanalyse</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>Die Analyse lässt sich nicht starten (Engine-Bibliothek nicht verfügbar, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>Die Analyse ergab nichts: %1</translation>
+    </message>
+</context>
+<context>
     <name>TrackStart</name>
     <message>
         <source>从 %1:%2 继续（上次停在这里）</source>
-        <translation>Weiter ab %1:%2 (hier wurde zuletzt angehalten)</translation>
+        <translation>Weiter ab %1:%2 (hier wurde zuletzt gestoppt)</translation>
     </message>
     <message>
         <source>播放器在 %1 秒内没有收尾完成 —— 强制结束。</source>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mixer+convert</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>OS mixer</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Converted</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unknown</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Select a track or import audio</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Effective bits: unity (samples untouched)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Effective bits: used up (attenuation too deep)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Effective bits: no loss, but the gain pushes peaks up (clipping risk)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Effective bits: unaffected (device/endpoint volume, samples are not scaled)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Effective bits: unaffected (no volume processing on a DoP stream)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Effective bits: see the log (DSD direct, device mixer used)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Effective bits: determined by the software gain (see the next line)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Effective bits: about %1 bit (after the software attenuation)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Effective bits: see the log</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>The engine library lacks the two entries that are needed: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>learning noise profile</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>noise profile ready</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>no noise in this track, passing through</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Learning noise (about 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Level/spectrum aligned to output latency: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Unknown</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Progress (PG) received: %1 s played / %2 s total</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP is applied by the modulator</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Oscilloscope: first frame received (%1 buckets)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@ Do you really want to quit?</translation>
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>The position follows the source timeline; playing at %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Position and total follow the source timeline; at %1× the whole track takes %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progress %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Scanning (decoding) the source… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@ Do you really want to quit?</translation>
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Shows the progress only: playback cannot be moved</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio: %1 · %2-bit · %3 ch · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: yes</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: no</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 ch</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@ To run several on purpose set KELP_GUI_ALLOW_MULTI=1</translation>
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Startup metrics: UI ready %1, memory %2 (measured values only)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>cannot tell</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Key: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Track analysis: BPM %1, key %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Track analysis: BPM %1 (the key cannot be told and is not guessed)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Track analysis: key %1 (the BPM cannot be told and is not guessed)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Track analysis: neither BPM nor key can be told, and neither is guessed</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Select a track first, then analyze it</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>A track cannot be analyzed during playback -- press Stop first</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Track analysis</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>The analysis cannot start (engine library not available, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>The analysis gave no result: %1</translation>
     </message>
 </context>
 <context>

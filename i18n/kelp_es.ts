@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mezcla+conversión</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Mezclador del sistema</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Convertido</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Desconocido</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Elija una pista o importe audio</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Bits efectivos: ganancia unidad (muestras intactas)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Bits efectivos: agotados (atenuación excesiva)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Bits efectivos: sin pérdida, pero la ganancia eleva los picos (riesgo de recorte)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Bits efectivos: sin cambios (volumen del dispositivo o extremo; las muestras no se escalan)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Bits efectivos: sin cambios (en un flujo DoP no se procesa el volumen)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Bits efectivos: véase el registro (DSD directo, se usa el mezclador del dispositivo)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Bits efectivos: los determina la ganancia por software (véase la línea siguiente)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Bits efectivos: unos %1 bits (tras la atenuación por software)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Bits efectivos: véase el registro</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>A la biblioteca del motor le faltan los dos puntos de entrada necesarios: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>aprendiendo el perfil de ruido</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>perfil de ruido listo</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>sin ruido en esta pista, pasa sin cambios</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Aprendiendo el ruido (aprox. 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Niveles/espectro alineados con la latencia de salida: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Progreso recibido (PG): reproducidos %1 s / total %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>El modulador aplica el DSP</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Osciloscopio: primera trama recibida (%1 intervalos)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>La posición sigue el tiempo de la fuente; se reproduce a %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>La posición y la duración siguen el tiempo de la fuente; a %1× la pista entera dura %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progreso %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Explorando (decodificando) la fuente… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Solo muestra el progreso: no se puede saltar durante la reproducción</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio: %1 · %2 bits · %3 canales · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: sí</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: no</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 can.</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@ Para abrir varios a propósito, defina KELP_GUI_ALLOW_MULTI=1</translation>
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Medidas de inicio: interfaz lista en %1, memoria %2 (solo valores medidos)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>no se puede determinar</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Tonalidad: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Análisis de la pista: BPM %1, tonalidad %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Análisis de la pista: BPM %1 (la tonalidad no se puede determinar y no se adivina)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Análisis de la pista: tonalidad %1 (el BPM no se puede determinar y no se adivina)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Análisis de la pista: no se pueden determinar ni el BPM ni la tonalidad, y no se adivinan</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Elija primero una pista y después analícela</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>No se puede analizar durante la reproducción; pulse antes Detener</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Análisis de la pista</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>No se puede iniciar el análisis (biblioteca del motor no disponible, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>El análisis no dio resultado: %1</translation>
     </message>
 </context>
 <context>

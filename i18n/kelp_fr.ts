@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mixage+conversion</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Mélangeur système</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Converti</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Inconnu</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -160,7 +183,7 @@
     </message>
     <message>
         <source>音量；100% 不改变样本</source>
-        <translation>Volume ; à 100% les échantillons ne sont pas modifiés</translation>
+        <translation>Volume ; à 100&#xa0;% les échantillons ne sont pas modifiés</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
@@ -168,10 +191,49 @@
     </message>
 </context>
 <context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Bits effectifs : gain unitaire (échantillons intacts)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Bits effectifs : épuisés (atténuation trop forte)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Bits effectifs : aucune perte, mais le gain relève les crêtes (risque d’écrêtage)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Bits effectifs : inchangés (volume du périphérique ou du point de terminaison, échantillons non mis à l’échelle)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Bits effectifs : inchangés (aucun traitement du volume sur un flux DoP)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Bits effectifs : voir le journal (DSD direct, mélangeur du périphérique utilisé)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Bits effectifs : déterminés par le gain logiciel (voir la ligne suivante)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Bits effectifs : environ %1 bits (après l’atténuation logicielle)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Bits effectifs : voir le journal</translation>
+    </message>
+</context>
+<context>
     <name>EndVerdict</name>
     <message>
         <source>未到结尾就结束（%1%），已停止，不继续下一首</source>
-        <translation>Terminé avant la fin (%1%) ; arrêt, sans passer au morceau suivant</translation>
+        <translation>Terminé avant la fin (%1&#xa0;%) ; arrêt, sans passer au morceau suivant</translation>
     </message>
     <message>
         <source>播放器异常退出，代码: %1</source>
@@ -270,11 +332,11 @@
     </message>
     <message>
         <source>低于这个频率的送到低音设备。</source>
-        <translation>Ce qui est au-dessous va au périphérique de graves.</translation>
+        <translation>Ce qui est au-dessous va aux périphériques de graves.</translation>
     </message>
     <message>
         <source>桥接分频</source>
-        <translation>Filtre ponté</translation>
+        <translation>Filtre actif ponté</translation>
     </message>
     <message>
         <source>每一路分频用两台桥接的设备。</source>
@@ -294,15 +356,15 @@
     </message>
     <message>
         <source>不再直通 DSD：设备只接 PCM 或要用效果时使用。</source>
-        <translation>Plus de DSD direct : pour un périphérique limité au PCM ou pour utiliser les effets.</translation>
+        <translation>Sans DSD direct : pour un périphérique limité au PCM ou pour utiliser les effets.</translation>
     </message>
     <message>
         <source>PCM 位深</source>
-        <translation>Profondeur PCM</translation>
+        <translation>Profondeur de bits PCM</translation>
     </message>
     <message>
         <source>DSD 解码成 PCM 时的位深。</source>
-        <translation>Profondeur lors du décodage du DSD en PCM.</translation>
+        <translation>Profondeur de bits lors du décodage du DSD en PCM.</translation>
     </message>
     <message>
         <source>解码滤波器</source>
@@ -310,7 +372,7 @@
     </message>
     <message>
         <source>DSD 解码成 PCM 的滤波器：越好越费算力。</source>
-        <translation>Filtre de DSD vers PCM : meilleur, il coûte plus de calcul.</translation>
+        <translation>Filtre de DSD vers PCM : plus il est bon, plus il demande de calcul.</translation>
     </message>
     <message>
         <source>快速</source>
@@ -366,11 +428,11 @@
     </message>
     <message>
         <source>峰值保护</source>
-        <translation>Protection de crête</translation>
+        <translation>Protection des crêtes</translation>
     </message>
     <message>
         <source>只在会削波时压低峰值。</source>
-        <translation>Abaisse les crêtes seulement s’il y aurait écrêtage.</translation>
+        <translation>N’abaisse les crêtes que là où elles seraient écrêtées.</translation>
     </message>
     <message>
         <source>重采样到设备速率</source>
@@ -386,7 +448,7 @@
     </message>
     <message>
         <source>越好越费算力。</source>
-        <translation>Meilleure, elle coûte plus de calcul.</translation>
+        <translation>Plus elle est élevée, plus elle demande de calcul.</translation>
     </message>
     <message>
         <source>回放增益</source>
@@ -418,11 +480,11 @@
     </message>
     <message>
         <source>轻度</source>
-        <translation>Légère</translation>
+        <translation>Léger</translation>
     </message>
     <message>
         <source>强力</source>
-        <translation>Forte</translation>
+        <translation>Fort</translation>
     </message>
     <message>
         <source>保留谐波</source>
@@ -454,7 +516,7 @@
     </message>
     <message>
         <source>保持音高；不是 1.00 就不是比特完美。</source>
-        <translation>La hauteur est conservée ; hors de 1.00, ce n’est pas bit-perfect.</translation>
+        <translation>La hauteur du son est conservée ; hors de 1.00, ce n’est pas bit-perfect.</translation>
     </message>
     <message>
         <source>边读边播</source>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>Il manque à la bibliothèque du moteur les deux points d’entrée requis : %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>apprentissage du profil de bruit</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>profil de bruit prêt</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>pas de bruit dans ce morceau, passage direct</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Apprentissage du bruit (environ 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Niveaux/spectre alignés sur la latence de sortie : %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Progression reçue (PG) : lu %1 s / total %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>Le DSP est appliqué par le modulateur</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Oscilloscope : première trame reçue (%1 tranches)</translation>
     </message>
 </context>
 <context>
@@ -548,7 +649,7 @@
     </message>
     <message>
         <source>正在扫描（解码）源… %1%</source>
-        <translation>Analyse (décodage) de la source… %1%</translation>
+        <translation>Analyse (décodage) de la source… %1&#xa0;%</translation>
     </message>
     <message>
         <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
@@ -628,7 +729,7 @@
     </message>
     <message>
         <source>进度 %1%</source>
-        <translation>Progression %1%</translation>
+        <translation>Progression %1&#xa0;%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -704,7 +805,7 @@
     </message>
     <message>
         <source>向运行中的会话补发峰值保护: %1</source>
-        <translation>Protection de crête renvoyée à la session en cours : %1</translation>
+        <translation>Protection des crêtes renvoyée à la session en cours : %1</translation>
     </message>
     <message>
         <source>错误: 请先添加音频文件</source>
@@ -724,7 +825,7 @@
     </message>
     <message>
         <source>正在停止播放器...</source>
-        <translation>Arrêt du lecteur...</translation>
+        <translation>Arrêt du lecteur…</translation>
     </message>
     <message>
         <source>停止信号已发送</source>
@@ -847,6 +948,25 @@ Voulez-vous vraiment quitter ?</translation>
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>La position suit le temps de la source ; lecture à %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Position et durée suivent le temps de la source ; à %1×, le morceau entier prend %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progression %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Analyse (décodage) de la source… %1&#xa0;%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@ Voulez-vous vraiment quitter ?</translation>
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Affiche seulement la progression : pas de saut pendant la lecture</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Audio : %1 · %2 bits · %3 canaux · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST : oui</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST : non</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 can.</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@ Pour en ouvrir plusieurs à dessein, définissez KELP_GUI_ALLOW_MULTI=1</transla
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Mesures de démarrage : interface prête en %1, mémoire %2 (valeurs mesurées seulement)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>indéterminable</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM : %1
+Tonalité : %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Analyse du morceau : BPM %1, tonalité %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Analyse du morceau : BPM %1 (tonalité indéterminable, elle n’est pas devinée)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Analyse du morceau : tonalité %1 (BPM indéterminable, il n’est pas deviné)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Analyse du morceau : BPM et tonalité indéterminables, rien n’est deviné</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Choisissez d’abord un morceau, puis lancez l’analyse</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>Analyse impossible pendant la lecture — appuyez d’abord sur Arrêt</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Analyse du morceau</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>L’analyse ne peut pas démarrer (bibliothèque du moteur indisponible, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>L’analyse n’a rien donné : %1</translation>
     </message>
 </context>
 <context>

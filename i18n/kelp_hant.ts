@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>混音+轉換</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>系統混音</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>已轉換</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>未知</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>選擇曲目或匯入音訊</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>有效位元：單位增益（樣本原樣通過）</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>有效位元：已耗盡（衰減過深）</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>有效位元：無損失，但增益會推高峰值（有削波風險）</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>有效位元：不受影響（裝置/端點音量，樣本未縮放）</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>有效位元：不受影響（DoP 串流不做音量處理）</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>有效位元：見記錄（DSD 直通，使用裝置混音器）</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>有效位元：由軟體增益決定（見下一行）</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>有效位元：約 %1 位元（軟體衰減之後）</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>有效位元：見記錄</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>引擎程式庫缺少所需的兩個進入點：%1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>正在學習雜訊樣本</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>雜訊樣本就緒</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>本曲無雜訊，直接通過</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>正在學習雜訊（約 1 秒）</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>電平/頻譜已按輸出延遲對齊：%1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>收到進度（PG）：已播放 %1 s / 共 %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP 由調變器執行</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>示波器：已收到第一個影格（%1 個區間）</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>位置依音源時間軸顯示；目前以 %1× 播放。</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>位置與總長依音源時間軸顯示；以 %1× 播放，全曲實際歷時 %2。</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>進度 %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>正在掃描（解碼）音源… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>只顯示進度：播放中不能跳轉</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>音訊：%1 · %2 位元 · %3 聲道 · %4 秒</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST：是</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST：否</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 聲道</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>啟動指標：介面就緒 %1，記憶體 %2（只列實測值）</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>無法判定</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+調性: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>曲目分析: BPM %1, 調性 %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>曲目分析: BPM %1 (調性無法判定, 不硬給)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>曲目分析: 調性 %1 (BPM 無法判定, 不硬給)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>曲目分析: BPM 和調性都無法判定, 不硬給</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>請先選一首再分析</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>播放中無法分析, 請先按停止</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>曲目分析</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>無法開始分析(引擎程式庫無法使用, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>分析沒有結果: %1</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>ビットパーフェクト</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>ミキサー+変換</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>OS ミキサー</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>変換あり</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>不明</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>曲を選ぶか、音声を読み込んでください</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>有効ビット: ユニティゲイン（サンプルはそのまま）</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>有効ビット: 残っていません（減衰が深すぎます）</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>有効ビット: 損失なし。ただしゲインでピークが上がります（クリップのおそれ）</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>有効ビット: 影響なし（デバイス／エンドポイントの音量。サンプルは乗算されません）</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>有効ビット: 影響なし（DoP ストリームでは音量を処理しません）</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>有効ビット: ログを参照（DSD ダイレクト、デバイスのミキサーを使用）</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>有効ビット: ソフトウェアゲインで決まります（次の行を参照）</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>有効ビット: 約 %1 ビット（ソフトウェア減衰後）</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>有効ビット: ログを参照</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>エンジンライブラリに必要な 2 つのエントリがありません: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>ノイズプロファイルを学習中</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>ノイズプロファイルの準備完了</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>この曲にノイズはなく、そのまま通します</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>ノイズを学習中（約 1 秒）</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>レベル／スペクトルを出力の遅延に合わせました: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>進捗を受信（PG）: 再生済み %1 s / 全体 %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP は変調器が行います</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>オシロスコープ: 最初のフレームを受信（%1 区間）</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>位置はソースの時間軸で表示します。現在 %1× で再生中です。</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>位置と長さはソースの時間軸で表示します。%1× の再生では曲全体に %2 かかります。</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>進捗 %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>ソースを走査（デコード）しています… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>進み具合の表示のみ。再生中の移動はできません</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>音声: %1 · %2 ビット · %3 チャンネル · %4 秒</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: あり</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: なし</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 ch</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>起動の指標: 画面の準備 %1、メモリー %2（実測値のみ）</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>判定できません</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+キー: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>曲の分析: BPM %1、キー %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>曲の分析: BPM %1（キーは判定できず、推測もしません）</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>曲の分析: キー %1（BPM は判定できず、推測もしません）</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>曲の分析: BPM もキーも判定できず、推測もしません</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>先に曲を選んでから分析してください</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>再生中は分析できません。先に停止を押してください</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>曲の分析</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>分析を始められません（エンジンライブラリが使えません、rc=%1）</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>分析の結果がありません: %1</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>비트 퍼펙트</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>믹서+변환</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>OS 믹서</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>변환됨</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>알 수 없음</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>곡을 선택하거나 오디오를 가져오십시오</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>유효 비트: 유니티 게인(샘플 그대로)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>유효 비트: 모두 소진됨(감쇠가 너무 깊음)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>유효 비트: 손실 없음, 다만 게인이 피크를 높임(클리핑 위험)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>유효 비트: 영향 없음(장치/엔드포인트 음량, 샘플에 게인을 곱하지 않음)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>유효 비트: 영향 없음(DoP 스트림에는 음량 처리를 하지 않음)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>유효 비트: 로그 참조(DSD 다이렉트, 장치 믹서 사용)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>유효 비트: 소프트웨어 게인에 따라 결정됨(다음 줄 참조)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>유효 비트: 약 %1비트(소프트웨어 감쇠 이후)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>유효 비트: 로그 참조</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>엔진 라이브러리에 필요한 두 진입점이 없습니다: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>노이즈 프로파일 학습 중</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>노이즈 프로파일 준비됨</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>이 곡에는 노이즈가 없어 그대로 통과</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>노이즈 학습 중(약 1초)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>레벨/스펙트럼을 출력 지연에 맞춤: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>알 수 없음</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>진행 수신(PG): 재생 %1 s / 전체 %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP는 변조기가 수행</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>오실로스코프: 첫 프레임 수신(구간 %1개)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>위치는 소스의 시간축 기준입니다. 지금 %1×로 재생 중입니다.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>위치와 길이는 소스의 시간축 기준입니다. %1×로 재생하면 곡 전체에 %2 걸립니다.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>진행 %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>소스를 스캔(디코딩)하는 중… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>진행만 표시합니다. 재생 중에는 이동할 수 없습니다</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>오디오: %1 · %2비트 · %3채널 · %4초</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: 예</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: 아니요</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1채널</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>시작 지표: 화면 준비 %1, 메모리 %2(실측값만)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>판별할 수 없음</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+조성: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>곡 분석: BPM %1, 조성 %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>곡 분석: BPM %1(조성은 판별할 수 없어 추측하지 않음)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>곡 분석: 조성 %1(BPM은 판별할 수 없어 추측하지 않음)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>곡 분석: BPM과 조성 모두 판별할 수 없어 추측하지 않음</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>먼저 곡을 선택한 뒤 분석하십시오</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>재생 중에는 분석할 수 없습니다. 먼저 정지를 누르십시오</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>곡 분석</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>분석을 시작할 수 없음(엔진 라이브러리를 쓸 수 없음, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>분석 결과가 없음: %1</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mikser+konwersja</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Mikser systemowy</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Przekonwertowano</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Nieznane</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Wybierz utwór lub zaimportuj dźwięk</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Bity efektywne: wzmocnienie jednostkowe (próbki nietknięte)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Bity efektywne: wyczerpane (zbyt duże tłumienie)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Bity efektywne: bez strat, ale wzmocnienie podnosi szczyty (ryzyko przesterowania)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Bity efektywne: bez zmian (głośność urządzenia/punktu końcowego, próbki nie są skalowane)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Bity efektywne: bez zmian (w strumieniu DoP głośność nie jest przetwarzana)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Bity efektywne: zob. dziennik (bezpośrednie DSD, używany mikser urządzenia)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Bity efektywne: zależą od wzmocnienia programowego (zob. następny wiersz)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Bity efektywne: około %1 bit (po tłumieniu programowym)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Bity efektywne: zob. dziennik</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>Bibliotece silnika brakuje dwóch wymaganych punktów wejścia: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>uczenie się profilu szumu</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>profil szumu gotowy</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>brak szumu w tym utworze, bez przetwarzania</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Uczenie się szumu (około 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Poziomy/widmo wyrównane do opóźnienia wyjścia: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Nieznane</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Otrzymano postęp (PG): odtworzono %1 s / razem %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP wykonuje modulator</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Oscyloskop: odebrano pierwszą ramkę (przedziałów: %1)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@ Czy na pewno zakończyć?</translation>
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>Pozycja według czasu źródła; odtwarzanie z szybkością %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Pozycja i długość według czasu źródła; przy %1× cały utwór potrwa %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Postęp %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Przeglądanie (dekodowanie) źródła… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@ Czy na pewno zakończyć?</translation>
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Pokazuje tylko postęp: podczas odtwarzania nie można przewijać</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Dźwięk: %1 · %2 bit · kanały: %3 · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: tak</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: nie</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 kan.</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@ Aby celowo otworzyć kilka, ustaw KELP_GUI_ALLOW_MULTI=1</translation>
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Pomiary startu: interfejs gotowy po %1, pamięć %2 (tylko wartości zmierzone)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>nie da się określić</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Tonacja: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Analiza utworu: BPM %1, tonacja %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Analiza utworu: BPM %1 (tonacji nie da się określić i nie jest zgadywana)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Analiza utworu: tonacja %1 (BPM nie da się określić i nie jest zgadywane)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Analiza utworu: ani BPM, ani tonacji nie da się określić i nie są zgadywane</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Najpierw wybierz utwór, potem analizuj</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>Podczas odtwarzania nie można analizować — najpierw naciśnij Stop</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Analiza utworu</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>Nie można rozpocząć analizy (biblioteka silnika niedostępna, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>Analiza nie dała wyniku: %1</translation>
     </message>
 </context>
 <context>

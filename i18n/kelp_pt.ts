@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Mixer+conversão</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Mixer do sistema</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Convertido</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Desconhecido</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Escolha uma faixa ou importe áudio</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Bits efetivos: ganho unitário (amostras intactas)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Bits efetivos: esgotados (atenuação excessiva)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Bits efetivos: sem perda, mas o ganho eleva os picos (risco de clipping)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Bits efetivos: inalterados (volume do dispositivo/endpoint, amostras sem escala)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Bits efetivos: inalterados (sem processamento de volume em fluxo DoP)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Bits efetivos: veja o registro (DSD direto, mixer do dispositivo em uso)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Bits efetivos: determinados pelo ganho de software (veja a próxima linha)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Bits efetivos: cerca de %1 bits (após a atenuação por software)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Bits efetivos: veja o registro</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>Faltam à biblioteca do motor os dois pontos de entrada necessários: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>aprendendo o perfil de ruído</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>perfil de ruído pronto</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>sem ruído nesta faixa, passagem direta</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Aprendendo o ruído (cerca de 1 s)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Níveis/espectro alinhados à latência de saída: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Desconhecido</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Progresso recebido (PG): tocados %1 s / total %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>O DSP é aplicado pelo modulador</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Osciloscópio: primeiro quadro recebido (%1 intervalos)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@ Deseja mesmo sair?</translation>
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>A posição segue o tempo da fonte; reprodução a %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Posição e duração seguem o tempo da fonte; a %1× a faixa inteira leva %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Progresso %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Varrendo (decodificando) a fonte… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@ Deseja mesmo sair?</translation>
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Só mostra o progresso: não é possível saltar durante a reprodução</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Áudio: %1 · %2 bits · %3 canais · %4 s</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: sim</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: não</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 can.</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@ Para abrir vários de propósito, defina KELP_GUI_ALLOW_MULTI=1</translation>
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Métricas de início: interface pronta em %1, memória %2 (só valores medidos)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>não é possível determinar</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Tom: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Análise da faixa: BPM %1, tom %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Análise da faixa: BPM %1 (não é possível determinar o tom, e ele não é adivinhado)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Análise da faixa: tom %1 (não é possível determinar o BPM, e ele não é adivinhado)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Análise da faixa: não é possível determinar BPM nem tom, e nada é adivinhado</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Selecione primeiro uma faixa e depois analise</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>Não é possível analisar durante a reprodução — aperte Parar primeiro</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Análise da faixa</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>A análise não pode começar (biblioteca do motor indisponível, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>A análise não deu resultado: %1</translation>
     </message>
 </context>
 <context>

@@ -13,6 +13,29 @@
     </message>
 </context>
 <context>
+    <name>ChainText</name>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+    <message>
+        <source>混音+转换</source>
+        <translation>Микшер+преобр.</translation>
+    </message>
+    <message>
+        <source>系统混音</source>
+        <translation>Микшер ОС</translation>
+    </message>
+    <message>
+        <source>已转换</source>
+        <translation>Преобразовано</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Неизвестно</translation>
+    </message>
+</context>
+<context>
     <name>CommandLine</name>
     <message>
         <source>DSP 效果已启用 ⇒ 本曲解码为 PCM（DSD 直通与 DSP 互斥：效果只在 PCM 域起作用）。要 DSD 直通，请把混响/音调/降噪/平衡/宽度全部关闭。</source>
@@ -165,6 +188,45 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Выберите трек или импортируйте аудио</translation>
+    </message>
+</context>
+<context>
+    <name>EffectiveBits</name>
+    <message>
+        <source>有效位：单位增益（样本原样通过）</source>
+        <translation>Значащие биты: единичное усиление (отсчёты не тронуты)</translation>
+    </message>
+    <message>
+        <source>有效位：已耗尽（衰减过深）</source>
+        <translation>Значащие биты: исчерпаны (слишком глубокое ослабление)</translation>
+    </message>
+    <message>
+        <source>有效位：无损失，但增益会推高峰值（有削波风险）</source>
+        <translation>Значащие биты: без потерь, но усиление поднимает пики (риск клиппинга)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（设备/端点音量，样本未缩放）</source>
+        <translation>Значащие биты: без изменений (громкость устройства или конечной точки, отсчёты не масштабируются)</translation>
+    </message>
+    <message>
+        <source>有效位：不受影响（DoP 流不做音量处理）</source>
+        <translation>Значащие биты: без изменений (в потоке DoP громкость не обрабатывается)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志（DSD 直通，使用设备混音器）</source>
+        <translation>Значащие биты: см. журнал (прямой DSD, используется микшер устройства)</translation>
+    </message>
+    <message>
+        <source>有效位：由软件增益决定（见下一行）</source>
+        <translation>Значащие биты: определяются программным усилением (см. следующую строку)</translation>
+    </message>
+    <message>
+        <source>有效位：约 %1 位（软件衰减之后）</source>
+        <translation>Значащие биты: около %1 бит (после программного ослабления)</translation>
+    </message>
+    <message>
+        <source>有效位：见日志</source>
+        <translation>Значащие биты: см. журнал</translation>
     </message>
 </context>
 <context>
@@ -478,6 +540,45 @@
     <message>
         <source>引擎库缺少所需的两个入口：%1</source>
         <translation>В библиотеке движка нет двух нужных точек входа: %1</translation>
+    </message>
+</context>
+<context>
+    <name>EngineLines</name>
+    <message>
+        <source>正在学习噪声样本</source>
+        <translation>изучение профиля шума</translation>
+    </message>
+    <message>
+        <source>噪声样本就绪</source>
+        <translation>профиль шума готов</translation>
+    </message>
+    <message>
+        <source>本曲无噪声，直接通过</source>
+        <translation>в этом треке шума нет, пропускаем без обработки</translation>
+    </message>
+    <message>
+        <source>正在学习噪声（约 1 秒）</source>
+        <translation>Изучение шума (около 1 с)</translation>
+    </message>
+    <message>
+        <source>电平/频谱已按输出延时对齐：%1 ms</source>
+        <translation>Уровни и спектр выровнены по задержке вывода: %1 ms</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>收到进度（PG）：已播放 %1 s / 共 %2 s</source>
+        <translation>Получен ход (PG): сыграно %1 s / всего %2 s</translation>
+    </message>
+    <message>
+        <source>DSP 由调制器执行</source>
+        <translation>DSP выполняет модулятор</translation>
+    </message>
+    <message>
+        <source>示波器：已收到第一帧（%1 个桶）</source>
+        <translation>Осциллограф: получен первый кадр (интервалов: %1)</translation>
     </message>
 </context>
 <context>
@@ -847,6 +948,25 @@
     </message>
 </context>
 <context>
+    <name>ProgressDisplay</name>
+    <message>
+        <source>位置按音源时间轴显示；当前以 %1× 播放。</source>
+        <translation>Позиция — по времени источника; сейчас скорость %1×.</translation>
+    </message>
+    <message>
+        <source>位置与总长按音源时间轴显示；以 %1× 播放，全曲实际历时 %2。</source>
+        <translation>Позиция и длина — по времени источника; на скорости %1× весь трек займёт %2.</translation>
+    </message>
+    <message>
+        <source>进度 %1%</source>
+        <translation>Ход: %1%</translation>
+    </message>
+    <message>
+        <source>正在扫描（解码）音源… %1%</source>
+        <translation>Просмотр (декодирование) источника… %1%</translation>
+    </message>
+</context>
+<context>
     <name>ProgressRow</name>
     <message>
         <source>位置</source>
@@ -859,6 +979,25 @@
     <message>
         <source>只显示进度：播放中不能跳转</source>
         <translation>Только показывает ход: перемотка при воспроизведении невозможна</translation>
+    </message>
+</context>
+<context>
+    <name>SourceLabels</name>
+    <message>
+        <source>音频：%1 · %2 位 · %3 声道 · %4 秒</source>
+        <translation>Аудио: %1 · %2 бит · каналов: %3 · %4 с</translation>
+    </message>
+    <message>
+        <source> · DST：是</source>
+        <translation> · DST: да</translation>
+    </message>
+    <message>
+        <source> · DST：否</source>
+        <translation> · DST: нет</translation>
+    </message>
+    <message>
+        <source>%1 声道</source>
+        <translation>%1 кан.</translation>
     </message>
 </context>
 <context>
@@ -894,6 +1033,55 @@
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Показатели запуска: интерфейс готов за %1, память %2 (только измеренное)</translation>
+    </message>
+</context>
+<context>
+    <name>TrackAnalysis</name>
+    <message>
+        <source>判不出来</source>
+        <translation>не определить</translation>
+    </message>
+    <message>
+        <source>BPM: %1
+调性: %2</source>
+        <translation>BPM: %1
+Тональность: %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1, 调性 %2</source>
+        <translation>Анализ трека: BPM %1, тональность %2</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM %1 (调性判不出来, 不硬给)</source>
+        <translation>Анализ трека: BPM %1 (тональность не определить, не угадываем)</translation>
+    </message>
+    <message>
+        <source>曲目分析: 调性 %1 (BPM 判不出来, 不硬给)</source>
+        <translation>Анализ трека: тональность %1 (BPM не определить, не угадываем)</translation>
+    </message>
+    <message>
+        <source>曲目分析: BPM 和调性都判不出来, 不硬给</source>
+        <translation>Анализ трека: ни BPM, ни тональность не определить, не угадываем</translation>
+    </message>
+    <message>
+        <source>先选一首再分析</source>
+        <translation>Сначала выберите трек, затем анализируйте</translation>
+    </message>
+    <message>
+        <source>播放中不能分析, 先按停止再来</source>
+        <translation>Во время воспроизведения анализ невозможен — сначала нажмите «Стоп»</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Анализ трека</translation>
+    </message>
+    <message>
+        <source>分析起不来(引擎库不可用, rc=%1)</source>
+        <translation>Анализ не запускается (библиотека движка недоступна, rc=%1)</translation>
+    </message>
+    <message>
+        <source>分析没有结果: %1</source>
+        <translation>Анализ не дал результата: %1</translation>
     </message>
 </context>
 <context>
