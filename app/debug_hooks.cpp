@@ -92,6 +92,7 @@ HookPlan parseHooks(const HookEnvironment &environment)
     plan.rigDumpValue = text("KELP_GUI_RIG");
     plan.autoClose = isSet("KELP_GUI_AUTOCLOSE");
     plan.shotPath = text("KELP_GUI_SHOT");
+    plan.shotAfterSec = seconds("KELP_GUI_SHOT_AFTER");
     plan.smoke = isSet("KELP_GUI_SMOKE");
     plan.smokeWide = isSet("KELP_GUI_SMOKE_WIDE");
     plan.smokeHang = isSet("KELP_SMOKE_HANG_TEST");

@@ -46,6 +46,7 @@ struct HookPlan
     QString rigDumpValue;
     bool autoClose = false;
     QString shotPath;
+    double shotAfterSec = 0.; ///< above 0: the picture is taken so much later, of a window that plays
     bool smoke = false;
     bool smokeWide = false;
     bool smokeHang = false;

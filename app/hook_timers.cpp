@@ -151,12 +151,25 @@ void armAutoClose(PlayerGuiWindow &window, const HookPlan &plan)
     timer->start(autoCloseLookMs);
 }
 
+void saveScreenshot(PlayerGuiWindow &window, const QString &path)
+{
+    const bool saved = window.grab().save(path);
+    std::fprintf(stderr, "[shot] %s -> %s (visible=%d %dx%d)\n", qUtf8Printable(path),
+                 saved ? "saved" : "FAILED", window.isVisible() ? 1 : 0, window.width(), window.height());
+    std::fflush(stderr);
+}
+
 } // namespace
 
 void takeHookScreenshot(PlayerGuiWindow &window, const HookPlan &plan)
 {
     if (plan.shotPath.isEmpty())
         return;
+    if (plan.shotAfterSec > 0.) {
+        after(window, plan.shotAfterSec * 1000.,
+              [&window, path = plan.shotPath] { saveScreenshot(window, path); });
+        return;
+    }
     for (int round = 0; round < shotRounds; ++round) {
         QElapsedTimer clock;
         clock.start();
@@ -165,10 +178,7 @@ void takeHookScreenshot(PlayerGuiWindow &window, const HookPlan &plan)
         if (window.isVisible() && window.width() > 1 && window.height() > 1)
             break;
     }
-    const bool saved = window.grab().save(plan.shotPath);
-    std::fprintf(stderr, "[shot] %s -> %s (visible=%d %dx%d)\n", qUtf8Printable(plan.shotPath),
-                 saved ? "saved" : "FAILED", window.isVisible() ? 1 : 0, window.width(), window.height());
-    std::fflush(stderr);
+    saveScreenshot(window, plan.shotPath);
 }
 
 void armHooks(PlayerGuiWindow &window, const HookPlan &plan)

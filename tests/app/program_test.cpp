@@ -167,6 +167,19 @@ TEST_F(Program, TheScreenshotHookSavesAPicture)
     EXPECT_GT(QFileInfo(picture).size(), 1000);
 }
 
+TEST_F(Program, TheScreenshotMayBeTakenLater)
+{
+    const QString picture = m_root.filePath(u"later.png"_s);
+    set(u"KELP_GUI_SHOT"_s, picture);
+    set(u"KELP_GUI_SHOT_AFTER"_s, u"0.5"_s);
+    set(u"KELP_GUI_QUIT_AFTER"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_TRUE(process.readAllStandardError().contains("-> saved (visible=1"));
+    EXPECT_GT(QFileInfo(picture).size(), 1000);
+}
+
 TEST_F(Program, ABadRowMoveIsReportedAndTheProgramGoesOn)
 {
     set(u"KELP_GUI_MOVEROW"_s, u"7"_s);
