@@ -5,6 +5,7 @@
 #include "app/settings_store.h"
 #include "app/startup.h"
 #include "platform/console_streams.h"
+#include "platform/process_facts.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QApplication>
@@ -63,6 +64,7 @@ int runWindow(const QStringList &arguments)
 
 int main(int argc, char **argv)
 {
+    keepMemoryTogether();
     ensureStandardStreams();
     const QStringList arguments = ownArguments(argc, argv);
     const bool console = startup::isConsoleRole(arguments);
