@@ -18,8 +18,8 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include <cstdio>
 #include <chrono>
+#include <cstdio>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -128,8 +128,9 @@ void showWindow(PlayerGuiWindow &window)
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
     window.show();
     window.noteShown();
-    // The engine's library draws in dozens of others: it is loaded a moment after the window is up, so that the
-    // first track need not wait for it and the first picture of the window need not share the processor with it.
+    // The engine's library draws in dozens of others: it is loaded a moment after the window is up, so that
+    // the first track need not wait for it and the first picture of the window need not share the processor
+    // with it.
     QTimer::singleShot(preloadDelay, &window, [] {
         kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
         std::thread([library] { library->preload(); }).detach();
