@@ -17,9 +17,22 @@ thread_local AlsaMessages *current = nullptr;
 
 } // namespace
 
+namespace {
+
+/// Each step of ALSA's configuration reader repeats the failure of the step before it; only the first tells
+/// a listener something.
+bool repeatsAnother(const std::string &message)
+{
+    return message.find(" returned error: ") != std::string::npos ||
+           message.starts_with("error evaluating") || message.starts_with("Evaluate error") ||
+           message.starts_with("Unknown PCM");
+}
+
+} // namespace
+
 void takeAlsaMessage(const std::string &message)
 {
-    if (!current || current->text_.size() > maxMessageChars)
+    if (!current || current->text_.size() > maxMessageChars || repeatsAnother(message))
         return;
     std::string line = message;
     // One line, and no apostrophes: a reader of our lines takes "device '" for a missing endpoint.
