@@ -1,6 +1,6 @@
 #include "ui/window/player_gui_window.h"
 
-#include "engine/line_mailbox.h"
+#include "engine/telemetry_mailbox.h"
 #include "ui/style_sheet.h"
 
 #include <QStatusBar>
@@ -23,6 +23,7 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     setWindowTitle(u"Kelp Player"_s);
     setFont(interfaceFont());
     setStyleSheet(darkStyleSheet());
+    buildInstrumentTimers();
     buildLayout();
     statusBar()->hide();
     setMinimumSize(leastSize);
