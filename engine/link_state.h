@@ -4,6 +4,8 @@
 
 #include "engine/control_log_count.h"
 #include "engine/player_session.h"
+#include "engine/probe_worker.h"
+#include "engine/telemetry_mailbox.h"
 
 #include <QFile>
 #include <QMap>
@@ -12,18 +14,18 @@
 #include <QTimer>
 #include <memory>
 
-class LineMailbox;
-
 struct EngineLinkState
 {
     QString playerBin;       ///< the engine's program, empty while not found
     QString playerBinSource; ///< translated label of where it was found
 
-    std::unique_ptr<PlayerSession> session; ///< lives from one ensureSession to the next
-    std::shared_ptr<LineMailbox> mailbox;   ///< shared with threads of the session's
-    QTimer *pollTimer = nullptr;            ///< child of the window
+    std::unique_ptr<PlayerSession> session;    ///< lives from one ensureSession to the next
+    std::shared_ptr<TelemetryMailbox> mailbox; ///< shared with threads of the session's
+    QTimer *pollTimer = nullptr;               ///< child of the window
     /// Raised at every start of a session; tells the end of this run from that of an earlier one.
     int startCount = 0;
+
+    std::unique_ptr<ProbeWorker> probes = std::make_unique<ProbeWorker>();
 
     QMap<QString, QString> fxLast; ///< the last line sent for each effect
     int queuedCtlCount = 0;        ///< lines queued since the last closure check

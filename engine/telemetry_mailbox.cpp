@@ -29,7 +29,20 @@ TelemetryMailbox::TelemetryMailbox(PostLine postLine, PostDrain postDrain)
 {
 }
 
+void TelemetryMailbox::close()
+{
+    const std::lock_guard lock(m_gate);
+    m_closed = true;
+}
+
 void TelemetryMailbox::put(const QString &line, bool isStderr)
+{
+    const std::lock_guard lock(m_gate);
+    if (!m_closed)
+        putLine(line, isStderr);
+}
+
+void TelemetryMailbox::putLine(const QString &line, bool isStderr)
 {
     const std::optional<std::size_t> slot = slotOf(line, isStderr);
     if (!slot) {

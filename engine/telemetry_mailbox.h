@@ -28,6 +28,9 @@ public:
     void put(const QString &line, bool isStderr);
     /// Delivers what the slots hold, in their order.
     void drain(const Deliver &deliver);
+    /// From now on lines are dropped and the callbacks are not called: a thread of a session that could not
+    /// be ended may speak long after its listener has gone. Returns when no callback runs any more.
+    void close();
     /// How many lines have come for a slot, delivered or not.
     qint64 countOf(std::size_t slot) const;
 
@@ -40,8 +43,12 @@ private:
         bool full = false;
     };
 
+    void putLine(const QString &line, bool isStderr);
+
     const PostLine m_postLine;
     const PostDrain m_postDrain;
+    std::mutex m_gate;     ///< held while a callback runs; guards m_closed
+    bool m_closed = false; ///< guarded by m_gate
     mutable std::mutex m_mutex;
     std::array<Slot, slotCount> m_slots;      ///< guarded by m_mutex
     std::atomic<bool> m_mailboxPosted{false}; ///< a drain is on its way to the GUI thread

@@ -22,9 +22,10 @@ struct DeviceState
     /// All device combos: the primary one first, then one a channel. Same rows in the same order; the data of
     /// a row is the engine's id, empty for the system's default. Owned by their parents.
     QList<QComboBox *> deviceCombos;
-    bool devicesRestored = false;   ///< the remembered selection is read once
-    bool populatingDevices = false; ///< rows are being rebuilt: their signals are no choices
-    QString lastBusyDevice;         ///< the engine reported it as held exclusively by somebody else
-    QString lastMissingDevice;      ///< the engine reported it as not found
-    std::future<DeviceListing> pendingListing; ///< valid while the first listing is under way
+    bool devicesRestored = false;            ///< the remembered selection is read once
+    bool populatingDevices = false;          ///< rows are being rebuilt: their signals are no choices
+    QString lastBusyDevice;                  ///< the engine reported it as held exclusively by somebody else
+    QString lastMissingDevice;               ///< the engine reported it as not found
+    std::future<DeviceListing> firstListing; ///< valid while the window is being built
+    bool refreshPending = false;             ///< a listing is at the probe worker
 };

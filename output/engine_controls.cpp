@@ -156,9 +156,9 @@ void EngineControls::buildDecoding(QGridLayout *grid)
                        {u"16"_s, u"24"_s, u"32"_s, u"float32"_s});
     pcmBits->setCurrentIndex(1);
     pcmFilter = addCombo(grid, tr("解码滤波器"), tr("DSD 解码成 PCM 的滤波器：越好越费算力。"));
-    pcmFilter->addItem(tr("快速"), u"fast"_s);
-    pcmFilter->addItem(tr("标准"), u"standard"_s);
-    pcmFilter->addItem(tr("最佳"), u"best"_s);
+    for (const QString &code : {u"fast"_s, u"standard"_s, u"best"_s})
+        pcmFilter->addItem(QString(), code);
+    namePcmFilters(-1);
     pcmFilter->setCurrentIndex(1);
     pcmToDsd = addCheck(grid, tr("PCM 转 DSD"), tr("把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。"));
     pcmToDsdTarget = addCombo(grid, tr("目标速率"), tr("调制后的 DSD 速率。"));
@@ -221,7 +221,27 @@ void EngineControls::watch()
     for (QDoubleSpinBox *spin : findChildren<QDoubleSpinBox *>())
         connect(spin, &QDoubleSpinBox::valueChanged, this, notify);
     connect(extDecoder, &QLineEdit::editingFinished, this, notify);
-    connect(pcmFilter, &QComboBox::activated, this, &EngineControls::pcmFilterChosen);
+    connect(pcmFilter, &QComboBox::activated, this, [this] {
+        namePcmFilters(-1);
+        Q_EMIT pcmFilterChosen();
+    });
+}
+
+void EngineControls::namePcmFilters(int markedRow)
+{
+    const QStringList names = {tr("快速"), tr("标准"), tr("最佳")};
+    for (int row = 0; row < pcmFilter->count(); ++row)
+        pcmFilter->setItemText(row, row == markedRow ? tr("%1（自动）").arg(names.at(row)) : names.at(row));
+}
+
+void EngineControls::showPcmFilter(const QString &name, bool automatic)
+{
+    const int row = pcmFilter->findData(name);
+    if (row < 0)
+        return;
+    const QSignalBlocker block(pcmFilter);
+    pcmFilter->setCurrentIndex(row);
+    namePcmFilters(automatic ? row : -1);
 }
 
 void EngineControls::refreshDependents()

@@ -48,6 +48,9 @@ public:
     QLineEdit *extDecoder = nullptr;
 
     int channelCount() const { return layoutChoice->currentData().toInt(); }
+    /// Shows the decode filter that the engine has taken, marked when the engine chose it. Tells nobody; a
+    /// name that is none of the choices changes nothing.
+    void showPcmFilter(const QString &name, bool automatic);
     /// Enables and shows what the present choices give a meaning to. Called by every change; call it after
     /// values have been set with signals blocked.
     void refreshDependents();
@@ -77,6 +80,7 @@ private:
                             double high, int decimals);
     void addRow(QGridLayout *grid, const QString &name, const QString &tip, QWidget *control);
     void watch();
+    void namePcmFilters(int markedRow);
 
     QBoxLayout *m_columns;
     QList<QWidget *> m_channelRows; ///< label and combo of each channel, in pairs

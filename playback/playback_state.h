@@ -48,16 +48,3 @@ struct PreloadState
     double totalSec = 0.;    ///< likewise
     bool diagnosisDone = false;
 };
-
-/// What the position lines have told.
-struct ProgressState
-{
-    bool firstPgSeen = false; ///< this session's
-    bool audioHasStarted = false;
-    bool metricsLogged = false; ///< once a run of the program
-    double percent = 0.;
-    double lastPosSec = 0.;
-    int lastPosRow = -1;
-    double lastTotalSec = 0.;
-    int lastLoggedStep = -1; ///< the last tenth that was logged
-};

@@ -20,10 +20,10 @@ PlaylistWidget::PlaylistWidget(QWidget *parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
 }
 
-void PlaylistWidget::appendEntry(const PlaylistEntry &entry)
+void PlaylistWidget::appendEntry(const PlaylistEntry &entry, const QString &toolTip)
 {
     auto *item = new QListWidgetItem(entry.text, this);
-    item->setToolTip(entry.path);
+    item->setToolTip(toolTip.isEmpty() ? entry.path : toolTip);
     item->setData(playlist_role::path, entry.path);
     if (!entry.isContainerTrack())
         return;

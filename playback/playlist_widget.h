@@ -14,7 +14,8 @@ class PlaylistWidget final : public QListWidget
 public:
     explicit PlaylistWidget(QWidget *parent = nullptr);
 
-    void appendEntry(const PlaylistEntry &entry);
+    /// \param toolTip empty: the path
+    void appendEntry(const PlaylistEntry &entry, const QString &toolTip = {});
     /// An empty entry for a row that does not exist.
     PlaylistEntry entryAt(int row) const;
     static PlaylistEntry entryOf(const QListWidgetItem &item);

@@ -39,17 +39,20 @@ DisplayPanel::DisplayPanel(QWidget *parent)
     , m_format(label(this, "vesperVfdFormat"_L1))
     , m_title(label(this, "vesperVfdTitle"_L1))
     , m_second(label(this, "vesperVfdArtist"_L1))
+    , m_signal(label(this, "vesperVfdSignal"_L1))
+    , m_levels(label(this, "vesperVfdLevels"_L1))
     , m_time(label(this, "vesperVfdTime"_L1))
     , m_status(label(this, "vesperVfdStatus"_L1))
 {
     setObjectName("vesperVfd"_L1);
-    for (QLabel *caption : {m_meta, m_format, m_status})
+    for (QLabel *caption : {m_meta, m_format, m_signal, m_levels, m_status})
         caption->setFont(figureFont(captionPixels));
     m_time->setFont(figureFont(timePixels));
     m_title->setAccessibleName(tr("曲名"));
     m_time->setAccessibleName(tr("位置"));
     m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    m_second->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    for (QLabel *elastic : {m_second, m_signal})
+        elastic->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
     auto *top = new QHBoxLayout;
     top->addWidget(m_meta);
@@ -58,6 +61,9 @@ DisplayPanel::DisplayPanel(QWidget *parent)
     auto *line = new QFrame(this);
     line->setObjectName("vesperVfdLine"_L1);
     line->setFixedHeight(1);
+    auto *facts = new QHBoxLayout;
+    facts->addWidget(m_signal, 1);
+    facts->addWidget(m_levels);
     auto *bottom = new QHBoxLayout;
     bottom->addWidget(m_time);
     bottom->addStretch();
@@ -70,6 +76,7 @@ DisplayPanel::DisplayPanel(QWidget *parent)
     box->addWidget(m_title);
     box->addWidget(m_second);
     box->addStretch();
+    box->addLayout(facts);
     box->addWidget(line);
     box->addLayout(bottom);
     showTrack(-1, {}, {}, {});
@@ -106,6 +113,27 @@ void DisplayPanel::showStatus(const QString &word, bool sounding)
     for (QWidget *lit :
          {static_cast<QWidget *>(m_status), static_cast<QWidget *>(m_time), static_cast<QWidget *>(m_meta)})
         setSounding(lit, sounding);
+}
+
+void DisplayPanel::showLevels(double leftDb, double rightDb)
+{
+    m_levels->setText(u"L %1  R %2 dB"_s.arg(leftDb, 6, 'f', 1).arg(rightDb, 6, 'f', 1));
+}
+
+void DisplayPanel::showSignal(const QString &words, const QString &tip, bool warns)
+{
+    m_signal->setText(words);
+    m_signal->setToolTip(tip);
+    if (m_signal->property("chainWarn").toBool() == warns)
+        return;
+    m_signal->setProperty("chainWarn", warns);
+    m_signal->style()->unpolish(m_signal);
+    m_signal->style()->polish(m_signal);
+}
+
+void DisplayPanel::showChainFacts(const QString &lines)
+{
+    m_format->setToolTip(lines);
 }
 
 void DisplayPanel::resizeEvent(QResizeEvent *event)

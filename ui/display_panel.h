@@ -19,6 +19,13 @@ public:
     /// The transport's state in a word, and whether sound is flowing.
     void showStatus(const QString &word, bool sounding);
 
+    /// Peak levels in dB relative to full scale.
+    void showLevels(double leftDb, double rightDb);
+    /// What becomes of the samples, in words; \param warns something changes them.
+    void showSignal(const QString &words, const QString &tip, bool warns);
+    /// The engine's facts on the chain, a line each, as the format's tool tip.
+    void showChainFacts(const QString &lines);
+
 protected:
     void resizeEvent(QResizeEvent *event) override;
 
@@ -29,6 +36,8 @@ private:
     QLabel *m_format;
     QLabel *m_title;
     QLabel *m_second;
+    QLabel *m_signal;
+    QLabel *m_levels;
     QLabel *m_time;
     QLabel *m_status;
     QString m_titleText;

@@ -1,9 +1,9 @@
 #include "ui/progress_row.h"
 
+#include "engine/progress_display.h"
 #include "ui/style_sheet.h"
 
 #include <QHBoxLayout>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -11,7 +11,6 @@ namespace {
 
 constexpr int rowHeight = 36;
 constexpr int barHeight = 2;
-constexpr int stepsPerPercent = 100;
 constexpr int figurePixels = 12;
 
 } // namespace
@@ -27,7 +26,7 @@ ProgressRow::ProgressRow(QWidget *parent)
     m_text->setFont(figureFont(figurePixels));
     m_text->setAccessibleName(tr("位置"));
     m_bar->setObjectName("vesperDial"_L1);
-    m_bar->setRange(0, 100 * stepsPerPercent);
+    m_bar->setRange(0, progressBarMaximum);
     m_bar->setTextVisible(false);
     m_bar->setFixedHeight(barHeight);
     m_bar->setAccessibleName(tr("播放进度"));
@@ -41,9 +40,9 @@ ProgressRow::ProgressRow(QWidget *parent)
     row->addWidget(m_bar, 1);
 }
 
-void ProgressRow::showPercent(double percent)
+void ProgressRow::showBar(int value)
 {
-    m_bar->setValue(static_cast<int>(std::lround(std::clamp(percent, 0., 100.) * stepsPerPercent)));
+    m_bar->setValue(value);
 }
 
 void ProgressRow::showText(const QString &text, const QString &tip)

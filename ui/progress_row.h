@@ -13,8 +13,8 @@ class ProgressRow final : public QFrame
 public:
     explicit ProgressRow(QWidget *parent = nullptr);
 
-    /// \param percent 0 to 100
-    void showPercent(double percent);
+    /// \param value 0 to progressBarMaximum
+    void showBar(int value);
     /// \param tip explains the text where it needs to
     void showText(const QString &text, const QString &tip = {});
 

@@ -26,7 +26,9 @@ QLabel#vesperSetName { color: #CFC9BF; }
 QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
 QFrame#vesperVfd { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #08080A, stop:1 #0C0C0F);
     border: 1px solid #2C2C35; border-radius: 6px; }
-QLabel#vesperVfdMeta, QLabel#vesperVfdStatus { color: #8A857C; font-size: 11px; }
+QLabel#vesperVfdMeta, QLabel#vesperVfdStatus, QLabel#vesperVfdSignal, QLabel#vesperVfdLevels { color: #8A857C;
+  font-size: 11px; }
+QLabel#vesperVfdSignal[chainWarn="true"] { color: #C9A96E; }
 QLabel#vesperVfdMeta[sounding="true"], QLabel#vesperVfdStatus[sounding="true"] { color: #C9A96E; }
 QLabel#vesperVfdFormat { border: 1px solid #2C2C35; border-radius: 3px; color: #B9B3A8; font-size: 11px;
     padding: 1px 8px; }

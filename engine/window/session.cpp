@@ -4,7 +4,7 @@
 #include "app/settings_store.h"
 #include "app/stall_report.h"
 #include "engine/control_closure.h"
-#include "engine/line_mailbox.h"
+#include "engine/telemetry_mailbox.h"
 #include "platform/settings_table.h"
 
 #include <QDateTime>
@@ -17,7 +17,7 @@ namespace {
 constexpr int pollIntervalMs = 50;
 constexpr int oldSessionWaitMs = 2000;
 constexpr int lagTestAfterMs = 1500;
-constexpr int lagTestMs = 300;
+constexpr int lagTestMs = 600;
 
 } // namespace
 
@@ -44,6 +44,7 @@ void PlayerGuiWindow::ensureSession()
     // What a session that would not end still says is no news of the next one.
     if (m_link.mailbox)
         m_link.mailbox->close();
+    clearDelayedTelemetry();
     delete m_link.pollTimer;
     m_link.pollTimer = nullptr;
 
@@ -59,20 +60,12 @@ void PlayerGuiWindow::ensureSession()
 void PlayerGuiWindow::installSinks()
 {
     // The sinks run on threads of the session's and may outlive this session, never this window: they queue.
-    m_link.mailbox = std::make_shared<LineMailbox>(
+    m_link.mailbox = std::make_shared<TelemetryMailbox>(
         [this](const QString &line, bool isStderr) {
             QMetaObject::invokeMethod(
                 this, [this, line, isStderr] { onEngineLine(line, isStderr); }, Qt::QueuedConnection);
         },
-        [this] {
-            QMetaObject::invokeMethod(
-                this,
-                [this] {
-                    m_link.mailbox->drain(
-                        [this](const QString &line, bool isStderr) { onEngineLine(line, isStderr); });
-                },
-                Qt::QueuedConnection);
-        });
+        [this] { QMetaObject::invokeMethod(this, &PlayerGuiWindow::drainMailbox, Qt::QueuedConnection); });
     m_link.session->lineSink = [mailbox = m_link.mailbox](const QString &line, bool isStderr) {
         mailbox->put(line, isStderr);
     };

@@ -2,7 +2,6 @@
 #include "ui/window/player_gui_window.h"
 
 #include "app/settings_store.h"
-#include "engine/output_lines.h"
 #include "output/device_list.h"
 #include "platform/settings_table.h"
 
@@ -26,14 +25,14 @@ DeviceListing listDevices(const WindowOptions::Probe &probe, const QString &play
 void PlayerGuiWindow::beginDeviceListing()
 {
     locateEngine();
-    m_devices.pendingListing = std::async(std::launch::async, listDevices, m_options.probe, m_link.playerBin);
+    m_devices.firstListing = std::async(std::launch::async, listDevices, m_options.probe, m_link.playerBin);
 }
 
 void PlayerGuiWindow::populateDevicesBlocking()
 {
-    if (!m_devices.pendingListing.valid())
+    if (!m_devices.firstListing.valid())
         beginDeviceListing();
-    applyDeviceList(m_devices.pendingListing.get());
+    applyDeviceList(m_devices.firstListing.get());
 }
 
 void PlayerGuiWindow::populateDevices()
@@ -42,19 +41,13 @@ void PlayerGuiWindow::populateDevices()
         logLine(u"[gui] 播放中: 暂不重新探测设备 (碰端点会有轻微爆音), 停止播放后再刷新"_s);
         return;
     }
-    if (m_devices.pendingListing.valid())
+    if (std::exchange(m_devices.refreshPending, true))
         return;
-    beginDeviceListing();
-    auto *waiting = new QTimer(this);
-    connect(waiting, &QTimer::timeout, this, [this, waiting] {
-        if (m_devices.pendingListing.wait_for(std::chrono::seconds(0)) != std::future_status::ready)
-            return;
-        waiting->deleteLater();
-        waiting->stop();
-        populateDevicesBlocking();
+    locateEngine();
+    askEngine({u"-list"_s}, probeLimitMs, [this](const PlayerProbeResult &result) {
+        m_devices.refreshPending = false;
+        applyDeviceList({result, {}});
     });
-    constexpr int lookIntervalMs = 50;
-    waiting->start(lookIntervalMs);
 }
 
 void PlayerGuiWindow::applyDeviceList(const DeviceListing &listing)
@@ -110,24 +103,6 @@ QString PlayerGuiWindow::currentDeviceName() const
             return id;
     }
     return {};
-}
-
-void PlayerGuiWindow::noteDeviceFact(const QString &text)
-{
-    switch (engine_line::deviceFactOf(text)) {
-    case engine_line::DeviceFact::Opened:
-        m_devices.lastBusyDevice.clear();
-        m_devices.lastMissingDevice.clear();
-        break;
-    case engine_line::DeviceFact::ExclusiveRefused:
-        m_devices.lastBusyDevice = currentDeviceName();
-        break;
-    case engine_line::DeviceFact::EndpointMissing:
-        m_devices.lastMissingDevice = currentDeviceName();
-        break;
-    case engine_line::DeviceFact::None:
-        break;
-    }
 }
 
 void PlayerGuiWindow::applyDeviceProfile() {}

@@ -1,11 +1,12 @@
 // The position, and the next track that is handed over before this one ends.
 #include "ui/window/player_gui_window.h"
 
+#include "app/settings_store.h"
 #include "output/engine_controls.h"
+#include "platform/settings_table.h"
 #include "playback/playlist_widget.h"
 #include "playback/preload.h"
 #include "playback/row_order.h"
-#include "playback/time_text.h"
 #include "ui/display_panel.h"
 #include "ui/progress_row.h"
 
@@ -16,68 +17,74 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int metricsDelayMs = 1500;
-constexpr int percentPerStep = 10;
-constexpr double speedTolerance = 1e-6;
 
 } // namespace
 
-void PlayerGuiWindow::resetTrackState()
+void PlayerGuiWindow::resetTrackState(double startSec)
 {
-    const bool metricsLogged = m_progress.metricsLogged;
-    const double lastPosSec = m_progress.lastPosSec;
-    const int lastPosRow = m_progress.lastPosRow;
-    m_progress = {};
-    m_progress.metricsLogged = metricsLogged;
-    m_progress.lastPosSec = lastPosSec;
-    m_progress.lastPosRow = lastPosRow;
+    m_progress.resetForTrack(startSec);
+    m_lines.resetForTrack();
+    // Whoever waits for the track's announcement must not take the last one's for it.
+    m_lines.sourceInfo.reset();
     m_preload = {};
     m_start.paused = false;
-    m_output.sourceInfo.reset();
-    m_output.lastScanStep = -1;
-    m_ui.progress->showPercent(0.);
-    m_ui.progress->showText(minutesText(0.));
+    m_ui.progress->showBar(0);
+    m_ui.progress->showText(clockText(0.));
 }
 
-void PlayerGuiWindow::onProgress(double percent, double positionSec, double totalSec)
+void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
-    if (!std::exchange(m_progress.firstPgSeen, true)) {
-        const QString total = totalSec > 0. ? QString::number(totalSec, 'f', 1) : tr("未知");
-        logLine(tr("收到进度 (PG): 已播 %1 s / 共 %2 s").arg(positionSec, 0, 'f', 1).arg(total));
-    }
     if (m_preload.pending && m_preload.row >= 0 &&
-        preloadTaken({m_preload.positionSec, m_preload.totalSec, positionSec, totalSec}))
+        preloadTaken({m_preload.positionSec, m_preload.totalSec, progress.positionSec, progress.totalSec}))
         autoAdvanceTaken();
-    updateProgress(percent, positionSec, totalSec);
+    m_progress.lastPosSec = progress.positionSec;
+    updateProgress(progress.percent, progress.positionSec, progress.totalSec);
     checkPreload();
 }
 
 void PlayerGuiWindow::updateProgress(double percent, double positionSec, double totalSec)
 {
-    const double shownPercent = std::clamp(percent, 0., 100.);
-    if (positionSec > 0. || shownPercent > 0.)
-        m_progress.audioHasStarted = true;
-    if (!std::exchange(m_progress.metricsLogged, true))
+    const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
+    ProgressFacts facts;
+    facts.percent = percent;
+    facts.positionSec = positionSec;
+    facts.totalSec = totalSec;
+    facts.row = m_start.currentRow;
+    facts.itemDurationSec = std::max(0., entry.endSec - entry.startSec);
+    facts.speedRatio = m_ui.engine->speedRatio->value();
+    facts.resumeTracked = !entry.path.isEmpty() && !entry.isContainerTrack();
+
+    const ProgressDisplay display = ::updateProgress(m_progress, facts);
+    if (display.startMetricsTimer)
         QTimer::singleShot(metricsDelayMs, this, &PlayerGuiWindow::reportStartupMetrics);
-    m_progress.percent = shownPercent;
-    m_ui.progress->showPercent(shownPercent);
-    if (positionSec >= 0.) {
-        m_progress.lastPosSec = positionSec;
-        m_progress.lastPosRow = m_start.currentRow;
-        m_progress.lastTotalSec = totalSec;
-        const double speed = m_ui.engine->speedRatio->value();
-        QString tip;
-        if (std::abs(speed - 1.) > speedTolerance && totalSec > 0.)
-            tip = tr("位置和总长按源的时间线；以 %1 倍速播完约需 %2")
-                      .arg(speedText(speed), minutesText(totalSec / speed));
-        const QString text = positionText(positionSec, totalSec, speed);
-        m_ui.progress->showText(text, tip);
-        m_ui.display->showTime(text, tip);
+    m_ui.progress->showBar(display.barValue);
+    if (display.saveResumePosition)
+        saveResumePosition();
+    if (display.position) {
+        m_ui.progress->showText(display.position->text, display.position->toolTip);
+        m_ui.display->showTime(display.position->text, display.position->toolTip);
     }
-    const int step = static_cast<int>(shownPercent) / percentPerStep;
-    if (step > m_progress.lastLoggedStep) {
-        m_progress.lastLoggedStep = step;
-        logLine(tr("进度 %1%").arg(step * percentPerStep));
-    }
+    if (!display.logText.isEmpty())
+        logLine(display.logText);
+}
+
+void PlayerGuiWindow::saveResumePosition()
+{
+    const QString path = m_ui.playlist->entryAt(m_start.currentRow).path;
+    SettingsStore file;
+    QSettingsAccess store(file);
+    writeSetting(store, settings::resumePath, QFileInfo(path).absoluteFilePath());
+    writeSetting(store, settings::resumeSec, m_progress.lastPosSec);
+}
+
+void PlayerGuiWindow::forgetResumePosition(const QString &path)
+{
+    SettingsStore file;
+    QSettingsAccess store(file);
+    if (path.isEmpty() || readSetting(store, settings::resumePath) != QFileInfo(path).absoluteFilePath())
+        return;
+    writeSetting(store, settings::resumePath, QString());
+    writeSetting(store, settings::resumeSec, 0.);
 }
 
 void PlayerGuiWindow::checkPreload()
@@ -119,6 +126,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     if (count == 0 || taken.row < 0 || taken.row >= count || m_start.userStopped || m_start.sessionClosing)
         return;
     commitPlayStat();
+    forgetResumePosition(m_start.lastPlayed);
     // A row number alone proves nothing: another file may have moved into its place.
     if (!advanceRow() || m_start.currentRow != taken.row ||
         m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
@@ -129,8 +137,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
             true);
     }
     m_start.lastStartedRow = m_start.currentRow;
-    m_progress.percent = 0.;
-    m_progress.lastLoggedStep = -1;
+    m_progress.resetForTrack();
     const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
     setLastPlayed(entry);
     showTrackOf(m_start.currentRow);

@@ -38,14 +38,17 @@ void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
     facts.userStopped = m_start.userStopped;
     facts.restartPending = m_start.restartPending;
     facts.sessionClosing = m_start.sessionClosing;
-    facts.progressPercent = m_progress.percent;
-    facts.lastEngineLine = m_output.lastEngineLine;
+    facts.progressPercent = m_progress.progressPercent;
+    facts.lastEngineLine = m_lines.lastEngineLine;
 
     const SessionEndVerdict verdict = sessionEndVerdict(facts);
     if (verdict.ignoreTimePassed)
         m_start.ignoreDoneUntilMs = 0;
-    if (verdict.kind != SessionEndVerdict::Kind::Ignored && m_link.noAudioTimer)
-        m_link.noAudioTimer->stop();
+    if (verdict.kind != SessionEndVerdict::Kind::Ignored) {
+        clearDelayedTelemetry();
+        if (m_link.noAudioTimer)
+            m_link.noAudioTimer->stop();
+    }
     for (const SessionEndVerdict::Line &line : verdict.lines)
         logLine(line.text, line.isError);
     switch (verdict.kind) {
@@ -107,6 +110,7 @@ void PlayerGuiWindow::onDoneLine()
         autoAdvanceTaken();
         return;
     }
+    forgetResumePosition(m_start.lastPlayed);
     if (m_start.userStopped || m_start.sessionClosing) {
         commitPlayStat();
         return;
@@ -150,7 +154,7 @@ void PlayerGuiWindow::noAudioWatchdog()
 {
     if (!sessionRuns() || m_start.paused)
         return;
-    const NoAudioReport report = noAudioReport(m_output.lastEngineLine);
+    const NoAudioReport report = noAudioReport(m_lines.lastEngineLine);
     logLine(report.text, report.isError);
     logLine(report.checkList, true);
 }

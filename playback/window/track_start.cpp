@@ -75,7 +75,7 @@ void PlayerGuiWindow::playCurrentUnguarded()
     logStart(plan, entry, built.args);
 
     ++m_start.playGeneration;
-    resetTrackState();
+    resetTrackState(plan.startSec);
     showTrackOf(m_start.currentRow);
     setLastPlayed(entry);
     setPlayingUi(true);

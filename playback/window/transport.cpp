@@ -2,6 +2,7 @@
 #include "ui/window/player_gui_window.h"
 
 #include "engine/device_reset.h"
+#include "playback/container_listing.h"
 #include "playback/playlist_widget.h"
 #include "playback/row_order.h"
 #include "playback/track_start.h"
@@ -167,5 +168,13 @@ void PlayerGuiWindow::debugAutoplay(const QString &path, const QString &device)
 {
     if (!device.isEmpty())
         selectDevice(m_ui.device, device);
-    startPlayback(appendFile(QFileInfo(path).absoluteFilePath()));
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (!isContainerPath(absolute)) {
+        startPlayback(appendFile(absolute));
+        return;
+    }
+    expandContainerAsync(absolute, [this](int count) {
+        if (count > 0)
+            startPlayback(m_ui.playlist->count() - count);
+    });
 }

@@ -84,6 +84,17 @@ TEST(TelemetryMailbox, ShortTelemetryPrefixCountsFromFourCharactersOn)
     EXPECT_EQ(f.mailbox.countOf(2), 1);
 }
 
+TEST(TelemetryMailbox, AClosedBoxIsDeaf)
+{
+    Fixture f;
+    f.mailbox.close();
+    f.mailbox.put(u"PG 1 1 9"_s, false);
+    f.mailbox.put(u"OPENED"_s, false);
+    EXPECT_TRUE(f.posted.isEmpty());
+    EXPECT_EQ(f.drains, 0);
+    EXPECT_EQ(f.drained(), QStringList());
+}
+
 TEST(TelemetryMailbox, ErrorLinesAreNeverTelemetry)
 {
     Fixture f;

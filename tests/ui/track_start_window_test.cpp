@@ -185,7 +185,7 @@ TEST_F(Playback, WhatTheEndedTrackLeftInTheMailboxIsNotNewsOfTheNext)
     m_engine.current->say(u"PG 100 10 10"_s);
     settle();
     EXPECT_EQ(start().currentRow, 1);
-    EXPECT_EQ(WindowInspector::progress(*m_window).percent, 0.);
+    EXPECT_EQ(WindowInspector::progress(*m_window).progressPercent, 0.);
 }
 
 TEST_F(Playback, AnEndTooEarlyStopsTheList)

@@ -17,7 +17,10 @@ struct WindowInspector
     static EngineLinkState &link(PlayerGuiWindow &window) { return window.m_link; }
     static TrackStartState &start(PlayerGuiWindow &window) { return window.m_start; }
     static PreloadState &preload(PlayerGuiWindow &window) { return window.m_preload; }
-    static ProgressState &progress(PlayerGuiWindow &window) { return window.m_progress; }
+    static TrackProgressState &progress(PlayerGuiWindow &window) { return window.m_progress; }
+    static EngineLineState &lines(PlayerGuiWindow &window) { return window.m_lines; }
+    static InstrumentState &instruments(PlayerGuiWindow &window) { return window.m_instruments; }
+    static SignalState &signal(PlayerGuiWindow &window) { return window.m_signal; }
     static DeviceState &devices(PlayerGuiWindow &window) { return window.m_devices; }
 };
 

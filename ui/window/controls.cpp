@@ -30,9 +30,10 @@ void PlayerGuiWindow::connectControls()
     connect(m_ui.playlist, &QListWidget::currentRowChanged, this, &PlayerGuiWindow::refreshNavButtons);
     connect(m_ui.importFiles, &QPushButton::clicked, this, [this] {
         const QStringList paths = QFileDialog::getOpenFileNames(this, tr("导入音频文件"));
-        for (const QString &path : paths)
-            appendFile(path);
+        addFiles(paths);
     });
+
+    connect(m_ui.analyze, &QPushButton::clicked, this, &PlayerGuiWindow::analyzeTrack);
 
     connect(m_ui.engine, &EngineControls::changed, this, &PlayerGuiWindow::saveParams);
     connect(m_ui.engine, &EngineControls::pcmFilterChosen, this, [this] {

@@ -121,6 +121,10 @@ QWidget *PlayerGuiWindow::buildPlaylistPanel()
     m_ui.importFiles->setObjectName("vesperLoadBtn"_L1);
     m_ui.importFiles->setToolTip(tr("把音频文件加到列表末尾"));
     buttons->addWidget(m_ui.importFiles);
+    m_ui.analyze = new QPushButton(tr("分析曲目"), panel);
+    m_ui.analyze->setObjectName("vesperLoadBtn"_L1);
+    m_ui.analyze->setToolTip(tr("测出选中曲目的速度和调性；不改动文件"));
+    buttons->addWidget(m_ui.analyze);
     buttons->addStretch();
     rows->addLayout(buttons);
     return panel;
@@ -217,10 +221,11 @@ QWidget *PlayerGuiWindow::buildStatusLine()
 
 void PlayerGuiWindow::orderTabs()
 {
-    const QList<QWidget *> order = {m_ui.playlist,       m_ui.importFiles,    m_ui.engineSwitch,
-                                    m_ui.device,         m_ui.refreshDevices, m_ui.dock->stop,
-                                    m_ui.dock->previous, m_ui.dock->start,    m_ui.dock->next,
-                                    m_ui.dock->volume,   m_ui.logSwitch,      m_ui.log};
+    const QList<QWidget *> order = {m_ui.playlist,     m_ui.importFiles,    m_ui.analyze,
+                                    m_ui.engineSwitch, m_ui.device,         m_ui.refreshDevices,
+                                    m_ui.dock->stop,   m_ui.dock->previous, m_ui.dock->start,
+                                    m_ui.dock->next,   m_ui.dock->volume,   m_ui.logSwitch,
+                                    m_ui.log};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
     // The engine's settings keep their own order, behind the switch that opens them.

@@ -1,6 +1,6 @@
 #include "ui/window/player_gui_window.h"
 
-#include "engine/line_mailbox.h"
+#include "engine/telemetry_mailbox.h"
 #include "ui/style_sheet.h"
 
 #include <QStatusBar>
@@ -22,6 +22,7 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
     setFont(interfaceFont());
+    buildInstrumentTimers();
     buildLayout();
     // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
     setStyleSheet(darkStyleSheet());

@@ -4,14 +4,17 @@
 
 #include "app/log_state.h"
 #include "engine/command_line.h"
+#include "engine/engine_line_state.h"
 #include "engine/link_state.h"
-#include "engine/output_state.h"
+#include "engine/progress_display.h"
 #include "output/device_state.h"
 #include "playback/playback_state.h"
+#include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
 
 #include <QMainWindow>
+#include <QSet>
 #include <exception>
 
 class QSettings;
@@ -53,6 +56,10 @@ public:
     bool sendCmd(const QString &line);
     bool sessionRuns() const;
     void onEngineLine(const QString &line, bool isStderr);
+    /// Runs a probe beside the GUI thread; its log lines and its answer come back here.
+    void askEngine(const QStringList &args, int timeoutMs, ProbeWorker::Deliver deliver);
+    /// Tempo and key of the current row, told in a message box. Nothing is written to the file.
+    void analyzeTrack();
 
     // ── playback (playback/window) ──
     void startPlayback(int row = -1);
@@ -64,6 +71,11 @@ public:
     void stepRow(int delta);
     /// Appends one plain file; the row's number.
     int appendFile(const QString &path);
+    /// Appends files; a sheet or an image is spread into its tracks when the engine has listed them.
+    void addFiles(const QStringList &paths);
+    /// \param path a sheet or an image, absolute
+    /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
+    void expandContainerAsync(const QString &path, const std::function<void(int count)> &done);
 
     // ── devices (output/window) ──
     void populateDevices();
@@ -76,7 +88,7 @@ public:
     void runRigReport();
 
     // ── what hooks and the self-check ask ──
-    bool trackAnnounced() const { return m_output.sourceInfo.has_value(); }
+    bool trackAnnounced() const { return m_lines.sourceInfo.has_value(); }
     const TrackStartState &trackStart() const { return m_start; }
     const WindowWidgets &widgets() const { return m_ui; }
     /// Rows that could not be restored.
@@ -98,6 +110,7 @@ protected:
     void resizeEvent(QResizeEvent *event) override;
 
 private:
+    friend struct LineActions;     // what is done about each effect of a line
     friend struct WindowInspector; // the tests' view of the state below
 
     // ── ui/window ──
@@ -125,19 +138,18 @@ private:
     void tellNotices(const QList<EngineArgsNotice> &notices);
     void prepareSessionLog();
     void startNoAudioTimer();
-    void writeHostCopy(const QString &line);
-    // The steps of onEngineLine in their order; a true return ends the line.
-    bool collectChain(const QString &text);
-    bool countTelemetry(const QString &text);
-    bool warnLine(const QString &text);
-    bool scanLine(const QString &text);
-    bool sourceLine(const QString &text);
-    bool latencyLine(const QString &text);
-    bool progressLine(const QString &text);
-    bool segmentLine(const QString &text);
-    bool doneLine(const QString &text);
-    bool percentLine(const QString &text);
-    bool plainLine(const QString &text);
+    void drainMailbox();
+    // What is measured is shown when it is heard.
+    void buildInstrumentTimers();
+    void receiveLevels(const LevelLine &levels, double delayMs);
+    void receiveSpectrum(const SpectrumFrame &frame, double delayMs);
+    void releaseLevels();
+    void releaseSpectra();
+    void clearDelayedTelemetry();
+    void showLevels(const LevelLine &levels);
+    void refreshLevelText();
+    void showSpectrum(const SpectrumFrame &frame);
+    void refreshSignalText();
 
     // ── playback/window ──
     void playCurrentUnguarded();
@@ -155,7 +167,7 @@ private:
     void showTrackOf(int row);
     void refreshStartButton();
     void refreshNavButtons();
-    void resetTrackState();
+    void resetTrackState(double startSec);
     bool closeLeftoverSession();
     void setLastPlayed(const PlaylistEntry &entry);
     int baseRow() const;
@@ -170,29 +182,35 @@ private:
     void noAudioWatchdog();
     void checkPreload();
     void autoAdvanceTaken();
-    void onProgress(double percent, double positionSec, double totalSec);
+    void onProgress(const ProgressLine &progress);
     void updateProgress(double percent, double positionSec, double totalSec);
+    void saveResumePosition();
+    void forgetResumePosition(const QString &path);
     void segmentChanged(int number);
     void commitPlayStat();
+
+    int addListedTracks(const QString &path, const PlayerProbeResult &result);
 
     // ── output/window ──
     void beginDeviceListing();
     void applyDeviceList(const DeviceListing &listing);
     void selectDevice(QComboBox *combo, const QString &id);
     void applyDeviceProfile();
-    void noteDeviceFact(const QString &text);
     bool effectsAudible() const;
 
     const WindowOptions m_options;
     WindowWidgets m_ui;
     LogState m_log;
     EngineLinkState m_link;
-    EngineOutputState m_output;
+    EngineLineState m_lines;
+    InstrumentState m_instruments;
+    SignalState m_signal;
     TrackStartState m_start;
     PreloadState m_preload;
-    ProgressState m_progress;
+    TrackProgressState m_progress;
     DeviceState m_devices;
-    bool m_pcmFilterExplicit = false; ///< the user has taken a decode filter by hand
-    bool m_volumeTouched = false;     ///< the user has moved the volume since the program started
-    bool m_closing = false;           ///< killProc has run on the way out
+    QSet<QString> m_pendingContainers; ///< paths whose listing is still out
+    bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
+    bool m_volumeTouched = false;      ///< the user has moved the volume since the program started
+    bool m_closing = false;            ///< killProc has run on the way out
 };

@@ -18,6 +18,7 @@ struct WindowWidgets
     PlaylistWidget *playlist = nullptr;
     QLabel *playlistCount = nullptr;
     QPushButton *importFiles = nullptr;
+    QPushButton *analyze = nullptr;
     DisplayPanel *display = nullptr;
     DockBar *dock = nullptr;
     ProgressRow *progress = nullptr;

@@ -1,0 +1,40 @@
+/// \file
+/// The window's memory for what the engine measures: what waits to be heard, and what was shown last.
+#pragma once
+
+#include "engine/chain_text.h"
+#include "engine/delay_queue.h"
+#include "engine/effective_bits_table.h"
+
+#include <QElapsedTimer>
+#include <QStringList>
+#include <QTimer>
+
+struct InstrumentState
+{
+    LevelQueue levelQueue{mostDelayedLevels};
+    SpectrumQueue spectrumQueue{mostDelayedSpectra};
+    QElapsedTimer clock; ///< of the queues' times
+    // Children of the window; the first two run while their queue holds something.
+    QTimer *levelRelease = nullptr;
+    QTimer *spectrumRelease = nullptr;
+    QTimer *levelRefresh = nullptr; ///< brings many levels into one repaint
+
+    LevelLine levels;
+    std::optional<SpectrumFrame> spectrum; ///< none while there is no PCM to show
+    std::optional<WaveformFrame> scope;    ///< likewise
+    SpectrumZones zones;
+};
+
+/// What the engine says of the road that the samples take.
+struct SignalState
+{
+    bool pcmEffectsActive = false;
+    bool dsdDirect = false;
+    QString effectsStatus; ///< translated
+    EffectiveBits bits;
+    QString bitsToolTip;
+    ChainText chain;
+    QString chainToolTip;
+    QStringList chainReport; ///< lines of the last whole block
+};
