@@ -3,9 +3,12 @@
 
 #include "player_core/output/opened_line.h"
 #include "player_core/session/output_lines.h"
+#include "player_core/session/sheet_successor.h"
+#include "player_core/source/cue_list.h"
 
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 
 namespace kelp_core {
 
@@ -60,6 +63,8 @@ void Session::load(const LoadRequest &asked)
     startUsed_ = true;
 
     const LoadAction action = planLoad(loadFacts(request));
+    if (action == LoadAction::preload)
+        followSheet(request);
     std::string error;
     std::unique_ptr<Source> source = open(request, error);
     if (cancel_->load())
@@ -69,6 +74,23 @@ void Session::load(const LoadRequest &asked)
     if (!source)
         return fail(request, error);
     begin(request, std::move(source));
+}
+
+void Session::followSheet(LoadRequest &request) const
+{
+    const SourceRequest &playing = heardRequest_.source;
+    if (playing.cuePath.empty() || playing.track < 1 || !request.source.cuePath.empty())
+        return;
+    const auto samePath = [](const std::string &a, const std::string &b) {
+        std::error_code error;
+        return a == b || std::filesystem::equivalent(a, b, error);
+    };
+    const std::optional<int> next =
+        sheetSuccessor(listCue(playing.cuePath).text, playing.track, request.source.path, samePath);
+    if (!next)
+        return;
+    request.source.cuePath = playing.cuePath;
+    request.source.track = *next;
 }
 
 LoadFacts Session::loadFacts(const LoadRequest &request)

@@ -1,5 +1,6 @@
 """The program plays what it is given, in a session of either kind, and ends cleanly."""
 import os
+import re
 import subprocess
 import time
 import unittest
@@ -40,8 +41,16 @@ class Play(unittest.TestCase):
             with open(sheet, "w", encoding="utf-8") as file:
                 file.write('TITLE "海带"\nPERFORMER "Someone"\nFILE "album.wav" WAVE\n  TRACK 01 AUDIO\n    TITLE "Eins"\n'
                            "    INDEX 01 00:00:00\n  TRACK 02 AUDIO\n    TITLE \"Zwei\"\n    INDEX 01 00:01:00\n")
-            log = self.play_to_the_end(stage, sheet, 1, finished=2)
+            log = self.play_to_the_end(stage, sheet, 1)
             self.assertIn("CUE: 海带 — Someone", log)
+            self.assertIn("Auto-advanced (seamless/crossfade): track 2/2: 02. Zwei", log)
+            # Both tracks, each of one second, and not the file as a whole behind the first.
+            self.assertEqual(re.findall(r"^SRC 44100 16 2 wav 0 ([0-9.]+)", log, re.M), ["1.000", "1.000"])
+
+            settings = os.path.join(stage.folder("settings/KELP"), "KelpPlayer.ini")
+            with open(settings, "w", encoding="utf-8") as file:
+                file.write("[param]\ngapless=false\n")
+            log = self.play_to_the_end(stage, sheet, 0, finished=2)
             self.assertIn("load-cue 2 ", log)
 
     def test_names_that_are_hard_to_pass_on(self):
