@@ -75,7 +75,7 @@ void PlayerGuiWindow::playCurrentUnguarded()
     logStart(plan, entry, built.args);
 
     ++m_start.playGeneration;
-    resetTrackState(plan.startSec);
+    resetTrackState(std::max(0., plan.startSec));
     showTrackOf(m_start.currentRow);
     setLastPlayed(entry);
     setPlayingUi(true);

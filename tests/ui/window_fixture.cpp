@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <atomic>
 
 using namespace Qt::StringLiterals;
 
@@ -44,8 +45,13 @@ void WindowTest::makeWindow()
     options.makeSession = [this](QObject *, const SessionOptions &) {
         return std::make_unique<FakeSession>(m_engine);
     };
-    options.probe = [text = m_deviceList](const QString &, const QStringList &, int, const ProbeLog &) {
-        return PlayerProbeResult{0, text};
+    auto first = std::make_shared<std::atomic<bool>>(true);
+    options.probe = [first, text = m_deviceList, probe = m_probe](const QString &playerBin,
+                                                                  const QStringList &args, int timeoutMs,
+                                                                  const ProbeLog &log) {
+        if (first->exchange(false))
+            return PlayerProbeResult{0, text};
+        return probe ? probe(args) : runEngineProbe(playerBin, args, timeoutMs, log);
     };
     m_window = std::make_unique<PlayerGuiWindow>(options);
     settle();

@@ -8,6 +8,7 @@
 #include "ui/window/player_gui_window.h"
 
 #include <QTemporaryDir>
+#include <functional>
 #include <gtest/gtest.h>
 #include <memory>
 
@@ -44,6 +45,10 @@ protected:
     QTemporaryDir m_root;
     FakeEngine m_engine;
     QString m_deviceList;
+    /// The engine's answer to everything but the device listing at the window's start; empty: the real probe.
+    std::function<PlayerProbeResult(const QStringList &args)> m_probe = [](const QStringList &) {
+        return PlayerProbeResult{};
+    };
     bool m_asksBeforeClosing = false;
     std::unique_ptr<PlayerGuiWindow> m_window;
     QString m_log;
