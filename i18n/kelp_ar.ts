@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>ContainerListing</name>
+    <message>
+        <source>SACD ISO: %1 — %2 首</source>
+        <translation>صورة SACD: %1 — عدد المقاطع: %2</translation>
+    </message>
+    <message>
+        <source>CUE 解析失败: %1 (rc=%2)</source>
+        <translation>تعذّر تحليل ملف CUE: ‏%1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>ISO 解析失败: %1 (rc=%2)</source>
+        <translation>تعذّر تحليل صورة ISO: ‏%1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>cue 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>لا مقاطع قابلة للتشغيل في ملف CUE هذا: %1 (الاستعلام rc=%2، أسطر الخرج: %3؛ المحتوى: %4)</translation>
+    </message>
+    <message>
+        <source>ISO 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>لا مقاطع قابلة للتشغيل في صورة ISO هذه: %1 (الاستعلام rc=%2، أسطر الخرج: %3؛ المحتوى: %4)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -526,6 +549,10 @@
         <source>不先把文件读进内存。</source>
         <translation>لا يقرأ الملف في الذاكرة مسبقًا.</translation>
     </message>
+    <message>
+        <source>%1（自动）</source>
+        <translation>%1 (تلقائي)</translation>
+    </message>
 </context>
 <context>
     <name>EngineLibrary</name>
@@ -606,6 +633,10 @@
         <source>探测返回非零（%1）：%2</source>
         <translation>أعاد الاستعلام قيمة غير صفرية (%1): %2</translation>
     </message>
+    <message>
+        <source>(完全没有输出)</source>
+        <translation>(لا خرج إطلاقًا)</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -646,26 +677,6 @@
     <message>
         <source>引擎日志（本次会话，退出时删除）: %1</source>
         <translation>سجل المحرك (لهذه الجلسة ويُحذف عند الخروج): %1</translation>
-    </message>
-    <message>
-        <source>正在扫描（解码）源… %1%</source>
-        <translation>جارٍ مسح المصدر (فك ترميزه)… %1%</translation>
-    </message>
-    <message>
-        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
-        <translation>الصوت: %1 · %2 بت · القنوات: %3 · %4 ث</translation>
-    </message>
-    <message>
-        <source> · DST: 是</source>
-        <translation> · DST: نعم</translation>
-    </message>
-    <message>
-        <source> · DST: 否</source>
-        <translation> · DST: لا</translation>
-    </message>
-    <message>
-        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
-        <translation>المستويات/الطيف مُوائمة مع تأخير الإخراج: %1 ms</translation>
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
@@ -714,22 +725,6 @@
     <message>
         <source>播放顺序已改: 第 %1/%2 项</source>
         <translation>تغيّر الترتيب: العنصر %1/%2</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>غير معروف</translation>
-    </message>
-    <message>
-        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
-        <translation>وصل التقدّم (PG): شُغّل %1 s / المجموع %2 s</translation>
-    </message>
-    <message>
-        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>الموضع والطول بزمن المصدر؛ عند السرعة %1 يستغرق نحو %2</translation>
-    </message>
-    <message>
-        <source>进度 %1%</source>
-        <translation>التقدّم %1%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -930,6 +925,18 @@
     <message>
         <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
         <translation>استعادة الإعدادات: لا عنصر يطابق %1 (تبقى القيمة الافتراضية)</translation>
+    </message>
+    <message>
+        <source>正在分析 %1 …</source>
+        <translation>جارٍ تحليل %1 …</translation>
+    </message>
+    <message>
+        <source>分析曲目</source>
+        <translation>تحليل المقطع</translation>
+    </message>
+    <message>
+        <source>测出选中曲目的速度和调性；不改动文件</source>
+        <translation>يحدد سرعة المقطع المختار ومقامه؛ ولا يتغيّر الملف</translation>
     </message>
 </context>
 <context>

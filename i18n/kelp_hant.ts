@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>ContainerListing</name>
+    <message>
+        <source>SACD ISO: %1 — %2 首</source>
+        <translation>SACD ISO: %1 — %2 首</translation>
+    </message>
+    <message>
+        <source>CUE 解析失败: %1 (rc=%2)</source>
+        <translation>CUE 解析失敗: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>ISO 解析失败: %1 (rc=%2)</source>
+        <translation>ISO 解析失敗: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>cue 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>cue 裡沒有可播放的曲目: %1 (探測 rc=%2, 輸出 %3 行; 內容: %4)</translation>
+    </message>
+    <message>
+        <source>ISO 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>ISO 裡沒有可播放的曲目: %1 (探測 rc=%2, 輸出 %3 行; 內容: %4)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -526,6 +549,10 @@
         <source>不先把文件读进内存。</source>
         <translation>不先把檔案讀進記憶體。</translation>
     </message>
+    <message>
+        <source>%1（自动）</source>
+        <translation>%1（自動）</translation>
+    </message>
 </context>
 <context>
     <name>EngineLibrary</name>
@@ -606,6 +633,10 @@
         <source>探测返回非零（%1）：%2</source>
         <translation>探測傳回非零（%1）：%2</translation>
     </message>
+    <message>
+        <source>(完全没有输出)</source>
+        <translation>(完全沒有輸出)</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -646,26 +677,6 @@
     <message>
         <source>引擎日志（本次会话，退出时删除）: %1</source>
         <translation>引擎記錄（本次工作階段，結束時刪除）: %1</translation>
-    </message>
-    <message>
-        <source>正在扫描（解码）源… %1%</source>
-        <translation>正在掃描（解碼）來源… %1%</translation>
-    </message>
-    <message>
-        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
-        <translation>音訊: %1 · %2 位元 · %3 聲道 · %4 秒</translation>
-    </message>
-    <message>
-        <source> · DST: 是</source>
-        <translation> · DST: 是</translation>
-    </message>
-    <message>
-        <source> · DST: 否</source>
-        <translation> · DST: 否</translation>
-    </message>
-    <message>
-        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
-        <translation>電平/頻譜已按輸出延遲對齊: %1 ms</translation>
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
@@ -714,22 +725,6 @@
     <message>
         <source>播放顺序已改: 第 %1/%2 项</source>
         <translation>播放順序已改: 第 %1/%2 項</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>未知</translation>
-    </message>
-    <message>
-        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
-        <translation>收到進度 (PG): 已播 %1 s / 共 %2 s</translation>
-    </message>
-    <message>
-        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>位置和總長依來源的時間軸；以 %1 倍速播完約需 %2</translation>
-    </message>
-    <message>
-        <source>进度 %1%</source>
-        <translation>進度 %1%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -930,6 +925,18 @@
     <message>
         <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
         <translation>參數還原: 找不到相符項目 %1 (保持預設)</translation>
+    </message>
+    <message>
+        <source>正在分析 %1 …</source>
+        <translation>正在分析 %1 …</translation>
+    </message>
+    <message>
+        <source>分析曲目</source>
+        <translation>分析曲目</translation>
+    </message>
+    <message>
+        <source>测出选中曲目的速度和调性；不改动文件</source>
+        <translation>測出選取曲目的速度與調性；不更動檔案</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>ContainerListing</name>
+    <message>
+        <source>SACD ISO: %1 — %2 首</source>
+        <translation>SACD ISO: %1 — %2곡</translation>
+    </message>
+    <message>
+        <source>CUE 解析失败: %1 (rc=%2)</source>
+        <translation>CUE 해석 실패: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>ISO 解析失败: %1 (rc=%2)</source>
+        <translation>ISO 해석 실패: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>cue 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>이 CUE에는 재생할 수 있는 트랙이 없습니다: %1 (프로브 rc=%2, 출력 %3줄, 내용: %4)</translation>
+    </message>
+    <message>
+        <source>ISO 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>이 ISO에는 재생할 수 있는 트랙이 없습니다: %1 (프로브 rc=%2, 출력 %3줄, 내용: %4)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -526,6 +549,10 @@
         <source>不先把文件读进内存。</source>
         <translation>파일을 먼저 메모리에 읽어 들이지 않습니다.</translation>
     </message>
+    <message>
+        <source>%1（自动）</source>
+        <translation>%1(자동)</translation>
+    </message>
 </context>
 <context>
     <name>EngineLibrary</name>
@@ -606,6 +633,10 @@
         <source>探测返回非零（%1）：%2</source>
         <translation>프로브가 0이 아닌 값을 돌려줌(%1): %2</translation>
     </message>
+    <message>
+        <source>(完全没有输出)</source>
+        <translation>(출력 없음)</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -646,26 +677,6 @@
     <message>
         <source>引擎日志（本次会话，退出时删除）: %1</source>
         <translation>엔진 로그(이번 세션, 종료할 때 삭제): %1</translation>
-    </message>
-    <message>
-        <source>正在扫描（解码）源… %1%</source>
-        <translation>소스를 스캔(디코딩)하는 중… %1%</translation>
-    </message>
-    <message>
-        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
-        <translation>오디오: %1 · %2비트 · %3채널 · %4초</translation>
-    </message>
-    <message>
-        <source> · DST: 是</source>
-        <translation> · DST: 예</translation>
-    </message>
-    <message>
-        <source> · DST: 否</source>
-        <translation> · DST: 아니요</translation>
-    </message>
-    <message>
-        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
-        <translation>레벨/스펙트럼을 출력 지연에 맞춤: %1 ms</translation>
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
@@ -714,22 +725,6 @@
     <message>
         <source>播放顺序已改: 第 %1/%2 项</source>
         <translation>재생 순서 변경됨: %1/%2번째 항목</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>알 수 없음</translation>
-    </message>
-    <message>
-        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
-        <translation>진행 수신(PG): 재생 %1 s / 전체 %2 s</translation>
-    </message>
-    <message>
-        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>위치와 길이는 소스의 시간축 기준. %1배속으로 끝까지 약 %2</translation>
-    </message>
-    <message>
-        <source>进度 %1%</source>
-        <translation>진행 %1%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -930,6 +925,18 @@
     <message>
         <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
         <translation>설정 복원: %1에 맞는 항목이 없음(기본값 유지)</translation>
+    </message>
+    <message>
+        <source>正在分析 %1 …</source>
+        <translation>%1 분석 중 …</translation>
+    </message>
+    <message>
+        <source>分析曲目</source>
+        <translation>트랙 분석</translation>
+    </message>
+    <message>
+        <source>测出选中曲目的速度和调性；不改动文件</source>
+        <translation>선택한 트랙의 템포와 조성을 알아냅니다. 파일은 바뀌지 않습니다</translation>
     </message>
 </context>
 <context>

@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>ContainerListing</name>
+    <message>
+        <source>SACD ISO: %1 — %2 首</source>
+        <translation>ISO SACD: %1 — utworów: %2</translation>
+    </message>
+    <message>
+        <source>CUE 解析失败: %1 (rc=%2)</source>
+        <translation>Nie udało się odczytać CUE: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>ISO 解析失败: %1 (rc=%2)</source>
+        <translation>Nie udało się odczytać ISO: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>cue 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>W tym CUE nie ma odtwarzalnych utworów: %1 (sonda rc=%2, wierszy wyjścia: %3; treść: %4)</translation>
+    </message>
+    <message>
+        <source>ISO 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>W tym ISO nie ma odtwarzalnych utworów: %1 (sonda rc=%2, wierszy wyjścia: %3; treść: %4)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -526,6 +549,10 @@
         <source>不先把文件读进内存。</source>
         <translation>Nie wczytuje najpierw pliku do pamięci.</translation>
     </message>
+    <message>
+        <source>%1（自动）</source>
+        <translation>%1 (automatycznie)</translation>
+    </message>
 </context>
 <context>
     <name>EngineLibrary</name>
@@ -606,6 +633,10 @@
         <source>探测返回非零（%1）：%2</source>
         <translation>Sondowanie zwróciło wartość różną od zera (%1): %2</translation>
     </message>
+    <message>
+        <source>(完全没有输出)</source>
+        <translation>(brak wyjścia)</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -646,26 +677,6 @@
     <message>
         <source>引擎日志（本次会话，退出时删除）: %1</source>
         <translation>Dziennik silnika (tej sesji, usuwany przy wyjściu): %1</translation>
-    </message>
-    <message>
-        <source>正在扫描（解码）源… %1%</source>
-        <translation>Przeglądanie (dekodowanie) źródła… %1%</translation>
-    </message>
-    <message>
-        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
-        <translation>Dźwięk: %1 · %2 bit · kanały: %3 · %4 s</translation>
-    </message>
-    <message>
-        <source> · DST: 是</source>
-        <translation> · DST: tak</translation>
-    </message>
-    <message>
-        <source> · DST: 否</source>
-        <translation> · DST: nie</translation>
-    </message>
-    <message>
-        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
-        <translation>Poziomy/widmo wyrównane do opóźnienia wyjścia: %1 ms</translation>
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
@@ -714,22 +725,6 @@
     <message>
         <source>播放顺序已改: 第 %1/%2 项</source>
         <translation>Zmieniono kolejność: pozycja %1/%2</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>nieznane</translation>
-    </message>
-    <message>
-        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
-        <translation>Otrzymano postęp (PG): odtworzono %1 s / razem %2 s</translation>
-    </message>
-    <message>
-        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>Pozycja i długość według czasu źródła; przy szybkości %1 potrwa około %2</translation>
-    </message>
-    <message>
-        <source>进度 %1%</source>
-        <translation>Postęp %1%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -930,6 +925,18 @@ Czy na pewno zakończyć?</translation>
     <message>
         <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
         <translation>Przywracanie ustawień: brak pozycji pasującej do %1 (pozostaje domyślna)</translation>
+    </message>
+    <message>
+        <source>正在分析 %1 …</source>
+        <translation>Analizowanie: %1 …</translation>
+    </message>
+    <message>
+        <source>分析曲目</source>
+        <translation>Analizuj utwór</translation>
+    </message>
+    <message>
+        <source>测出选中曲目的速度和调性；不改动文件</source>
+        <translation>Określa tempo i tonację wybranego utworu; plik się nie zmienia</translation>
     </message>
 </context>
 <context>

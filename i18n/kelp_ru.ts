@@ -63,6 +63,29 @@
     </message>
 </context>
 <context>
+    <name>ContainerListing</name>
+    <message>
+        <source>SACD ISO: %1 — %2 首</source>
+        <translation>SACD ISO: %1 — треков: %2</translation>
+    </message>
+    <message>
+        <source>CUE 解析失败: %1 (rc=%2)</source>
+        <translation>Не удалось разобрать CUE: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>ISO 解析失败: %1 (rc=%2)</source>
+        <translation>Не удалось разобрать ISO: %1 (rc=%2)</translation>
+    </message>
+    <message>
+        <source>cue 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>В этом CUE нет воспроизводимых треков: %1 (проба rc=%2, строк вывода: %3; содержание: %4)</translation>
+    </message>
+    <message>
+        <source>ISO 里没有可播放的曲目: %1 (探测 rc=%2, 输出 %3 行; 内容: %4)</source>
+        <translation>В этом ISO нет воспроизводимых треков: %1 (проба rc=%2, строк вывода: %3; содержание: %4)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -526,6 +549,10 @@
         <source>不先把文件读进内存。</source>
         <translation>Файл не читается заранее в память.</translation>
     </message>
+    <message>
+        <source>%1（自动）</source>
+        <translation>%1 (автоматически)</translation>
+    </message>
 </context>
 <context>
     <name>EngineLibrary</name>
@@ -606,6 +633,10 @@
         <source>探测返回非零（%1）：%2</source>
         <translation>Опрос вернул не ноль (%1): %2</translation>
     </message>
+    <message>
+        <source>(完全没有输出)</source>
+        <translation>(вывода нет совсем)</translation>
+    </message>
 </context>
 <context>
     <name>LogPane</name>
@@ -646,26 +677,6 @@
     <message>
         <source>引擎日志（本次会话，退出时删除）: %1</source>
         <translation>Журнал движка (этого сеанса, при выходе удаляется): %1</translation>
-    </message>
-    <message>
-        <source>正在扫描（解码）源… %1%</source>
-        <translation>Просмотр (декодирование) источника… %1%</translation>
-    </message>
-    <message>
-        <source>音频: %1 · %2 位 · %3 声道 · %4 秒</source>
-        <translation>Аудио: %1 · %2 бит · каналов: %3 · %4 с</translation>
-    </message>
-    <message>
-        <source> · DST: 是</source>
-        <translation> · DST: да</translation>
-    </message>
-    <message>
-        <source> · DST: 否</source>
-        <translation> · DST: нет</translation>
-    </message>
-    <message>
-        <source>电平/频谱已按输出延迟对齐: %1 ms</source>
-        <translation>Уровни и спектр выровнены по задержке вывода: %1 ms</translation>
     </message>
     <message>
         <source>上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它</source>
@@ -714,22 +725,6 @@
     <message>
         <source>播放顺序已改: 第 %1/%2 项</source>
         <translation>Порядок изменён: пункт %1/%2</translation>
-    </message>
-    <message>
-        <source>未知</source>
-        <translation>неизвестно</translation>
-    </message>
-    <message>
-        <source>收到进度 (PG): 已播 %1 s / 共 %2 s</source>
-        <translation>Получен ход (PG): сыграно %1 s / всего %2 s</translation>
-    </message>
-    <message>
-        <source>位置和总长按源的时间线；以 %1 倍速播完约需 %2</source>
-        <translation>Позиция и длина — по времени источника; на скорости %1 трек займёт около %2</translation>
-    </message>
-    <message>
-        <source>进度 %1%</source>
-        <translation>Ход: %1%</translation>
     </message>
     <message>
         <source>自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首</source>
@@ -930,6 +925,18 @@
     <message>
         <source>参数恢复: 找不到匹配项 %1 (保持默认)</source>
         <translation>Восстановление настроек: нет пункта для %1 (остаётся по умолчанию)</translation>
+    </message>
+    <message>
+        <source>正在分析 %1 …</source>
+        <translation>Анализ %1 …</translation>
+    </message>
+    <message>
+        <source>分析曲目</source>
+        <translation>Анализ трека</translation>
+    </message>
+    <message>
+        <source>测出选中曲目的速度和调性；不改动文件</source>
+        <translation>Определяет темп и тональность выбранного трека; файл не изменяется</translation>
     </message>
 </context>
 <context>
