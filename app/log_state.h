@@ -5,6 +5,7 @@
 #include "app/log_batch.h"
 #include "ui/log_pane.h"
 
+#include <QElapsedTimer>
 #include <QString>
 #include <mutex>
 #include <optional>
@@ -34,6 +35,7 @@ private:
 struct LogState
 {
     LogBatch<LogEntry> batch; ///< waiting for one common repaint of the pane
+    QElapsedTimer sinceFlush; ///< invalid before the first repaint of the pane
     CurrentStage stage;
     std::optional<qint64> readyAfterMs; ///< from the process's start to the window being shown
 };

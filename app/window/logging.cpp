@@ -7,18 +7,31 @@
 #include "platform/process_facts.h"
 #include "ui/log_pane.h"
 
+namespace {
+
+constexpr qint64 leastRepaintMs = 50;
+
+} // namespace
+
 void PlayerGuiWindow::logLine(const QString &text, bool isError)
 {
     logFileOnly(text);
     if (!m_ui.log)
         return;
-    // A burst of lines costs one repaint.
-    if (m_log.batch.add({text, isError}))
+    if (!m_log.batch.add({text, isError}))
+        return;
+    // A burst of lines costs one repaint, and an engine that never stops talking costs no more of them than
+    // the eye can follow.
+    const qint64 sinceMs = m_log.sinceFlush.isValid() ? m_log.sinceFlush.elapsed() : leastRepaintMs;
+    if (sinceMs >= leastRepaintMs)
         QMetaObject::invokeMethod(this, &PlayerGuiWindow::flushLog, Qt::QueuedConnection);
+    else
+        QTimer::singleShot(leastRepaintMs - sinceMs, this, &PlayerGuiWindow::flushLog);
 }
 
 void PlayerGuiWindow::flushLog()
 {
+    m_log.sinceFlush.start();
     m_ui.log->appendEntries(m_log.batch.take());
 }
 

@@ -59,6 +59,9 @@ void PlayerGuiWindow::loadParams()
     const StoredParams params = ::loadParams(store);
     EngineControls &engine = *m_ui.engine;
     const QSignalBlocker blockEngine(m_ui.engine);
+    // These two tell a running session at once; what is restored was not chosen now.
+    const QSignalBlocker blockGuard(engine.peakGuard);
+    const QSignalBlocker blockSpeed(engine.speedRatio);
 
     restoreComboText(params.mode, engine.mode);
     restoreComboText(params.layout, engine.layoutChoice);

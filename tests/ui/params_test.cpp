@@ -32,6 +32,69 @@ TEST_F(Params, ChoicesComeBack)
     EXPECT_EQ(m_window->widgets().dock->volume->value(), 42);
 }
 
+TEST_F(Params, EveryControlComesBack)
+{
+    makeWindow();
+    EngineControls *engine = m_window->widgets().engine;
+    const auto other = [](QComboBox *combo) { combo->setCurrentIndex(combo->count() - 1); };
+    const auto combos = [](EngineControls *of) {
+        return QList<QComboBox *>{of->mode,       of->layoutChoice,   of->rig,
+                                  of->dop,        of->outputPath,     of->denoiseTier,
+                                  of->replayGain, of->pcmBits,        of->resampleQuality,
+                                  of->pcmFilter,  of->pcmToDsdTarget, of->pcmToDsdTaps};
+    };
+    const auto checks = [](EngineControls *of) {
+        return QList<QCheckBox *>{of->crossoverBridged, of->peakGuard, of->keepHarmonics, of->resample,
+                                  of->streamingRead,    of->gapless,   of->forcedPcm,     of->pcmToDsd};
+    };
+    const auto spins = [](EngineControls *of) {
+        return QList<QDoubleSpinBox *>{of->crossoverHz, of->crossfadeSec, of->speedRatio};
+    };
+    for (QComboBox *combo : combos(engine))
+        other(combo);
+    QList<bool> checked;
+    for (QCheckBox *check : checks(engine)) {
+        check->setChecked(!check->isChecked());
+        checked.append(check->isChecked());
+    }
+    for (QDoubleSpinBox *spin : spins(engine))
+        spin->setValue(2. + spin->minimum());
+    engine->extDecoder->setText(u"/lib/decoder.so"_s);
+    m_window->saveParams();
+    m_window.reset();
+    makeWindow();
+    engine = m_window->widgets().engine;
+    for (const QComboBox *combo : combos(engine))
+        EXPECT_EQ(combo->currentIndex(), combo->count() - 1) << qPrintable(combo->accessibleName());
+    for (qsizetype i = 0; i < checked.size(); ++i)
+        EXPECT_EQ(checks(engine).at(i)->isChecked(), checked.at(i))
+            << qPrintable(checks(engine).at(i)->text());
+    for (const QDoubleSpinBox *spin : spins(engine))
+        EXPECT_EQ(spin->value(), 2. + spin->minimum()) << qPrintable(spin->accessibleName());
+    EXPECT_EQ(engine->extDecoder->text(), u"/lib/decoder.so"_s);
+}
+
+TEST_F(Params, ARestoredChoiceIsNotToldToASession)
+{
+    makeWindow();
+    addFiles(1);
+    m_window->startPlayback(0);
+    EngineControls *engine = m_window->widgets().engine;
+    const bool guard = engine->peakGuard->isChecked();
+    {
+        SettingsStore store;
+        store.setValue(u"param/peak_guard"_s, !guard);
+        store.setValue(u"param/speed_ratio"_s, 1.5);
+        store.setValue(u"param/vol"_s, 37);
+    }
+    const qsizetype sent = m_engine.lines().size();
+    m_window->loadParams();
+    EXPECT_EQ(engine->peakGuard->isChecked(), !guard);
+    EXPECT_EQ(engine->speedRatio->value(), 1.5);
+    EXPECT_EQ(m_window->widgets().dock->volume->value(), 37);
+    EXPECT_EQ(m_engine.lines().size(), sent);
+}
+
 TEST_F(Params, DamagedValuesAreKeptInRange)
 {
     {
