@@ -8,7 +8,7 @@
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
 #include "platform/single_instance.h"
-#include "ui/theme_colors.h"
+#include "ui/theme.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QApplication>

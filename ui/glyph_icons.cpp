@@ -1,6 +1,6 @@
 #include "ui/glyph_icons.h"
 
-#include "ui/theme_colors.h"
+#include "ui/theme.h"
 
 #include <QIconEngine>
 #include <QPainter>
@@ -110,10 +110,10 @@ private:
     QColor colourFor(QIcon::Mode mode) const
     {
         if (mode == QIcon::Disabled)
-            return theme::inkOff;
+            return theme::off();
         if (m_glyph == Glyph::Play || m_glyph == Glyph::Pause)
-            return mode == QIcon::Active ? theme::accentBright : theme::accentColor;
-        return mode == QIcon::Active ? theme::ink1 : theme::ink3;
+            return mode == QIcon::Active ? theme::accentBright : theme::accentInk();
+        return mode == QIcon::Active ? theme::ink1() : theme::ink3();
     }
 
     Glyph m_glyph;
