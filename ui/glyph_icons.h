@@ -1,20 +1,11 @@
 /// \file
-/// The signs of the transport, drawn by code from the theme's colours: sharp at every scale.
+/// The signs as icons, for widgets that want one, and as pictures for the sheet.
 #pragma once
+
+#include "ui/glyph_drawing.h"
 
 #include <QIcon>
 
-enum class Glyph
-{
-    Play,
-    Pause,
-    Stop,
-    Previous,
-    Next,
-    Refresh,
-    Speaker
-};
-
 /// Normal in ink 3, active in ink 1, disabled in the colour of what cannot be used; play and pause, which
-/// stand for the signal, in the accent.
+/// stand for the signal, in the accent. Follows the theme.
 QIcon glyphIcon(Glyph glyph);

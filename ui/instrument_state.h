@@ -20,6 +20,9 @@ struct InstrumentState
     QTimer *spectrumRelease = nullptr;
     QTimer *levelRefresh = nullptr; ///< brings many levels into one repaint
 
+    QTimer *clipRelease = nullptr; ///< lets the red of a clip go
+    qint64 clipUntil = 0;          ///< on `clock`, in ms; one for both channels
+
     LevelLine levels;
     std::optional<SpectrumFrame> spectrum; ///< none while there is no PCM to show
     std::optional<WaveformFrame> scope;    ///< likewise

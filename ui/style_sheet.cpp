@@ -1,116 +1,213 @@
 #include "ui/style_sheet.h"
 
+#include "ui/light_look.h"
+#include "ui/theme.h"
+
+#include <QtPlugin>
+
 using namespace Qt::StringLiterals;
+
+// It draws what the sheet below names as pictures.
+Q_IMPORT_PLUGIN(KelpGlyphPlugin)
 
 namespace {
 
-constexpr int interfacePixels = 12;
-
-// Surfaces and text.
+// Areas and text. Fonts are the widgets' own, so that a sheet costs no matching of families.
 constexpr auto surfaces = R"(
-QWidget { color: #CFC9BF; font-size: 12px; }
-QMainWindow, QWidget#vesperRoot { background: #131317; }
+QLabel { color: #CFC9BF; }
+QLabel:disabled { color: #4A4842; }
+QMainWindow, QDialog, QWidget#vesperRoot { background: #131317; }
 QFrame#vesperTitleBar, QFrame#vesperDock {
     background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #18181E, stop:1 #131317); border: none; }
 QFrame#vesperTitleBar { border-bottom: 1px solid #23232B; }
-QFrame#vesperDock, QFrame#vesperProg { border-top: 1px solid #23232B; }
+QFrame#vesperDock, QFrame#vesperProg, QFrame#vesperDspBar { border: none; border-top: 1px solid #23232B; }
 QFrame#vesperPanel { background: #131317; border: none; border-right: 1px solid #23232B; }
-QFrame#vesperSide { background: #131317; border: none; border-left: 1px solid #23232B; }
+QFrame#vesperSide, QFrame#vesperChainBox { background: #131317; border: none;
+    border-left: 1px solid #23232B; }
 QFrame#vesperStatusLine { background: #0C0C0F; border: none; border-top: 1px solid #23232B; }
-QLabel#vesperBrand { background: #08080A; border: 1px solid #2C2C35; border-radius: 4px; color: #C9A96E;
-    font-weight: 600; padding: 0 12px; }
-QLabel#vesperWinTitle { color: #CFC9BF; font-size: 13px; }
-QLabel#vesperPanelTitle, QLabel#vesperPanelMeta, QLabel#vesperCardKey, QLabel#vesperModel { color: #8A857C;
-    font-size: 11px; }
-QLabel#vesperSetName { color: #CFC9BF; }
 QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
+QFrame#vesperWell { background: #0C0C0F; border: 1px solid #23232B; border-radius: 6px; }
+QFrame#vesperRule, QFrame#vesperVfdLine { background: #23232B; border: none; }
 QFrame#vesperVfd { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #08080A, stop:1 #0C0C0F);
     border: 1px solid #2C2C35; border-radius: 6px; }
-QLabel#vesperVfdMeta, QLabel#vesperVfdStatus, QLabel#vesperVfdSignal, QLabel#vesperVfdLevels { color: #8A857C;
-  font-size: 11px; }
-QLabel#vesperVfdSignal[chainWarn="true"] { color: #C9A96E; }
-QLabel#vesperVfdMeta[sounding="true"], QLabel#vesperVfdStatus[sounding="true"] { color: #C9A96E; }
-QLabel#vesperVfdFormat { border: 1px solid #2C2C35; border-radius: 3px; color: #B9B3A8; font-size: 11px;
-    padding: 1px 8px; }
-QLabel#vesperVfdTitle { color: #EDEAE3; font-size: 26px; font-weight: 600; }
-QLabel#vesperVfdArtist { color: #CFC9BF; font-size: 15px; }
-QLabel#vesperVfdTime { color: #8A857C; font-size: 30px; }
-QLabel#vesperVfdTime[sounding="true"] { color: #C9A96E; }
-QFrame#vesperVfdLine { background: #23232B; border: none; max-height: 1px; }
-QLabel#vesperNowTitle { color: #EDEAE3; font-size: 14px; font-weight: 600; }
-QLabel#vesperNowArtist { color: #8A857C; font-size: 12px; }
-QLabel#vesperTime, QLabel#vesperVolume { color: #CFC9BF; }
-QLabel#vesperMessage { color: #B9B3A8; }
-QLabel#vesperDeviceHint { color: #D4A843; }
+QLabel#vesperWinTitle { font-size: 13px; }
+QLabel#vesperPanelTitle, QLabel#vesperPanelMeta, QLabel#vesperCardKey, QLabel#vesperModel, QLabel#vesperCaption,
+QLabel#vesperBayLabel, QLabel#vesperInd, QLabel#vesperVfdMeta, QLabel#vesperVfdLevels { color: #8A857C; }
+QLabel#vesperIndOn { color: @ink@; }
+QLabel#vesperClock, QLabel#vesperCardVal, QLabel#vesperVfdStatus { color: #EDEAE3; }
+QLabel#vesperVfdSignal { color: #8A857C; }
+QLabel#vesperVfdSignal[chainWarn="true"] { color: @warning@; }
+QLabel#vesperVfdFormat { border: 1px solid #2C2C35; border-radius: 3px; padding: 1px 8px; }
+QLabel#vesperVfdTitle, QLabel#vesperNowTitle, QLabel#vesperStatement { color: #EDEAE3; font-weight: 600; }
+QLabel#vesperVfdArtist { font-size: 15px; }
+QLabel#vesperVfdTime { color: #8A857C; }
+QLabel#vesperVfdMeta[sounding="true"], QLabel#vesperVfdTime[sounding="true"] { color: @ink@; }
+QLabel#vesperNowTitle { font-size: 14px; }
+QLabel#vesperNowArtist, QLabel#vesperMessage, QLabel#vesperSecondary { color: #B9B3A8; }
+QLabel#vesperDeviceHint, QLabel#vesperWarning { color: @warning@; }
+QLabel#vesperFailure { color: @failure@; }
+QLabel#vesperProof { color: @proof@; }
 )"_L1;
 
-// Controls in all their states.
-constexpr auto controls = R"(
+// Buttons in all their states.
+constexpr auto buttons = R"(
 QPushButton { background: #18181E; border: 1px solid #2C2C35; border-radius: 4px; color: #CFC9BF;
     min-height: 28px; padding: 0 12px; }
 QPushButton:hover { background: #1F1F26; color: #EDEAE3; }
 QPushButton:pressed { background: #0C0C0F; color: #EDEAE3; }
-QPushButton:disabled { background: #131317; border-color: #23232B; color: #4A4842; }
-QPushButton:focus, QToolButton:focus { border: 2px solid #E0C896; padding: 0 11px; }
+QPushButton:checked, QPushButton:default, QPushButton[primary="true"] { background: @wash@;
+    border-color: @accent@; color: @ink@; font-weight: 600; }
+QPushButton:checked:hover, QPushButton:default:hover, QPushButton[primary="true"]:hover { background: @strong@; }
+QPushButton:default:pressed, QPushButton[primary="true"]:pressed { background: @ink@; color: #08080A; }
+QPushButton:disabled { background: #131317; border-color: #23232B; color: #4A4842; font-weight: 400; }
+QPushButton[keyFocus="true"] { border: 2px solid @ring@; padding: 0 11px; min-height: 26px; }
+IconButton, DspTab { background: transparent; border: none; min-height: 0; padding: 0; }
 QPushButton#vesperMinor { background: transparent; border-color: transparent; color: #B9B3A8; }
 QPushButton#vesperMinor:hover { background: #18181E; color: #EDEAE3; }
+QPushButton#vesperMinor:pressed { background: #0C0C0F; }
 QPushButton#vesperMinor:disabled { color: #4A4842; }
+QPushButton#vesperMinor[keyFocus="true"], QPushButton#vesperBrand[keyFocus="true"],
+QPushButton#vesperChip[keyFocus="true"], QPushButton#vesperSwitch[keyFocus="true"] { border-color: @ring@; }
+QPushButton#vesperBrand, QLabel#vesperBrand { background: #08080A; border: 1px solid #2C2C35;
+    border-radius: 4px; color: @ink@; font-weight: 600; min-height: 26px; padding: 0 12px; }
+QPushButton#vesperBrand:hover { border-color: @accent@; }
+QPushButton#vesperBrand[keyFocus="true"] { border: 2px solid @ring@; min-height: 24px; padding: 0 11px; }
+QPushButton#vesperChip { background: #0C0C0F; border: 1px solid #2C2C35; border-radius: 0; color: #B9B3A8;
+    min-height: 26px; padding: 0 8px; }
+QPushButton#vesperChip[place="first"] { border-top-left-radius: 4px; border-bottom-left-radius: 4px; }
+QPushButton#vesperChip[place="last"] { border-top-right-radius: 4px; border-bottom-right-radius: 4px; }
+QPushButton#vesperChip:hover { background: #18181E; color: #EDEAE3; }
+QPushButton#vesperChip:checked { background: #1F1F26; color: #EDEAE3; font-weight: 600; }
+QPushButton#vesperChip[keyFocus="true"] { border: 2px solid @ring@; min-height: 24px; padding: 0 7px; }
+QPushButton#vesperOnOff { background: transparent; color: #B9B3A8; font-weight: 600; min-height: 22px;
+    padding: 0 10px; }
+QPushButton#vesperOnOff:hover { background: #1F1F26; color: #EDEAE3; }
+QPushButton#vesperOnOff:pressed { background: #0C0C0F; }
+QPushButton#vesperOnOff:checked { background: @ink@; border-color: @ink@; color: #08080A; }
+QPushButton#vesperOnOff:disabled { background: transparent; border-color: #23232B; color: #4A4842; }
+QPushButton#vesperOnOff[keyFocus="true"] { border: 2px solid @ring@; min-height: 20px; padding: 0 9px; }
+QPushButton#vesperPath { border-radius: 14px; min-height: 26px; }
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 4px; color: #B9B3A8;
     padding: 0; }
 QToolButton:hover { background: #1F1F26; color: #EDEAE3; }
 QToolButton:pressed { background: #0C0C0F; }
-QToolButton:focus { padding: 0; }
-QToolButton#vesperPlay { background: rgba(201, 169, 110, 33); border: 1px solid #C9A96E; border-radius: 19px; }
-QToolButton#vesperPlay:hover { background: rgba(201, 169, 110, 56); border-color: #E0C896; }
+QToolButton:disabled { color: #4A4842; }
+QToolButton[keyFocus="true"] { border: 2px solid @ring@; }
+QToolButton#vesperPlay { background: @wash@; border: 1px solid @accent@; border-radius: 19px; }
+QToolButton#vesperPlay:hover { background: @strong@; border-color: @ring@; }
 QToolButton#vesperPlay:disabled { background: transparent; border-color: #23232B; }
-QToolButton#vesperPlay:focus { border: 2px solid #E0C896; }
+QToolButton#vesperPlay[keyFocus="true"] { border: 2px solid @ring@; }
 QToolButton#vesperSwitch { padding: 0 8px; }
 QToolButton#vesperSwitch:checked { color: #EDEAE3; }
-QComboBox, QLineEdit, QDoubleSpinBox { background: #18181E; border: 1px solid #2C2C35; border-radius: 4px;
-    color: #CFC9BF; min-height: 26px; padding: 0 8px; selection-background-color: #C9A96E;
-    selection-color: #08080A; }
-QComboBox:hover, QLineEdit:hover, QDoubleSpinBox:hover { background: #1F1F26; color: #EDEAE3; }
-QComboBox:focus, QLineEdit:focus, QDoubleSpinBox:focus { border: 2px solid #E0C896; padding: 0 7px; }
-QComboBox:on { border: 1px solid #C9A96E; padding: 0 8px; }
-QComboBox:disabled, QLineEdit:disabled, QDoubleSpinBox:disabled { background: #131317; border-color: #23232B;
-    color: #4A4842; }
-QComboBox::drop-down { border: none; width: 24px; }
-QComboBox::down-arrow { image: url(:/glyphs/chevron_down.png); width: 10px; height: 10px; }
-QDoubleSpinBox::up-button, QDoubleSpinBox::down-button { border: none; width: 18px; background: transparent; }
-QDoubleSpinBox::up-arrow { image: url(:/glyphs/chevron_up.png); width: 8px; height: 8px; }
-QDoubleSpinBox::down-arrow { image: url(:/glyphs/chevron_down.png); width: 8px; height: 8px; }
-QComboBox QAbstractItemView, QMenu { background: #18181E; border: 1px solid #2C2C35; color: #CFC9BF;
-    selection-background-color: #1F1F26; selection-color: #EDEAE3; outline: 0; }
-QCheckBox { color: #CFC9BF; spacing: 8px; border: 2px solid transparent; border-radius: 4px; }
-QCheckBox:focus { border-color: #E0C896; }
-QCheckBox:disabled, QLabel:disabled { color: #4A4842; }
-QCheckBox::indicator { width: 14px; height: 14px; border: 1px solid #2C2C35; border-radius: 3px;
-    background: #131317; }
-QCheckBox::indicator:hover { background: #1F1F26; }
-QCheckBox::indicator:checked { background: #C9A96E; border-color: #C9A96E; image: url(:/glyphs/tick.png); }
-QCheckBox::indicator:disabled { border-color: #23232B; background: #131317; }
-QSlider { min-height: 22px; }
-QSlider:focus { border: 2px solid #E0C896; border-radius: 4px; }
-QSlider::groove:horizontal { background: #202028; height: 4px; border-radius: 2px; }
-QSlider::sub-page:horizontal { background: #C9A96E; height: 4px; border-radius: 2px; }
-QSlider::handle:horizontal { background: #CFC9BF; width: 10px; height: 16px; margin: -6px 0;
-    border-radius: 3px; }
-QSlider::handle:horizontal:hover { background: #EDEAE3; }
-QSlider::handle:horizontal:pressed { background: #E0C896; }
-QToolTip { background: #18181E; border: 1px solid #2C2C35; color: #EDEAE3; padding: 4px; }
 )"_L1;
 
-// Lists, text and what scrolls.
+// Fields, switches and sliders.
+constexpr auto fields = R"(
+QComboBox, QLineEdit, QAbstractSpinBox { background: #18181E; border: 1px solid #2C2C35; border-radius: 4px;
+    color: #CFC9BF; min-height: 28px; padding: 0 10px; selection-background-color: @ink@;
+    selection-color: #08080A; }
+QLineEdit { background: #0C0C0F; min-height: 30px; }
+QComboBox:hover, QLineEdit:hover, QAbstractSpinBox:hover { background: #1F1F26; color: #EDEAE3; }
+QLineEdit:focus { color: #EDEAE3; }
+QComboBox:on { background: #0C0C0F; border-color: @accent@; }
+QComboBox:disabled, QLineEdit:disabled, QAbstractSpinBox:disabled { background: #131317; border-color: #23232B;
+    color: #4A4842; }
+QLineEdit:read-only { background: transparent; border-color: transparent; }
+QComboBox[keyFocus="true"], QAbstractSpinBox[keyFocus="true"] { border: 2px solid @ring@; min-height: 26px;
+    padding: 0 9px; }
+QLineEdit[keyFocus="true"] { border: 2px solid @ring@; min-height: 28px; padding: 0 9px; }
+QComboBox QLineEdit, QAbstractSpinBox QLineEdit { background: transparent; border: none; min-height: 0; padding: 0; }
+QComboBox::drop-down { border: none; width: 28px; }
+QComboBox::down-arrow { image: url(down-ink.kelpglyph); width: 16px; height: 16px; }
+QComboBox::down-arrow:disabled { image: url(down-off.kelpglyph); }
+QAbstractSpinBox::up-button, QAbstractSpinBox::down-button { border: none; width: 20px; background: transparent; }
+QAbstractSpinBox::up-arrow { image: url(up-ink.kelpglyph); width: 12px; height: 12px; }
+QAbstractSpinBox::down-arrow { image: url(down-ink.kelpglyph); width: 12px; height: 12px; }
+QAbstractSpinBox::up-arrow:disabled, QAbstractSpinBox::up-arrow:off { image: url(up-off.kelpglyph); }
+QAbstractSpinBox::down-arrow:disabled, QAbstractSpinBox::down-arrow:off { image: url(down-off.kelpglyph); }
+QCheckBox, QRadioButton { color: #CFC9BF; spacing: 8px; min-height: 20px; }
+QCheckBox:disabled, QRadioButton:disabled { color: #4A4842; }
+QCheckBox::indicator, QGroupBox::indicator { width: 18px; height: 18px; border: 1px solid #4A4842;
+    border-radius: 4px; background: #0C0C0F; }
+QRadioButton::indicator { width: 16px; height: 16px; border: 1px solid #4A4842; border-radius: 9px;
+    background: #0C0C0F; }
+QCheckBox::indicator:hover, QRadioButton::indicator:hover { border-color: #B9B3A8; background: #1F1F26; }
+QCheckBox::indicator:pressed { background: #0C0C0F; }
+QCheckBox::indicator:checked, QGroupBox::indicator:checked { background: @ink@; border-color: @ink@;
+    image: url(tick-glass.kelpglyph); }
+QCheckBox::indicator:indeterminate { background: @ink@; border-color: @ink@; image: url(dash-glass.kelpglyph); }
+QRadioButton::indicator:checked { background: qradialgradient(cx:0.5, cy:0.5, radius:0.5, fx:0.5, fy:0.5,
+    stop:0 @ink@, stop:0.5 @ink@, stop:0.6 #0C0C0F, stop:1 #0C0C0F); border-color: @ink@; }
+QCheckBox::indicator:disabled, QRadioButton::indicator:disabled { background: #131317; border-color: #23232B; }
+QCheckBox::indicator:checked:disabled { background: #131317; border-color: #23232B;
+    image: url(tick-off.kelpglyph); }
+QCheckBox[keyFocus="true"]::indicator { border: 2px solid @ring@; width: 16px; height: 16px; }
+QRadioButton[keyFocus="true"]::indicator { border: 2px solid @ring@; width: 14px; height: 14px; }
+QGroupBox { border: 1px solid #23232B; border-radius: 6px; margin-top: 16px; padding: 12px; }
+QGroupBox::title { subcontrol-origin: margin; left: 12px; color: #8A857C; }
+QSlider { min-height: 22px; }
+QSlider::groove:horizontal { background: #202028; height: 4px; border-radius: 2px; }
+QSlider::sub-page:horizontal { background: @accent@; height: 4px; border-radius: 2px; }
+QSlider::handle:horizontal { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #CFC9BF, stop:0.39 #CFC9BF,
+    stop:0.4 #131317, stop:0.6 #131317, stop:0.61 #CFC9BF, stop:1 #CFC9BF); width: 10px; height: 16px;
+    margin: -6px 0; border-radius: 3px; }
+QSlider::handle:horizontal:hover { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 #EDEAE3,
+    stop:0.39 #EDEAE3, stop:0.4 #131317, stop:0.6 #131317, stop:0.61 #EDEAE3, stop:1 #EDEAE3); }
+QSlider::handle:horizontal:pressed { background: qlineargradient(x1:0, y1:0, x2:1, y2:0, stop:0 @bright@,
+    stop:0.39 @bright@, stop:0.4 #131317, stop:0.6 #131317, stop:0.61 @bright@, stop:1 @bright@); }
+QSlider::groove:vertical { background: #202028; width: 4px; border-radius: 2px; }
+QSlider::add-page:vertical { background: @accent@; width: 4px; border-radius: 2px; }
+QSlider::handle:vertical { background: #CFC9BF; width: 16px; height: 10px; margin: 0 -6px; border-radius: 3px; }
+QSlider::handle:vertical:hover { background: #EDEAE3; }
+QSlider::handle:vertical:pressed { background: @bright@; }
+QSlider::sub-page:horizontal:disabled, QSlider::add-page:vertical:disabled { background: #202028; }
+QSlider::handle:disabled { background: #4A4842; }
+QSlider[keyFocus="true"]::handle:horizontal { border: 2px solid @ring@; width: 8px; height: 14px; margin: -7px 0;
+    border-radius: 4px; }
+QSlider[keyFocus="true"]::handle:vertical { border: 2px solid @ring@; width: 14px; height: 8px; margin: 0 -7px;
+    border-radius: 4px; }
+)"_L1;
+
+// Lists, text, menus, and what scrolls.
 constexpr auto views = R"(
-QListWidget, QPlainTextEdit, QTextBrowser { background: #0C0C0F; border: 1px solid #23232B; border-radius: 4px;
-    color: #CFC9BF; outline: 0; }
-QListWidget:focus, QPlainTextEdit:focus { border: 2px solid #E0C896; }
+QAbstractItemView, QPlainTextEdit, QTextEdit { background: #0C0C0F; border: 1px solid #23232B;
+    border-radius: 4px; color: #CFC9BF; outline: 0; selection-background-color: #1F1F26;
+    selection-color: #EDEAE3; }
+QPlainTextEdit, QTextEdit { background: #121216; }
 QListWidget { font-size: 13px; padding: 4px 0; }
 QListWidget::item { height: 32px; padding: 0 12px; border: none; }
-QListWidget::item:hover { background: #18181E; }
-QListWidget::item:selected { background: #1F1F26; color: #EDEAE3; }
-QProgressBar#vesperDial { background: #202028; border: none; border-radius: 1px; }
-QProgressBar#vesperDial::chunk { background: #C9A96E; border-radius: 1px; }
+QAbstractItemView::item:hover { background: #18181E; }
+QAbstractItemView::item:selected { background: #1F1F26; color: #EDEAE3; }
+QAbstractItemView::item:disabled { color: #4A4842; }
+QListWidget[keyFocus="true"]::item:focus { border: 2px solid @ring@; padding: 0 10px; }
+QPlainTextEdit[keyFocus="true"], QTextEdit[keyFocus="true"], QTreeView[keyFocus="true"],
+QTableView[keyFocus="true"] { border: 2px solid @ring@; }
+QHeaderView { background: #131317; border: none; }
+QHeaderView::section { background: #131317; border: none; border-bottom: 1px solid #23232B; color: #8A857C;
+    padding: 4px 12px; }
+QTableCornerButton::section { background: #131317; border: none; }
+QComboBox QAbstractItemView, QMenu { background: #18181E; border: 1px solid #2C2C35; border-radius: 4px;
+    color: #CFC9BF; padding: 4px; selection-background-color: #1F1F26; selection-color: #EDEAE3; outline: 0; }
+QComboBox QAbstractItemView::item { min-height: 28px; padding: 0 8px; }
+QComboBox QAbstractItemView::item:hover, QComboBox QAbstractItemView::item:selected { background: #1F1F26;
+    color: #EDEAE3; }
+QMenu::item { min-height: 20px; padding: 4px 24px 4px 28px; border-radius: 3px; }
+QMenu::item:selected { background: #1F1F26; color: #EDEAE3; }
+QMenu::item:disabled { background: transparent; color: #4A4842; }
+QMenu::separator { background: #23232B; height: 1px; margin: 4px 8px; }
+QMenu::indicator { width: 16px; height: 16px; margin-left: 6px; }
+QMenu::indicator:checked { image: url(tick-ink.kelpglyph); }
+QMenu::right-arrow { image: url(right-ink.kelpglyph); width: 16px; height: 16px; }
+QTabWidget::pane { border: 1px solid #23232B; border-radius: 6px; }
+QTabBar::tab { background: transparent; border: 1px solid transparent; border-radius: 4px; color: #B9B3A8;
+    min-height: 24px; padding: 0 12px; margin: 2px; }
+QTabBar::tab:hover { background: #18181E; color: #EDEAE3; }
+QTabBar::tab:selected { background: #1F1F26; border-color: #2C2C35; color: #EDEAE3; }
+QTabBar::tab:disabled { color: #4A4842; }
+QTabBar[keyFocus="true"]::tab:selected { border: 2px solid @ring@; padding: 0 11px; min-height: 22px; }
+QToolTip { background: #18181E; border: 1px solid #2C2C35; color: #EDEAE3; padding: 4px; }
+QProgressBar { background: #202028; border: none; border-radius: 2px; color: #EDEAE3; text-align: center; }
+QProgressBar::chunk { background: @accent@; border-radius: 2px; }
 QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: none; }
 QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
 QScrollBar:horizontal { background: transparent; height: 10px; margin: 0; }
@@ -118,21 +215,73 @@ QScrollBar::handle { background: #2C2C35; border-radius: 3px; margin: 2px; min-h
 QScrollBar::handle:hover { background: #4A4842; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
+QSplitter::handle { background: #23232B; }
 )"_L1;
+
+QString valueText(const QColor &colour)
+{
+    if (colour.alpha() == 255)
+        return colour.name();
+    return u"rgba(%1, %2, %3, %4)"_s.arg(colour.red())
+        .arg(colour.green())
+        .arg(colour.blue())
+        .arg(colour.alpha());
+}
+
+QColor namedColour(QStringView name)
+{
+    struct Named
+    {
+        QLatin1StringView name;
+        QColor colour;
+    };
+    const Named all[] = {
+        {"accent"_L1, theme::accentGraphic()},
+        {"ink"_L1, theme::accentInk()},
+        {"bright"_L1, theme::accentBright},
+        {"ring"_L1, theme::focusRing()},
+        {"wash"_L1, theme::wash()},
+        {"strong"_L1, theme::strongWash()},
+        {"proof"_L1, theme::statusInk(theme::proof())},
+        {"warning"_L1, theme::statusInk(theme::warning())},
+        {"failure"_L1, theme::statusInk(theme::failure())},
+    };
+    for (const Named &each : all) {
+        if (each.name == name)
+            return each.colour;
+    }
+    return {};
+}
 
 } // namespace
 
 QString darkStyleSheet()
 {
-    return QString(surfaces) + controls + views;
+    return QString(surfaces) + buttons + fields + views;
 }
 
-QFont interfaceFont()
+QString styleSheetInForce()
+{
+    const QString neutrals = theme::lightTheme ? mapStylesheetToLight(darkStyleSheet()) : darkStyleSheet();
+    // The accent's colours come in afterwards: they have been brought to this look by rules of their own.
+    const QList<QStringView> pieces = QStringView(neutrals).split(u'@');
+    QString sheet;
+    sheet.reserve(neutrals.size() + neutrals.size() / 8);
+    for (qsizetype i = 0; i < pieces.size(); ++i) {
+        if (i % 2 == 0)
+            sheet += pieces.at(i);
+        else
+            sheet += valueText(namedColour(pieces.at(i)));
+    }
+    return sheet;
+}
+
+QFont interfaceFont(int pixelSize)
 {
     QFont font;
     font.setFamilies(
         {u"Inter"_s, u"Noto Sans"_s, u"Noto Sans CJK SC"_s, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s});
-    font.setPixelSize(interfacePixels);
+    font.setPixelSize(pixelSize);
     return font;
 }
 
@@ -142,5 +291,21 @@ QFont figureFont(int pixelSize)
     font.setFamilies({u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s});
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(pixelSize);
+    return font;
+}
+
+QFont captionFont(const QString &caption)
+{
+    constexpr int engravedPixels = 11;
+    constexpr int plainPixels = 12;
+    constexpr double tracking = 0.08;
+    const bool engraved = std::all_of(caption.begin(), caption.end(), [](QChar c) {
+        return !c.isLetter() || c.script() == QChar::Script_Latin || c.script() == QChar::Script_Greek ||
+               c.script() == QChar::Script_Cyrillic;
+    });
+    if (!engraved)
+        return interfaceFont(plainPixels);
+    QFont font = figureFont(engravedPixels);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, tracking * engravedPixels);
     return font;
 }

@@ -6,6 +6,7 @@
 #include "engine/window/line_actions.h"
 #include "output/engine_controls.h"
 #include "ui/display_panel.h"
+#include "ui/instrument_panel.h"
 
 #include <variant>
 
@@ -48,6 +49,8 @@ void PlayerGuiWindow::buildInstrumentTimers()
     m_instruments.spectrumRelease = make(releaseIntervalMs, &PlayerGuiWindow::releaseSpectra);
     m_instruments.levelRefresh = make(levelRefreshMs, &PlayerGuiWindow::refreshLevelText);
     m_instruments.levelRefresh->setSingleShot(true);
+    m_instruments.clipRelease = make(clipHoldMs, &PlayerGuiWindow::releaseClip);
+    m_instruments.clipRelease->setSingleShot(true);
 }
 
 void PlayerGuiWindow::receiveLevels(const LevelLine &levels, double delayMs)
@@ -96,6 +99,7 @@ void PlayerGuiWindow::clearDelayedTelemetry()
     m_instruments.spectrumQueue.clear();
     m_instruments.levelRelease->stop();
     m_instruments.spectrumRelease->stop();
+    clearInstruments();
 }
 
 void PlayerGuiWindow::showLevels(const LevelLine &levels)
@@ -107,12 +111,13 @@ void PlayerGuiWindow::showLevels(const LevelLine &levels)
 
 void PlayerGuiWindow::refreshLevelText()
 {
-    m_ui.display->showLevels(m_instruments.levels.leftDb, m_instruments.levels.rightDb);
+    showLevelReadings();
 }
 
 void PlayerGuiWindow::showSpectrum(const SpectrumFrame &frame)
 {
     m_instruments.spectrum = frame;
+    showSpectrumFrame();
 }
 
 void PlayerGuiWindow::refreshSignalText()
@@ -127,5 +132,7 @@ void PlayerGuiWindow::refreshSignalText()
         if (!detail.isEmpty())
             details.append(detail);
     }
+    m_ui.instruments->showBits(m_signal.bits.bits.value_or(0), static_cast<int>(m_signal.bits.mode),
+                               m_signal.bitsToolTip.isEmpty() ? m_signal.bits.text : m_signal.bitsToolTip);
     m_ui.display->showSignal(words.join(u" · "_s), details.join(u'\n'), m_signal.chain.warn);
 }

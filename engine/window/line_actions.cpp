@@ -2,7 +2,10 @@
 
 #include "output/engine_controls.h"
 #include "ui/display_panel.h"
+#include "ui/instrument_panel.h"
 #include "ui/progress_row.h"
+#include "ui/scope_view.h"
+#include "ui/spectrum_view.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QLabel>
@@ -71,6 +74,7 @@ void LineActions::operator()(const ShowSource &effect) const
     window.m_ui.display->showFormat(labels.format);
     if (labels.ledBits)
         window.m_signal.bits.bits = labels.ledBits;
+    window.refreshSignalText();
 }
 
 void LineActions::operator()(const ShowLevels &effect) const
@@ -106,21 +110,28 @@ void LineActions::operator()(const ReceiveVerify &) const
 void LineActions::operator()(const ClearScope &) const
 {
     window.m_instruments.scope.reset();
+    window.m_ui.instruments->scope()->showNoPcm(
+        PlayerGuiWindow::tr("这条链上没有 PCM（DSD 直通）——没有波形"));
 }
 
 void LineActions::operator()(const ClearSpectrum &) const
 {
     window.m_instruments.spectrum.reset();
+    window.m_ui.instruments->spectrum()->showNoPcm(
+        PlayerGuiWindow::tr("此路径没有频谱：DSD 直接输出不含 PCM"));
 }
 
 void LineActions::operator()(const ShowScope &effect) const
 {
     window.m_instruments.scope = effect.frame;
+    window.showScopeFrame();
 }
 
 void LineActions::operator()(const ShowSpectrumZones &effect) const
 {
     window.m_instruments.zones = effect.zones;
+    window.m_ui.instruments->spectrum()->setZones(
+        effect.zones.low.value_or(0), effect.zones.audible.value_or(0), effect.zones.nyquist.value_or(0));
 }
 
 void LineActions::operator()(const ShowSpectrum &effect) const

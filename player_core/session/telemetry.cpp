@@ -302,7 +302,8 @@ void Telemetry::saySpectrumHead()
     if (!spectrumOn_)
         return;
     if (!spectrum_)
-        spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_);
+        // Whoever shows the two blocks as the two channels then shows what was measured.
+        spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_, SpectrumSecondBlock::rightChannel);
     lines_.say("SPC cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(SpectrumAnalyser::bands));
     lines_.say(spectrum_->zonesLine());
 }

@@ -6,6 +6,7 @@
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
 #include "ui/glyph_icons.h"
+#include "ui/instrument_panel.h"
 #include "ui/log_pane.h"
 #include "ui/progress_row.h"
 #include "ui/style_sheet.h"
@@ -140,6 +141,9 @@ QWidget *PlayerGuiWindow::buildCentre()
     m_ui.display = new DisplayPanel(centre);
     m_ui.display->setMinimumHeight(displayHeight);
     rows->addWidget(m_ui.display, 1);
+
+    m_ui.instruments = new InstrumentPanel(centre);
+    rows->addWidget(m_ui.instruments);
 
     m_ui.engineSwitch = new QToolButton(centre);
     m_ui.engineSwitch->setObjectName("vesperSwitch"_L1);

@@ -1,6 +1,7 @@
 #include "ui/window/player_gui_window.h"
 
 #include "engine/telemetry_mailbox.h"
+#include "ui/keyboard_focus.h"
 #include "ui/style_sheet.h"
 
 #include <QStatusBar>
@@ -22,10 +23,12 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
     setFont(interfaceFont());
+    KeyboardFocus::install();
+    loadTheme();
     buildInstrumentTimers();
     buildLayout();
     // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
-    setStyleSheet(darkStyleSheet());
+    applyTheme();
     statusBar()->hide();
     setMinimumSize(leastSize);
     resize(initialSize);

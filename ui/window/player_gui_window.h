@@ -18,6 +18,7 @@
 #include <exception>
 
 class QSettings;
+class SystemScheme;
 struct SessionEndVerdict;
 
 /// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
@@ -82,6 +83,16 @@ public:
     void populateDevicesBlocking();
     QString currentDeviceName() const;
 
+    // ── the look (ui/window) ──
+    /// Palette and sheet in the colours of theme.h, which have been settled before.
+    void applyTheme();
+    /// Settles the look anew from the settings, shows it and logs which one it is.
+    void changeTheme();
+    /// The accent of a cover, where the listener wants that; the chosen one without a cover.
+    void useCoverAccent(const QPixmap &cover);
+    /// The accent of the settings.
+    void loadUserAccent();
+
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
     void restorePlaylist();
@@ -123,6 +134,13 @@ private:
     void orderTabs();
     void connectControls();
     void showMessage(const QString &text);
+    void loadTheme();
+    bool wantsLightTheme();
+    void showLevelReadings();
+    void releaseClip();
+    void showSpectrumFrame();
+    void showScopeFrame();
+    void clearInstruments();
     bool confirmClose();
 
     // ── app/window ──
@@ -205,6 +223,7 @@ private:
     EngineLineState m_lines;
     InstrumentState m_instruments;
     SignalState m_signal;
+    SystemScheme *m_systemScheme = nullptr; ///< child of the window; made when it is followed first
     TrackStartState m_start;
     PreloadState m_preload;
     TrackProgressState m_progress;

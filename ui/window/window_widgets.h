@@ -5,6 +5,7 @@
 class DisplayPanel;
 class DockBar;
 class EngineControls;
+class InstrumentPanel;
 class LogPane;
 class PlaylistWidget;
 class ProgressRow;
@@ -20,6 +21,7 @@ struct WindowWidgets
     QPushButton *importFiles = nullptr;
     QPushButton *analyze = nullptr;
     DisplayPanel *display = nullptr;
+    InstrumentPanel *instruments = nullptr;
     DockBar *dock = nullptr;
     ProgressRow *progress = nullptr;
     EngineControls *engine = nullptr;
