@@ -31,8 +31,8 @@ ChainLampView chainLamp(const ChainLampFacts &facts)
     }
     const bool saysNo = verdict.contains("NO"_L1);
     const bool saysYes = !saysNo && verdict.startsWith("YES"_L1);
-    const bool objects = (!verdict.isEmpty() && !saysYes) || (!chain.isEmpty() && !chain.contains("clean"_L1)) ||
-                         facts.checkPassed == false;
+    const bool objects = (!verdict.isEmpty() && !saysYes) ||
+                         (!chain.isEmpty() && !chain.contains("clean"_L1)) || facts.checkPassed == false;
     if (objects) {
         view.lamp = ChainLamp::Amber;
         // A word that claims less than the verdict may stay; "bit-perfect" may not.

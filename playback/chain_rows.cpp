@@ -61,8 +61,8 @@ QList<ChainRow> buildChainRows(const QString &text)
 {
     QList<ChainRow> rows;
     for (const QStringView line : QStringView(text).split(u'\n', Qt::SkipEmptyParts)) {
-        const auto *const form =
-            std::ranges::find_if(forms, [&](const Form &candidate) { return line.startsWith(candidate.start); });
+        const auto *const form = std::ranges::find_if(
+            forms, [&](const Form &candidate) { return line.startsWith(candidate.start); });
         if (form == forms.end() || !form->label)
             continue;
         const QString value = valueOf(line, *form);

@@ -14,7 +14,8 @@ struct ChainRow
     bool operator==(const ChainRow &) const = default;
 };
 
-/// \param text lines that begin with a label of the engine's; all others, and the labels that stand in the header
+/// \param text lines that begin with a label of the engine's; all others, and the labels that stand in the
+/// header
 ///             of the display, give no row
 QList<ChainRow> buildChainRows(const QString &text);
 

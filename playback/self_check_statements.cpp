@@ -100,7 +100,7 @@ CheckTopic checkTopicOf(const VerifyItem &item)
     if (item.name.startsWith("source"_L1))
         return CheckTopic::Source;
     return std::ranges::find(deliveryNames, item.name) != deliveryNames.end() ? CheckTopic::Delivery
-                                                                               : CheckTopic::Path;
+                                                                              : CheckTopic::Path;
 }
 
 std::array<CheckStatement, 3> checkStatements(const QList<VerifyItem> &items, bool finished)

@@ -1,6 +1,6 @@
 /// \file
-/// The three statements of a self-check, which are never merged: a lossless source, an unchanged path, a verified
-/// delivery.
+/// The three statements of a self-check, which are never merged: a lossless source, an unchanged path, a
+/// verified delivery.
 #pragma once
 
 #include "playback/verify_lines.h"
@@ -11,10 +11,10 @@
 
 enum class CheckMark
 {
-    Pending,      ///< the engine has not answered yet
-    Proved,       ///< tick
-    Disproved,    ///< cross
-    NotProvable   ///< dash; not a pass
+    Pending,    ///< the engine has not answered yet
+    Proved,     ///< tick
+    Disproved,  ///< cross
+    NotProvable ///< dash; not a pass
 };
 
 struct CheckStatement
@@ -39,6 +39,6 @@ CheckTopic checkTopicOf(const VerifyItem &item);
 /// \param finished the verdict has come: what has no item by now gets none
 std::array<CheckStatement, 3> checkStatements(const QList<VerifyItem> &items, bool finished);
 
-/// "The first stage that broke it: …" in one sentence; what is only not known counts behind what is broken. Empty
-/// when every item passed.
+/// "The first stage that broke it: …" in one sentence; what is only not known counts behind what is broken.
+/// Empty when every item passed.
 QString firstBreakSentence(const QList<VerifyItem> &items);

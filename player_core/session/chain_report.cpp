@@ -130,7 +130,8 @@ bool readBackAgrees(const OpenedOutput &o)
 
 std::string readBackText(const ReadBack &record)
 {
-    return rateText(record.rateHz) + ' ' + record.format + ' ' + std::to_string(record.channels) + " channels";
+    return rateText(record.rateHz) + ' ' + record.format + ' ' + std::to_string(record.channels) +
+           " channels";
 }
 
 std::string chainVerdict(const ChainFacts &f)

@@ -21,17 +21,17 @@ struct ChainFacts
     TransformPlan transform;
     double latencyMs = -1; ///< below 0: not measured yet
     VolumeFacts volume;
-    bool fading = false;   ///< a fade or crossfade is under way
-    bool dithered = false; ///< the last samples were dithered
+    bool fading = false;    ///< a fade or crossfade is under way
+    bool dithered = false;  ///< the last samples were dithered
     unsigned underruns = 0; ///< since the device was opened
 
     // Of the track in hand:
-    std::string failure;         ///< why its rest could not be read; empty when it could
-    bool mixing = false;         ///< it is being mixed with another
+    std::string failure; ///< why its rest could not be read; empty when it could
+    bool mixing = false; ///< it is being mixed with another
     bool paused = false;
-    int64_t trackFrames = 0;     ///< handed over so far
-    int64_t scaledFrames = 0;    ///< of these, scaled, faded or mixed
-    uint64_t clipped = 0;        ///< samples cut at full scale
+    int64_t trackFrames = 0;  ///< handed over so far
+    int64_t scaledFrames = 0; ///< of these, scaled, faded or mixed
+    uint64_t clipped = 0;     ///< samples cut at full scale
     unsigned trackUnderruns = 0;
     /// What stages say for themselves that are not always in the chain (see verifyItems).
     std::vector<StageItem> stages;

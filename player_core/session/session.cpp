@@ -202,8 +202,8 @@ void Session::onTrackOver(uint32_t serial)
 std::chrono::milliseconds Session::waitTime() const
 {
     if (verifyAt_)
-        return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(*verifyAt_ - Clock::now()), 1ms,
-                          std::chrono::milliseconds(watchPeriod));
+        return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(*verifyAt_ - Clock::now()),
+                          1ms, std::chrono::milliseconds(watchPeriod));
     if (!playing_ && deferred_)
         return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(deferredAt_ - Clock::now()),
                           1ms, std::chrono::milliseconds(watchPeriod));

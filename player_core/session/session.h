@@ -141,9 +141,9 @@ private:
     Clock::time_point idleSince_{};
     Clock::time_point pausedSince_{};
     Clock::time_point selfStarted_{};
-    Clock::time_point changedAt_{};                 ///< when the last line came that may change the chain
-    std::optional<Clock::time_point> verifyAt_;     ///< a check that waits for the stages to settle
-    unsigned underrunsBefore_ = 0;                  ///< when the track that is heard began
+    Clock::time_point changedAt_{};             ///< when the last line came that may change the chain
+    std::optional<Clock::time_point> verifyAt_; ///< a check that waits for the stages to settle
+    unsigned underrunsBefore_ = 0;              ///< when the track that is heard began
     std::set<std::string> warned_;
     std::optional<int> exit_;
 };

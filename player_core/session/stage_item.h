@@ -15,7 +15,7 @@ enum class Proof
 /// A stage's answer to `verify`. Plain value.
 struct StageItem
 {
-    std::string name;   ///< one of stage_name, or a name of the stage's own
+    std::string name; ///< one of stage_name, or a name of the stage's own
     Proof proof = Proof::unknown;
     std::string reason; ///< one line of English, no full stop at its end
 };

@@ -54,8 +54,8 @@ StageItem resamplerItem(const ChainFacts &f)
 {
     const TransformPlan &t = f.transform;
     if (t.resamples())
-        return broken(stage_name::resampler, "the rate is converted from " + hertz(t.decodedRateHz()) +
-                                                 " to " + hertz(t.toRateHz));
+        return broken(stage_name::resampler,
+                      "the rate is converted from " + hertz(t.decodedRateHz()) + " to " + hertz(t.toRateHz));
     return kept(stage_name::resampler, "not in the chain");
 }
 
@@ -80,7 +80,8 @@ StageItem volumeItem(const ChainFacts &f)
                                               fixedText(decibels(f.volume.gain), 2) + " dB");
     if (f.scaledFrames > 0)
         return kept(stage_name::volume, "unity, the samples are not scaled now; " +
-                                            std::to_string(f.scaledFrames) + " earlier frames of this track were");
+                                            std::to_string(f.scaledFrames) +
+                                            " earlier frames of this track were");
     return kept(stage_name::volume,
                 "unity, none of the " + std::to_string(f.trackFrames) + " frames so far was scaled");
 }
@@ -103,7 +104,8 @@ StageItem clippingItem(const ChainFacts &f)
         return kept(stage_name::clipping, "a DSD stream cannot clip");
     if (f.clipped > 0)
         return broken(stage_name::clipping,
-                      std::to_string(f.clipped) + " samples of this track stood beyond full scale and were cut");
+                      std::to_string(f.clipped) +
+                          " samples of this track stood beyond full scale and were cut");
     return kept(stage_name::clipping, "no sample of this track was cut");
 }
 
@@ -118,13 +120,14 @@ StageItem depthItem(const ChainFacts &f)
     const int room = floatWire ? 24 : wire.validBits;
     const std::string bits = std::to_string(room) + " bits";
     if (f.dithered)
-        return broken(stage_name::depth, "the device takes " + bits + " of the source's " +
-                                             std::to_string(from.depthBits));
+        return broken(stage_name::depth,
+                      "the device takes " + bits + " of the source's " + std::to_string(from.depthBits));
     if (from.isDsd() || (from.isFloat && floatWire && from.depthBits <= 32))
         return kept(stage_name::depth, "the device takes the samples in " + bits + ", without rounding");
     if (from.isFloat || from.depthBits > room)
         return broken(stage_name::depth, "the device takes " + bits + " of the source's " +
-                                             std::to_string(from.depthBits) + (from.isFloat ? " in floats" : ""));
+                                             std::to_string(from.depthBits) +
+                                             (from.isFloat ? " in floats" : ""));
     return kept(stage_name::depth, "all " + std::to_string(from.depthBits) + " bits fit the device's " +
                                        std::to_string(room) + ", no dither");
 }
@@ -153,9 +156,10 @@ StageItem deliveryItem(const ChainFacts &f)
         return {stage_name::delivery, Proof::unknown,
                 "what the hardware runs at cannot be read back, so what reached it is not shown"};
     if (!readBackAgrees(f.output))
-        return broken(stage_name::delivery, "the " + back.origin + " shows " + readBackText(back) +
-                                                ", not what was handed over");
-    return kept(stage_name::delivery, "the " + back.origin + " shows " + readBackText(back) + ", as was handed over");
+        return broken(stage_name::delivery,
+                      "the " + back.origin + " shows " + readBackText(back) + ", not what was handed over");
+    return kept(stage_name::delivery,
+                "the " + back.origin + " shows " + readBackText(back) + ", as was handed over");
 }
 
 StageItem underrunItem(const ChainFacts &f)
@@ -171,22 +175,23 @@ StageItem underrunItem(const ChainFacts &f)
 
 std::vector<StageItem> verifyItems(const ChainFacts &f)
 {
-    std::vector<StageItem> items = {sourceItem(f),
-                                    decodingItem(f),
-                                    resamplerItem(f),
-                                    channelItem(f),
-                                    kept(stage_name::effects, "none is in the chain"),
-                                    kept(stage_name::speed, "1.00x, no stage for another speed is in the chain"),
-                                    kept(stage_name::replayGain, "not in the chain"),
-                                    volumeItem(f),
-                                    crossfadeItem(f),
-                                    kept(stage_name::guard, "not in the chain"),
-                                    clippingItem(f),
-                                    depthItem(f),
-                                    mixerItem(f),
-                                    conversionItem(f),
-                                    deliveryItem(f),
-                                    underrunItem(f)};
+    std::vector<StageItem> items = {
+        sourceItem(f),
+        decodingItem(f),
+        resamplerItem(f),
+        channelItem(f),
+        kept(stage_name::effects, "none is in the chain"),
+        kept(stage_name::speed, "1.00x, no stage for another speed is in the chain"),
+        kept(stage_name::replayGain, "not in the chain"),
+        volumeItem(f),
+        crossfadeItem(f),
+        kept(stage_name::guard, "not in the chain"),
+        clippingItem(f),
+        depthItem(f),
+        mixerItem(f),
+        conversionItem(f),
+        deliveryItem(f),
+        underrunItem(f)};
     const auto named = [&items](const std::string &name) {
         return std::find_if(items.begin(), items.end(), [&](const StageItem &i) { return i.name == name; });
     };
@@ -202,8 +207,8 @@ std::vector<StageItem> verifyItems(const ChainFacts &f)
 const StageItem *firstObjection(const std::vector<StageItem> &items)
 {
     for (const Proof proof : {Proof::broken, Proof::unknown}) {
-        const auto at =
-            std::find_if(items.begin(), items.end(), [proof](const StageItem &i) { return i.proof == proof; });
+        const auto at = std::find_if(items.begin(), items.end(),
+                                     [proof](const StageItem &i) { return i.proof == proof; });
         if (at != items.end())
             return &*at;
     }
@@ -216,8 +221,8 @@ std::vector<std::string> verifyReport(const ChainFacts &facts)
     std::vector<std::string> lines;
     for (const StageItem &item : items) {
         const char *unknown = item.proof == Proof::unknown ? "not known: " : "";
-        lines.push_back("verify: " + item.name + (item.proof == Proof::kept ? " ok -- " : " FAIL -- ") + unknown +
-                        oneLine(item.reason));
+        lines.push_back("verify: " + item.name + (item.proof == Proof::kept ? " ok -- " : " FAIL -- ") +
+                        unknown + oneLine(item.reason));
     }
     const StageItem *objection = firstObjection(items);
     if (!objection)
@@ -225,7 +230,8 @@ std::vector<std::string> verifyReport(const ChainFacts &facts)
                         " stages keep every sample as it is");
     else
         lines.push_back("verify: verdict BITPERFECT=0 | " + objection->name + ": " +
-                        (objection->proof == Proof::unknown ? "not known: " : "") + oneLine(objection->reason));
+                        (objection->proof == Proof::unknown ? "not known: " : "") +
+                        oneLine(objection->reason));
     return lines;
 }
 

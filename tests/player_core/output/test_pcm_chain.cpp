@@ -79,8 +79,9 @@ TEST(PcmChain, AFileNameCannotSpeakForTheChain)
 
 TEST(PcmChain, TheEndsSetupIsReadFromTheLastStage)
 {
-    const std::string outer = "File PCM (file=a)\nIts setup is:\n  format       : S16_LE\n  channels     : 2\n"
-                              "  rate         : 44100\n  exact rate   : 44100 (44100/1)\n";
+    const std::string outer =
+        "File PCM (file=a)\nIts setup is:\n  format       : S16_LE\n  channels     : 2\n"
+        "  rate         : 44100\n  exact rate   : 44100 (44100/1)\n";
     const std::string inner = "Slave: Null PCM\nIts setup is:\n  format       : S24_3LE\n  channels     : 6\n"
                               "  rate         : 48000\n  exact rate   : 48000 (48000/1)\n";
     const kelp_core::ReadBack one = kelp_core::parseEndSetup(outer);
@@ -96,7 +97,8 @@ TEST(PcmChain, TheEndsSetupIsReadFromTheLastStage)
 
 TEST(PcmChain, ADamagedSetupIsNotKnown)
 {
-    const std::string good = "Its setup is:\n  format       : S16_LE\n  channels     : 2\n  rate         : 44100\n";
+    const std::string good =
+        "Its setup is:\n  format       : S16_LE\n  channels     : 2\n  rate         : 44100\n";
     EXPECT_TRUE(kelp_core::parseEndSetup(good).known);
     for (const char *text : {"", "Its setup is:\n", "  rate         : 44100", "Null PCM\n",
                              "  format       : S16_LE\n  channels     : -2\n  rate         : 44100\n",

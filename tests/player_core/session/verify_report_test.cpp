@@ -85,16 +85,21 @@ const VerifyCase cases[] = {
      },
      stage_name::depth, "24 bits of the source's 32"},
     {"mixer", [](ChainFacts &f) { f.output.mixer = true; }, stage_name::mixer, "mixer stands in the way"},
-    {"known conversion", [](ChainFacts &f) { f.output.converts = true; }, stage_name::conversion, "converted"},
+    {"known conversion", [](ChainFacts &f) { f.output.converts = true; }, stage_name::conversion,
+     "converted"},
     {"another rate", [](ChainFacts &f) { f.output.readBack.rateHz = 48000; }, stage_name::delivery,
      "not what was handed over"},
     {"underrun", [](ChainFacts &f) { f.trackUnderruns = 2; }, stage_name::underruns, "2 times"},
     {"a stage that speaks for itself",
-     [](ChainFacts &f) { f.stages.push_back({stage_name::speed, Proof::broken, "the speed is 1.25x"}); },
+     [](ChainFacts &f) {
+         f.stages.push_back({stage_name::speed, Proof::broken, "the speed is 1.25x"});
+     },
      stage_name::speed, "1.25x"},
     {"a stage of its own name",
-     [](ChainFacts &f) { f.stages.push_back({"equalizer", Proof::broken, "ten bands"}); }, "equalizer",
-     "ten bands"},
+     [](ChainFacts &f) {
+         f.stages.push_back({"equalizer", Proof::broken, "ten bands"});
+     },
+     "equalizer", "ten bands"},
 };
 
 std::string lineOf(const ChainFacts &facts, const std::string &item)
@@ -124,7 +129,8 @@ TEST(VerifyTest, EachStageBreaksTheVerdictByItself)
     for (const VerifyCase &c : cases) {
         ChainFacts facts = provenFacts();
         c.change(facts);
-        EXPECT_THAT(lineOf(facts, c.item), StartsWith("verify: " + std::string(c.item) + " FAIL -- ")) << c.name;
+        EXPECT_THAT(lineOf(facts, c.item), StartsWith("verify: " + std::string(c.item) + " FAIL -- "))
+            << c.name;
         EXPECT_THAT(lineOf(facts, c.item), HasSubstr(c.reason)) << c.name;
         EXPECT_THAT(verifyReport(facts).back(), StartsWith("verify: verdict BITPERFECT=0 | ")) << c.name;
         EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("NO: ")) << c.name;
@@ -136,7 +142,8 @@ TEST(VerifyTest, WhatCannotBeReadBackIsNotAPass)
     ChainFacts facts = provenFacts();
     facts.output.readBack = {};
     EXPECT_THAT(lineOf(facts, stage_name::delivery), StartsWith("verify: delivery FAIL -- not known: "));
-    EXPECT_THAT(verifyReport(facts).back(), StartsWith("verify: verdict BITPERFECT=0 | delivery: not known: "));
+    EXPECT_THAT(verifyReport(facts).back(),
+                StartsWith("verify: verdict BITPERFECT=0 | delivery: not known: "));
     EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("not known: "));
 }
 
@@ -187,7 +194,8 @@ TEST(VerifySessionTest, ACheckOfARunningStreamIsAnsweredFromItsState)
     // A change and a check in one breath: the answer is for what comes after the change.
     world.send("vol 50");
     world.send("verify");
-    EXPECT_THAT(world.waitLine("verify: volume"), StartsWith("verify: volume FAIL -- the volume stage scales"));
+    EXPECT_THAT(world.waitLine("verify: volume"),
+                StartsWith("verify: volume FAIL -- the volume stage scales"));
     EXPECT_THAT(world.waitLine("verify: verdict"), StartsWith("verify: verdict BITPERFECT=0 | volume"));
     world.send("vol 100");
     world.send("verify");
