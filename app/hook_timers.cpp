@@ -127,7 +127,7 @@ void armRigDump(PlayerGuiWindow &window, const HookPlan &plan)
 {
     if (!plan.rigDump)
         return;
-    QComboBox *rig = window.widgets().engine->rig;
+    QComboBox *rig = window.engineControls().rig;
     if (const int row = plan.rigDumpValue.isEmpty() ? -1 : rig->findData(plan.rigDumpValue); row >= 0)
         rig->setCurrentIndex(row);
     say(u"[gui] KELP_GUI_RIGDUMP: %1"_s.arg(rig->currentText()));

@@ -35,6 +35,7 @@ private:
 struct LogState
 {
     LogBatch<LogEntry> batch; ///< waiting for one common repaint of the pane
+    QList<LogEntry> unread;   ///< from before the pane was built, the newest of them
     QElapsedTimer sinceFlush; ///< invalid before the first repaint of the pane
     CurrentStage stage;
     std::optional<qint64> readyAfterMs; ///< from the process's start to the window being shown

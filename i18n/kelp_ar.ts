@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (خلّاط النظام؛ ليس مطابقًا بتًّا ببت)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM إلى DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>يُضمَّن PCM إلى DSD قبل الإرسال: تتغير العينات، فلا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>إعادة أخذ العينات إلى معدل الجهاز</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>تتغير العينات، فلا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>سرعة التشغيل</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>تبقى طبقة الصوت؛ وعند غير 1.00 لا يكون الإخراج مطابقًا بتًّا ببت.</translation>
     </message>
     <message>

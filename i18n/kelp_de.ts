@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (Systemmischer; nicht bitgenau)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM zu DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>Moduliert PCM zu DSD: ändert die Samples, nicht bitgenau.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Resampling auf die Rate des Geräts</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>Ändert die Samples, nicht bitgenau.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>Wiedergabetempo</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>Die Tonhöhe bleibt; außer bei 1.00 nicht bitgenau.</translation>
     </message>
     <message>

@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (system mixer; non-bit-perfect)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM to DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>Modulates PCM to DSD: changes the samples, not bit-perfect.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Resample to the device&apos;s rate</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>Changes the samples, not bit-perfect.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>Playback speed</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>Keeps the pitch; anything but 1.00 is not bit-perfect.</translation>
     </message>
     <message>

@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (mélangeur du système ; non bit-perfect)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM vers DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>Module le PCM en DSD : les échantillons changent, ce n’est pas bit-perfect.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Rééchantillonner à la fréquence du périphérique</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>Les échantillons changent, ce n’est pas bit-perfect.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>Vitesse de lecture</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>La hauteur du son est conservée ; hors de 1.00, ce n’est pas bit-perfect.</translation>
     </message>
     <message>

@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse（系統混音器；非 bit-perfect）</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM 轉 DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>把 PCM 調變成 DSD 再送出：改變樣本，不是 bit-perfect。</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>重新取樣到裝置速率</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>改變樣本，不是 bit-perfect。</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>播放速度</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>保持音高；不是 1.00 就不是 bit-perfect。</translation>
     </message>
     <message>

@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse（システムミキサー。ビットパーフェクトではありません）</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM を DSD に変換</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>PCM を DSD に変調して送ります。サンプルが変わり、ビットパーフェクトではありません。</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>デバイスのレートにリサンプリング</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>サンプルが変わり、ビットパーフェクトではありません。</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>再生速度</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>音の高さは保ちます。1.00 以外ではビットパーフェクトではありません。</translation>
     </message>
     <message>

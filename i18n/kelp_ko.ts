@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse(시스템 믹서, 비트 퍼펙트 아님)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM을 DSD로 변환</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>PCM을 DSD로 변조해 보냅니다. 샘플이 바뀌므로 비트 퍼펙트가 아닙니다.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>장치 레이트로 리샘플링</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>샘플이 바뀌므로 비트 퍼펙트가 아닙니다.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>재생 속도</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>음높이는 유지합니다. 1.00이 아니면 비트 퍼펙트가 아닙니다.</translation>
     </message>
     <message>

@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (mikser systemowy; nie bit-perfect)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM na DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>Moduluje PCM do DSD: zmienia próbki, nie jest bit-perfect.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Przepróbkuj do częstotliwości urządzenia</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>Zmienia próbki, nie jest bit-perfect.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>Szybkość odtwarzania</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>Wysokość dźwięku bez zmian; poza 1.00 nie jest bit-perfect.</translation>
     </message>
     <message>

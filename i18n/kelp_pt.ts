@@ -136,7 +136,7 @@
 <context>
     <name>DeviceList</name>
     <message>
-        <source>pulse（系统混音器；非比特完美）</source>
+        <source>pulse（系统混音器；非位完美）</source>
         <translation>pulse (mixer do sistema; não bit-perfect)</translation>
     </message>
 </context>
@@ -414,7 +414,7 @@
         <translation>PCM para DSD</translation>
     </message>
     <message>
-        <source>把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。</source>
+        <source>把 PCM 调制成 DSD 再送出：改变样本，不是位完美。</source>
         <translation>Modula PCM para DSD: altera as amostras, não é bit-perfect.</translation>
     </message>
     <message>
@@ -462,7 +462,7 @@
         <translation>Reamostrar para a taxa do dispositivo</translation>
     </message>
     <message>
-        <source>改变样本，不是比特完美。</source>
+        <source>改变样本，不是位完美。</source>
         <translation>Altera as amostras, não é bit-perfect.</translation>
     </message>
     <message>
@@ -538,7 +538,7 @@
         <translation>Velocidade de reprodução</translation>
     </message>
     <message>
-        <source>保持音高；不是 1.00 就不是比特完美。</source>
+        <source>保持音高；不是 1.00 就不是位完美。</source>
         <translation>O tom é mantido; fora de 1.00 não é bit-perfect.</translation>
     </message>
     <message>

@@ -48,7 +48,7 @@ ListedDevice soundServer(const QStringList &fields)
     if (id.isEmpty())
         id = u"pulse"_s;
     const QString label =
-        id == "pulse"_L1 ? QCoreApplication::translate("DeviceList", "pulse（系统混音器；非比特完美）") : id;
+        id == "pulse"_L1 ? QCoreApplication::translate("DeviceList", "pulse（系统混音器；非位完美）") : id;
     return {id, label, false};
 }
 

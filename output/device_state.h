@@ -3,8 +3,8 @@
 #pragma once
 
 #include "engine/engine_probe.h"
+#include "output/device_list.h"
 
-#include <QComboBox>
 #include <QList>
 #include <QString>
 #include <future>
@@ -19,9 +19,7 @@ struct DeviceListing
 
 struct DeviceState
 {
-    /// All device combos: the primary one first, then one a channel. Same rows in the same order; the data of
-    /// a row is the engine's id, empty for the system's default. Owned by their parents.
-    QList<QComboBox *> deviceCombos;
+    QList<ListedDevice> listed;              ///< of the last listing that succeeded
     bool devicesRestored = false;            ///< the remembered selection is read once
     bool populatingDevices = false;          ///< rows are being rebuilt: their signals are no choices
     QString lastBusyDevice;                  ///< the engine reported it as held exclusively by somebody else

@@ -11,17 +11,17 @@ constexpr int controlHeight = 30;
 constexpr int controlWidth = 168;
 constexpr int columnWidth = 300;
 
-struct Choice
+/// Selects the row of a code; a code without a row changes nothing.
+void select(QComboBox *combo, const QString &code)
 {
-    const char *text;
-    int data;
-};
+    if (const int row = combo->findData(code); row >= 0)
+        combo->setCurrentIndex(row);
+}
 
-constexpr std::array dsdTargets = {Choice{"DSD64", 2822400},    Choice{"DSD128", 5644800},
-                                   Choice{"DSD256", 11289600},  Choice{"DSD512", 22579200},
-                                   Choice{"DSD1024", 45158400}, Choice{"DSD2048", 90316800}};
-constexpr std::array tapChoices = {2048, 4096, 8192, 16384, 32768};
-constexpr std::array layouts = {2, 4, 5, 6, 8};
+QString codeOf(const QComboBox *combo)
+{
+    return combo->currentData().toString();
+}
 
 } // namespace
 
@@ -45,7 +45,7 @@ EngineControls::EngineControls(QWidget *parent)
         column->addStretch();
         m_columns->addLayout(column, 1);
     }
-    refreshDependents();
+    showChoices({});
     watch();
 }
 
@@ -83,19 +83,14 @@ void EngineControls::addRow(QGridLayout *grid, const QString &name, const QStrin
     grid->addWidget(control, row, 1, Qt::AlignVCenter | Qt::AlignTrailing);
 }
 
-QComboBox *EngineControls::addCombo(QGridLayout *grid, const QString &name, const QString &tip)
+QComboBox *EngineControls::addCombo(QGridLayout *grid, const QString &name, const QString &tip,
+                                    const QList<ChoiceItem> &items)
 {
     auto *combo = new QComboBox(this);
     combo->setFixedWidth(controlWidth);
+    for (const ChoiceItem &item : items)
+        combo->addItem(item.text, item.code);
     addRow(grid, name, tip, combo);
-    return combo;
-}
-
-QComboBox *EngineControls::addCodes(QGridLayout *grid, const QString &name, const QString &tip,
-                                    const QStringList &codes)
-{
-    QComboBox *combo = addCombo(grid, name, tip);
-    combo->addItems(codes);
     return combo;
 }
 
@@ -123,24 +118,18 @@ QDoubleSpinBox *EngineControls::addSpin(QGridLayout *grid, const QString &name, 
 void EngineControls::buildDevices(QGridLayout *grid)
 {
     outputPath =
-        addCodes(grid, tr("输出路径"), tr("独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。"),
-                 {u"auto"_s, u"exclusive"_s, u"shared"_s});
-    dop = addCodes(grid, tr("DSD 传输"), tr("auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。"),
-                   {u"auto"_s, u"force"_s, u"native"_s});
-    mode = addCodes(grid, tr("播放模式"), tr("standard 用一台设备；其他模式每个声道或声道对用一台设备。"),
-                    {u"standard"_s, u"differential"_s, u"btl"_s, u"crossover"_s, u"pairs"_s});
-    layoutChoice = addCombo(grid, tr("声道数"), tr("多设备模式分配的声道数。"));
-    for (const int channels : layouts)
-        layoutChoice->addItem(tr("%1 声道").arg(channels), channels);
-    rig = addCombo(grid, tr("声道布置"), tr("源的声道怎样分到输出；auto 由程序决定。"));
-    rig->addItem(u"auto"_s, QString());
-    for (const QString &word : {u"direct"_s, u"bs775"_s, u"all-channel-stereo"_s, u"custom"_s})
-        rig->addItem(word, word);
+        addCombo(grid, tr("输出路径"), tr("独占直达硬件，共享经过系统混音器，auto 先试独占再退到共享。"),
+                 engineItems::outputPaths());
+    dop = addCombo(grid, tr("DSD 传输"), tr("auto 由程序判断；force 一律用 DoP；native 要求原生 DSD。"),
+                   engineItems::dops());
+    mode = addCombo(grid, tr("播放模式"), tr("standard 用一台设备；其他模式每个声道或声道对用一台设备。"),
+                    engineItems::modes());
+    layoutChoice = addCombo(grid, tr("声道数"), tr("多设备模式分配的声道数。"), engineItems::layouts());
+    rig = addCombo(grid, tr("声道布置"), tr("源的声道怎样分到输出；auto 由程序决定。"), engineItems::rigs());
     crossoverHz = addSpin(grid, tr("分频点"), tr("低于这个频率的送到低音设备。"), 20., 20000., 0);
     crossoverHz->setSuffix(u" Hz"_s);
-    crossoverHz->setValue(80.);
     crossoverBridged = addCheck(grid, tr("桥接分频"), tr("每一路分频用两台桥接的设备。"));
-    for (int channel = 1; channel <= mostChannels; ++channel) {
+    for (int channel = 1; channel <= EngineChoices::mostChannels; ++channel) {
         const QString name = tr("设备 %1").arg(channel);
         QComboBox *combo = addCombo(grid, name, tr("这个声道的输出设备。"));
         channelDevices.append(combo);
@@ -152,22 +141,13 @@ void EngineControls::buildDevices(QGridLayout *grid)
 void EngineControls::buildDecoding(QGridLayout *grid)
 {
     forcedPcm = addCheck(grid, tr("DSD 一律解码为 PCM"), tr("不再直通 DSD：设备只接 PCM 或要用效果时使用。"));
-    pcmBits = addCodes(grid, tr("PCM 位深"), tr("DSD 解码成 PCM 时的位深。"),
-                       {u"16"_s, u"24"_s, u"32"_s, u"float32"_s});
-    pcmBits->setCurrentIndex(1);
-    pcmFilter = addCombo(grid, tr("解码滤波器"), tr("DSD 解码成 PCM 的滤波器：越好越费算力。"));
-    for (const QString &code : {u"fast"_s, u"standard"_s, u"best"_s})
-        pcmFilter->addItem(QString(), code);
-    namePcmFilters(-1);
-    pcmFilter->setCurrentIndex(1);
-    pcmToDsd = addCheck(grid, tr("PCM 转 DSD"), tr("把 PCM 调制成 DSD 再送出：改变样本，不是比特完美。"));
-    pcmToDsdTarget = addCombo(grid, tr("目标速率"), tr("调制后的 DSD 速率。"));
-    for (const Choice &target : dsdTargets)
-        pcmToDsdTarget->addItem(QString::fromLatin1(target.text), target.data);
-    pcmToDsdTaps = addCombo(grid, tr("调制滤波器抽头"), tr("升频滤波器的长度；自动由引擎决定。"));
-    pcmToDsdTaps->addItem(tr("自动"), 0);
-    for (const int taps : tapChoices)
-        pcmToDsdTaps->addItem(QString::number(taps), taps);
+    pcmBits = addCombo(grid, tr("PCM 位深"), tr("DSD 解码成 PCM 时的位深。"), engineItems::pcmBits());
+    pcmFilter = addCombo(grid, tr("解码滤波器"), tr("DSD 解码成 PCM 的滤波器：越好越费算力。"),
+                         engineItems::pcmFilters());
+    pcmToDsd = addCheck(grid, tr("PCM 转 DSD"), tr("把 PCM 调制成 DSD 再送出：改变样本，不是位完美。"));
+    pcmToDsdTarget = addCombo(grid, tr("目标速率"), tr("调制后的 DSD 速率。"), engineItems::dsdTargets());
+    pcmToDsdTaps = addCombo(grid, tr("调制滤波器抽头"), tr("升频滤波器的长度；自动由引擎决定。"),
+                            engineItems::dsdTaps());
     extDecoder = new QLineEdit(this);
     extDecoder->setFixedWidth(controlWidth);
     extDecoder->setPlaceholderText(tr("无"));
@@ -178,16 +158,10 @@ void EngineControls::buildDecoding(QGridLayout *grid)
 void EngineControls::buildSignal(QGridLayout *grid)
 {
     peakGuard = addCheck(grid, tr("峰值保护"), tr("只在会削波时压低峰值。"));
-    resample = addCheck(grid, tr("重采样到设备速率"), tr("改变样本，不是比特完美。"));
-    resampleQuality = addCombo(grid, tr("重采样质量"), tr("越好越费算力。"));
-    resampleQuality->addItem(tr("快速"), u"fast"_s);
-    resampleQuality->addItem(tr("标准"), u"standard"_s);
-    resampleQuality->addItem(tr("最佳"), u"best"_s);
-    resampleQuality->setCurrentIndex(1);
-    replayGain = addCombo(grid, tr("回放增益"), tr("按文件里的 ReplayGain 标签拉平响度。"));
-    replayGain->addItem(tr("关闭"), 0);
-    replayGain->addItem(tr("按曲目"), 1);
-    replayGain->addItem(tr("按专辑"), 2);
+    resample = addCheck(grid, tr("重采样到设备速率"), tr("改变样本，不是位完美。"));
+    resampleQuality = addCombo(grid, tr("重采样质量"), tr("越好越费算力。"), engineItems::qualities());
+    replayGain = addCombo(grid, tr("回放增益"), tr("按文件里的 ReplayGain 标签拉平响度。"),
+                          engineItems::replayGains());
     denoiseTier = addCombo(grid, tr("降噪"), tr("去掉录音的底噪；开着就不能直通 DSD。"));
     denoiseTier->addItems({tr("关闭"), tr("轻度"), tr("标准"), tr("强力")});
     keepHarmonics = addCheck(grid, tr("保留谐波"), tr("降噪时保住乐音的谐波。"));
@@ -196,12 +170,10 @@ void EngineControls::buildSignal(QGridLayout *grid)
 void EngineControls::buildPlayback(QGridLayout *grid)
 {
     gapless = addCheck(grid, tr("无缝换曲"), tr("曲尾前预装下一首，中间不停顿。"));
-    gapless->setChecked(true);
     crossfadeSec = addSpin(grid, tr("交叉淡化"), tr("两首之间重叠的秒数；0 表示不用。"), 0., 12., 1);
     crossfadeSec->setSuffix(u" s"_s);
-    speedRatio = addSpin(grid, tr("播放速度"), tr("保持音高；不是 1.00 就不是比特完美。"), 0.5, 3., 2);
+    speedRatio = addSpin(grid, tr("播放速度"), tr("保持音高；不是 1.00 就不是位完美。"), 0.5, 3., 2);
     speedRatio->setSingleStep(0.05);
-    speedRatio->setValue(1.);
     speedRatio->setSuffix(u" ×"_s);
     streamingRead = addCheck(grid, tr("边读边播"), tr("不先把文件读进内存。"));
 }
@@ -212,36 +184,100 @@ void EngineControls::watch()
         refreshDependents();
         Q_EMIT changed();
     };
-    for (QComboBox *combo : findChildren<QComboBox *>()) {
-        if (!channelDevices.contains(combo))
-            connect(combo, &QComboBox::currentIndexChanged, this, notify);
-    }
+    // Before the others, so that the record is whole when they tell of the change.
+    connect(pcmFilter, &QComboBox::activated, this, [this, notify] {
+        m_pcmFilterExplicit = true;
+        m_pcmFilterAutomatic = false;
+        namePcmFilters(false);
+        notify();
+    });
+    for (QComboBox *combo : findChildren<QComboBox *>())
+        connect(combo, &QComboBox::currentIndexChanged, this, notify);
     for (QCheckBox *check : findChildren<QCheckBox *>())
         connect(check, &QCheckBox::toggled, this, notify);
     for (QDoubleSpinBox *spin : findChildren<QDoubleSpinBox *>())
         connect(spin, &QDoubleSpinBox::valueChanged, this, notify);
     connect(extDecoder, &QLineEdit::editingFinished, this, notify);
-    connect(pcmFilter, &QComboBox::activated, this, [this] {
-        namePcmFilters(-1);
-        Q_EMIT pcmFilterChosen();
-    });
 }
 
-void EngineControls::namePcmFilters(int markedRow)
+void EngineControls::namePcmFilters(bool automatic)
 {
-    const QStringList names = {tr("快速"), tr("标准"), tr("最佳")};
-    for (int row = 0; row < pcmFilter->count(); ++row)
-        pcmFilter->setItemText(row, row == markedRow ? tr("%1（自动）").arg(names.at(row)) : names.at(row));
+    const QList<ChoiceItem> items = engineItems::pcmFilters();
+    for (int row = 0; row < pcmFilter->count(); ++row) {
+        const QString &name = items.at(row).text;
+        const bool marked = automatic && row == pcmFilter->currentIndex();
+        pcmFilter->setItemText(row, marked ? tr("%1（自动）").arg(name) : name);
+    }
 }
 
-void EngineControls::showPcmFilter(const QString &name, bool automatic)
+void EngineControls::showChoices(const EngineChoices &choices)
 {
-    const int row = pcmFilter->findData(name);
-    if (row < 0)
-        return;
-    const QSignalBlocker block(pcmFilter);
-    pcmFilter->setCurrentIndex(row);
-    namePcmFilters(automatic ? row : -1);
+    // Only to the outside: the controls still follow each other.
+    const QSignalBlocker quiet(this);
+    select(mode, choices.mode);
+    select(layoutChoice, QString::number(choices.channelCount));
+    for (qsizetype i = 0; i < std::min(channelDevices.size(), choices.channelDevices.size()); ++i)
+        select(channelDevices.at(i), choices.channelDevices.at(i));
+    crossoverHz->setValue(choices.crossoverHz);
+    crossoverBridged->setChecked(choices.crossoverBridged);
+    select(rig, choices.rig);
+    select(dop, choices.dop);
+    select(outputPath, choices.outputPath);
+    peakGuard->setChecked(choices.peakGuard);
+    denoiseTier->setCurrentIndex(choices.denoiseTier);
+    keepHarmonics->setChecked(choices.keepHarmonics);
+    resample->setChecked(choices.resample);
+    select(resampleQuality, choices.resampleQuality);
+    select(replayGain, QString::number(choices.replayGainMode));
+    streamingRead->setChecked(choices.streamingRead);
+    crossfadeSec->setValue(choices.crossfadeSec);
+    gapless->setChecked(choices.gapless);
+    speedRatio->setValue(choices.speedRatio);
+    forcedPcm->setChecked(choices.forcedPcm);
+    select(pcmBits, choices.pcmBits);
+    select(pcmFilter, choices.pcmFilter);
+    m_pcmFilterAutomatic = choices.pcmFilterAutomatic;
+    m_pcmFilterExplicit = choices.pcmFilterExplicit;
+    namePcmFilters(m_pcmFilterAutomatic);
+    pcmToDsd->setChecked(choices.pcmToDsd);
+    select(pcmToDsdTarget, QString::number(choices.pcmToDsdTargetHz));
+    select(pcmToDsdTaps, QString::number(choices.pcmToDsdTaps));
+    extDecoder->setText(choices.extDecoder);
+    refreshDependents();
+}
+
+EngineChoices EngineControls::choices() const
+{
+    EngineChoices choices;
+    choices.mode = codeOf(mode);
+    choices.channelCount = codeOf(layoutChoice).toInt();
+    for (const QComboBox *combo : channelDevices)
+        choices.channelDevices.append(codeOf(combo));
+    choices.crossoverHz = crossoverHz->value();
+    choices.crossoverBridged = crossoverBridged->isChecked();
+    choices.rig = codeOf(rig);
+    choices.dop = codeOf(dop);
+    choices.outputPath = codeOf(outputPath);
+    choices.peakGuard = peakGuard->isChecked();
+    choices.denoiseTier = denoiseTier->currentIndex();
+    choices.keepHarmonics = keepHarmonics->isChecked();
+    choices.resample = resample->isChecked();
+    choices.resampleQuality = codeOf(resampleQuality);
+    choices.replayGainMode = codeOf(replayGain).toInt();
+    choices.streamingRead = streamingRead->isChecked();
+    choices.crossfadeSec = crossfadeSec->value();
+    choices.gapless = gapless->isChecked();
+    choices.speedRatio = speedRatio->value();
+    choices.forcedPcm = forcedPcm->isChecked();
+    choices.pcmBits = codeOf(pcmBits);
+    choices.pcmFilter = codeOf(pcmFilter);
+    choices.pcmFilterAutomatic = m_pcmFilterAutomatic;
+    choices.pcmFilterExplicit = m_pcmFilterExplicit;
+    choices.pcmToDsd = pcmToDsd->isChecked();
+    choices.pcmToDsdTargetHz = codeOf(pcmToDsdTarget).toInt();
+    choices.pcmToDsdTaps = codeOf(pcmToDsdTaps).toInt();
+    choices.extDecoder = extDecoder->text();
+    return choices;
 }
 
 void EngineControls::refreshDependents()
@@ -251,9 +287,10 @@ void EngineControls::refreshDependents()
     layoutChoice->setEnabled(severalDevices);
     crossoverHz->setEnabled(crossover);
     crossoverBridged->setEnabled(crossover);
-    const int needed = channelCount() * (crossover && crossoverBridged->isChecked() ? 2 : 1);
+    const int needed = codeOf(layoutChoice).toInt() * (crossover && crossoverBridged->isChecked() ? 2 : 1);
     for (qsizetype i = 0; i < m_channelRows.size(); ++i)
-        m_channelRows.at(i)->setVisible(severalDevices && i / 2 < std::min(needed, mostChannels));
+        m_channelRows.at(i)->setVisible(severalDevices &&
+                                        i / 2 < std::min(needed, EngineChoices::mostChannels));
     keepHarmonics->setEnabled(denoiseTier->currentIndex() > 0);
     resampleQuality->setEnabled(resample->isChecked());
     pcmToDsdTarget->setEnabled(pcmToDsd->isChecked());

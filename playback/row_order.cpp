@@ -31,3 +31,8 @@ std::optional<int> steppedRow(int baseRow, int delta, int count)
     const int row = baseRow + delta;
     return inList(row, count) ? std::optional(row) : std::nullopt;
 }
+
+int rowToShow(const ShownRowFacts &facts)
+{
+    return facts.sessionRuns || facts.selectedRow < 0 ? facts.playingRow : facts.selectedRow;
+}

@@ -19,5 +19,14 @@ struct StartRowFacts
 };
 int settleStartRow(const StartRowFacts &facts);
 
+/// Which row the mini cover leads to; -1 for none.
+struct ShownRowFacts
+{
+    bool sessionRuns = false;
+    int playingRow = -1;
+    int selectedRow = -1; ///< the list's current row
+};
+int rowToShow(const ShownRowFacts &facts);
+
 /// A base row plus a step, or none outside the list.
 std::optional<int> steppedRow(int baseRow, int delta, int count);

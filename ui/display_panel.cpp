@@ -1,5 +1,7 @@
 #include "ui/display_panel.h"
 
+#include "ui/elided_label.h"
+#include "ui/fitted_title.h"
 #include "ui/style_sheet.h"
 
 #include <QHBoxLayout>
@@ -11,8 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int captionPixels = 11;
-constexpr int timePixels = 30;
-constexpr int titlePixels = 26;
+constexpr int metaPixels = 12;
+constexpr double totalPart = 0.6; ///< of the position's size
 
 QLabel *label(QWidget *parent, QLatin1StringView objectName, const QString &text = {})
 {
@@ -31,109 +33,110 @@ void setSounding(QWidget *widget, bool sounding)
     widget->style()->polish(widget);
 }
 
+QFont trackedFont(int pixels)
+{
+    QFont font = figureFont(pixels);
+    font.setLetterSpacing(QFont::AbsoluteSpacing, 0.08 * pixels);
+    return font;
+}
+
 } // namespace
 
 DisplayPanel::DisplayPanel(QWidget *parent)
     : QFrame(parent)
-    , m_meta(label(this, "vesperVfdMeta"_L1))
-    , m_format(label(this, "vesperVfdFormat"_L1))
-    , m_title(label(this, "vesperVfdTitle"_L1))
-    , m_second(label(this, "vesperVfdArtist"_L1))
-    , m_signal(label(this, "vesperVfdSignal"_L1))
-    , m_levels(label(this, "vesperVfdLevels"_L1))
-    , m_time(label(this, "vesperVfdTime"_L1))
-    , m_status(label(this, "vesperVfdStatus"_L1))
+    , m_screen(new QFrame(this))
+    , m_meta(label(m_screen, "vesperVfdMeta"_L1))
+    , m_format(label(m_screen, "vesperVfdFormat"_L1))
+    , m_title(new FittedTitle(m_screen))
+    , m_artist(new ElidedLabel(m_screen))
+    , m_album(new ElidedLabel(m_screen))
+    , m_time(label(m_screen, "vesperVfdTime"_L1))
+    , m_total(label(m_screen, "vesperVfdTotal"_L1))
+    , m_status(label(m_screen, "vesperVfdStatus"_L1))
 {
     setObjectName("vesperVfd"_L1);
-    for (QLabel *caption : {m_meta, m_format, m_signal, m_levels, m_status})
-        caption->setFont(figureFont(captionPixels));
-    m_time->setFont(figureFont(timePixels));
-    m_title->setAccessibleName(tr("曲名"));
+    m_screen->setObjectName("vesperVfdScreen"_L1);
+    m_title->setObjectName("vesperVfdTitle"_L1);
+    m_artist->setObjectName("vesperVfdArtist"_L1);
+    m_album->setObjectName("vesperVfdAlbum"_L1);
+    m_meta->setFont(trackedFont(metaPixels));
+    m_format->setFont(figureFont(captionPixels));
+    m_status->setFont(trackedFont(captionPixels));
     m_time->setAccessibleName(tr("位置"));
-    m_title->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    for (QLabel *elastic : {m_second, m_signal})
-        elastic->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_total->setAccessibleName(tr("总长"));
 
     auto *top = new QHBoxLayout;
     top->addWidget(m_meta);
     top->addStretch();
     top->addWidget(m_format);
-    auto *line = new QFrame(this);
+    auto *line = new QFrame(m_screen);
     line->setObjectName("vesperVfdLine"_L1);
     line->setFixedHeight(1);
-    auto *facts = new QHBoxLayout;
-    facts->addWidget(m_signal, 1);
-    facts->addWidget(m_levels);
     auto *bottom = new QHBoxLayout;
-    bottom->addWidget(m_time);
+    bottom->setSpacing(10);
+    bottom->addWidget(m_time, 0, Qt::AlignBottom);
+    bottom->addWidget(m_total, 0, Qt::AlignBottom);
     bottom->addStretch();
     bottom->addWidget(m_status, 0, Qt::AlignBottom);
 
-    auto *box = new QVBoxLayout(this);
-    box->setContentsMargins(20, 16, 20, 16);
-    box->setSpacing(12);
+    auto *outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->addWidget(m_screen);
+    auto *box = new QVBoxLayout(m_screen);
     box->addLayout(top);
     box->addWidget(m_title);
-    box->addWidget(m_second);
+    box->addWidget(m_artist);
+    box->addWidget(m_album);
     box->addStretch();
-    box->addLayout(facts);
     box->addWidget(line);
     box->addLayout(bottom);
-    showTrack(-1, {}, {}, {});
+    applyPlan({});
     showTime(u"0:00 / 0:00"_s);
     showStatus(u"■ STOP"_s, false);
 }
 
-void DisplayPanel::showTrack(int row, const QString &title, const QString &secondLine, const QString &format)
+void DisplayPanel::showTrack(const DisplayedTrack &track)
 {
-    const bool idle = row < 0;
-    m_meta->setText(idle ? u"TRACK --"_s : u"TRACK %1"_s.arg(row + 1, 2, 10, QChar(u'0')));
-    m_titleText = idle ? u"NO DISC"_s : title;
-    m_title->setToolTip(m_titleText);
-    m_second->setText(idle ? tr("选择曲目或导入音频") : secondLine);
-    m_second->setToolTip(secondLine);
-    showFormat(idle || format.isEmpty() ? u"AUDIO"_s : format);
-    fitTitle();
+    m_meta->setText(track.meta);
+    m_title->setText(track.title);
+    m_artist->setWhole(track.artist);
+    m_album->setWhole(track.album);
+    m_format->setText(track.format);
 }
 
-void DisplayPanel::showFormat(const QString &format)
+void DisplayPanel::showTime(const QString &position, const QString &tip)
 {
-    m_format->setText(format);
-}
-
-void DisplayPanel::showTime(const QString &text, const QString &tip)
-{
-    m_time->setText(text);
+    const QString separator = u" / "_s;
+    m_time->setText(position.section(separator, 0, 0));
+    const QString total = position.section(separator, 1);
+    m_total->setText(total.isEmpty() ? QString() : u"/ "_s + total);
     m_time->setToolTip(tip);
+    m_total->setToolTip(tip);
 }
 
 void DisplayPanel::showStatus(const QString &word, bool sounding)
 {
     m_status->setText(word);
-    for (QWidget *lit :
-         {static_cast<QWidget *>(m_status), static_cast<QWidget *>(m_time), static_cast<QWidget *>(m_meta)})
+    for (QWidget *lit : {m_status, m_time, m_meta})
         setSounding(lit, sounding);
 }
 
-void DisplayPanel::showLevels(double leftDb, double rightDb)
+void DisplayPanel::applyPlan(const AreaPlan &plan)
 {
-    m_levels->setText(u"L %1  R %2 dB"_s.arg(leftDb, 6, 'f', 1).arg(rightDb, 6, 'f', 1));
-}
-
-void DisplayPanel::showSignal(const QString &words, const QString &tip, bool warns)
-{
-    m_signal->setText(words);
-    m_signal->setToolTip(tip);
-    if (m_signal->property("chainWarn").toBool() == warns)
-        return;
-    m_signal->setProperty("chainWarn", warns);
-    m_signal->style()->unpolish(m_signal);
-    m_signal->style()->polish(m_signal);
-}
-
-void DisplayPanel::showChainFacts(const QString &lines)
-{
-    m_format->setToolTip(lines);
+    m_mostTitlePixels = plan.mostTitlePixels;
+    m_album->setVisible(plan.showsAlbum);
+    if (std::exchange(m_timePixels, plan.timePixels) != plan.timePixels) {
+        QFont time = figureFont(plan.timePixels);
+        time.setLetterSpacing(QFont::AbsoluteSpacing, -0.03 * plan.timePixels);
+        m_time->setFont(time);
+        m_total->setFont(figureFont(static_cast<int>(plan.timePixels * totalPart)));
+        m_total->setContentsMargins(0, 0, 0, plan.timePixels / 10);
+    }
+    const int side = plan.compact ? 14 : 20;
+    const int ends = plan.compact ? 10 : 16;
+    m_screen->layout()->setContentsMargins(side, ends, side, ends);
+    m_screen->layout()->setSpacing(plan.compact ? 6 : 10);
+    fitTitle();
 }
 
 void DisplayPanel::resizeEvent(QResizeEvent *event)
@@ -144,9 +147,16 @@ void DisplayPanel::resizeEvent(QResizeEvent *event)
 
 void DisplayPanel::fitTitle()
 {
-    QFont font = m_title->font();
-    font.setPixelSize(titlePixels);
-    const QMargins margins = layout()->contentsMargins();
-    const int room = width() - margins.left() - margins.right();
-    m_title->setText(QFontMetrics(font).elidedText(m_titleText, Qt::ElideRight, std::max(room, 40)));
+    const QLayout &box = *m_screen->layout();
+    const QMargins margins = box.contentsMargins();
+    int others =
+        margins.top() + margins.bottom() + m_format->sizeHint().height() + 1 + m_time->sizeHint().height();
+    int gaps = 4;
+    for (const QWidget *line : {static_cast<QWidget *>(m_artist), static_cast<QWidget *>(m_album)}) {
+        if (!line->isVisibleTo(m_screen))
+            continue;
+        others += line->sizeHint().height();
+        ++gaps;
+    }
+    m_title->setRoom(m_mostTitlePixels, height() - others - gaps * box.spacing());
 }

@@ -2,8 +2,23 @@
 /// The display: what plays, in which format, and where in it we are.
 #pragma once
 
+#include "ui/area_plan.h"
+
 #include <QFrame>
 #include <QLabel>
+
+class ElidedLabel;
+class FittedTitle;
+
+/// What the display says of a track. Empty texts leave their line blank.
+struct DisplayedTrack
+{
+    QString meta;   ///< "TRACK 07", with " · DISC 02" where a disc is known
+    QString format; ///< "FLAC"
+    QString title;
+    QString artist;
+    QString album;
+};
 
 class DisplayPanel final : public QFrame
 {
@@ -12,19 +27,12 @@ class DisplayPanel final : public QFrame
 public:
     explicit DisplayPanel(QWidget *parent = nullptr);
 
-    /// \param row counted from 0; -1 shows the idle texts
-    void showTrack(int row, const QString &title, const QString &secondLine, const QString &format);
-    void showFormat(const QString &format);
-    void showTime(const QString &text, const QString &tip = {});
+    void showTrack(const DisplayedTrack &track);
+    /// \param position the time, and the total where it is known, as "0:00 / 0:00"
+    void showTime(const QString &position, const QString &tip = {});
     /// The transport's state in a word, and whether sound is flowing.
     void showStatus(const QString &word, bool sounding);
-
-    /// Peak levels in dB relative to full scale.
-    void showLevels(double leftDb, double rightDb);
-    /// What becomes of the samples, in words; \param warns something changes them.
-    void showSignal(const QString &words, const QString &tip, bool warns);
-    /// The engine's facts on the chain, a line each, as the format's tool tip.
-    void showChainFacts(const QString &lines);
+    void applyPlan(const AreaPlan &plan);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
@@ -32,13 +40,15 @@ protected:
 private:
     void fitTitle();
 
+    QFrame *m_screen;
     QLabel *m_meta;
     QLabel *m_format;
-    QLabel *m_title;
-    QLabel *m_second;
-    QLabel *m_signal;
-    QLabel *m_levels;
+    FittedTitle *m_title;
+    ElidedLabel *m_artist;
+    ElidedLabel *m_album;
     QLabel *m_time;
+    QLabel *m_total;
     QLabel *m_status;
-    QString m_titleText;
+    int m_mostTitlePixels = 0;
+    int m_timePixels = 0;
 };

@@ -1,6 +1,8 @@
 #include "ui/dock_bar.h"
 
+#include "ui/elided_label.h"
 #include "ui/glyph_icons.h"
+#include "ui/mini_cover.h"
 #include "ui/style_sheet.h"
 
 #include <QGridLayout>
@@ -10,11 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int dockHeight = 72;
-constexpr int buttonSize = 38;
-constexpr int iconSize = 20;
-constexpr int volumeWidth = 112;
 constexpr int figurePixels = 12;
+constexpr int buttonGap = 6;
+constexpr int leastNow = 200;
 
 } // namespace
 
@@ -22,44 +22,74 @@ DockBar::DockBar(QWidget *parent)
     : QFrame(parent)
 {
     setObjectName("vesperDock"_L1);
-    setFixedHeight(dockHeight);
-
-    auto *now = new QVBoxLayout;
-    now->setSpacing(2);
-    m_title = new QLabel(this);
-    m_title->setObjectName("vesperNowTitle"_L1);
-    m_second = new QLabel(this);
-    m_second->setObjectName("vesperNowArtist"_L1);
-    for (QLabel *line : {m_title, m_second}) {
-        line->setTextFormat(Qt::PlainText);
-        line->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    setFixedHeight(areas::dock);
+    auto *columns = new QGridLayout(this);
+    columns->setContentsMargins(16, 0, 16, 0);
+    columns->setHorizontalSpacing(12);
+    columns->addLayout(buildNow(), 0, 0);
+    columns->addWidget(buildTransport(), 0, 1);
+    columns->addLayout(buildRight(), 0, 2);
+    // Equal outer columns, whatever stands in them, keep the middle in the middle.
+    for (const int outer : {0, 2}) {
+        columns->setColumnStretch(outer, 1);
+        columns->setColumnMinimumWidth(outer, leastNow);
     }
-    now->addStretch();
-    now->addWidget(m_title);
-    now->addWidget(m_second);
-    now->addStretch();
+    showStartAs(false, tr("播放"));
+    showModes(0, 0);
+    showTrack(u"NO DISC"_s, tr("选择曲目或导入音频"));
+    showVolume(100);
+}
 
-    stop = addButton(tr("停止"), tr("停止播放"));
-    stop->setIcon(glyphIcon(Glyph::Stop));
-    previous = addButton(tr("上一首"), tr("播放上一首"));
-    previous->setIcon(glyphIcon(Glyph::Previous));
-    start = addButton(tr("播放"), tr("播放选中的曲目"));
+QLayout *DockBar::buildNow()
+{
+    auto *now = new QHBoxLayout;
+    now->setSpacing(12);
+    miniCover = new MiniCover(this);
+    now->addWidget(miniCover);
+    auto *lines = new QVBoxLayout;
+    lines->setSpacing(1);
+    m_title = new ElidedLabel(this);
+    m_title->setObjectName("vesperNowTitle"_L1);
+    m_second = new ElidedLabel(this);
+    m_second->setObjectName("vesperNowArtist"_L1);
+    lines->addStretch();
+    lines->addWidget(m_title);
+    lines->addWidget(m_second);
+    lines->addStretch();
+    now->addLayout(lines, 1);
+    return now;
+}
+
+QWidget *DockBar::buildTransport()
+{
+    auto *transport = new QWidget(this);
+    transport->setLayoutDirection(Qt::LeftToRight);
+    const auto add = [&](Glyph glyph, const QString &name, const QString &tip) {
+        return addButton(transport, glyph, name, tip);
+    };
+    order = add(Glyph::OrderSequential, tr("播放顺序"), {});
+    stop = add(Glyph::Stop, tr("停止"), tr("停止播放"));
+    previous = add(Glyph::Previous, tr("上一首"), tr("播放上一首"));
+    start = add(Glyph::Play, tr("播放"), tr("播放选中的曲目"));
     start->setObjectName("vesperPlay"_L1);
-    next = addButton(tr("下一首"), tr("播放下一首"));
-    next->setIcon(glyphIcon(Glyph::Next));
-    auto *transport = new QHBoxLayout;
-    transport->setSpacing(8);
-    // Play stands in the middle of an odd number of places: the place behind "next" stays free.
-    for (QToolButton *button : {stop, previous, start, next})
-        transport->addWidget(button);
-    transport->addSpacing(buttonSize + 8);
+    next = add(Glyph::Next, tr("下一首"), tr("播放下一首"));
+    repeat = add(Glyph::RepeatOff, tr("循环"), {});
+    lyrics = add(Glyph::Lyrics, tr("歌词"), tr("歌词还没有做好，这个按钮以后才能用"));
+    lyrics->setEnabled(false);
+    auto *row = new QHBoxLayout(transport);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(buttonGap);
+    for (QWidget *button :
+         std::initializer_list<QWidget *>{order, stop, previous, start, next, repeat, lyrics})
+        row->addWidget(button);
+    return transport;
+}
 
-    auto *speaker = new QLabel(this);
-    speaker->setPixmap(glyphIcon(Glyph::Speaker).pixmap(iconSize, iconSize));
+QLayout *DockBar::buildRight()
+{
+    mute = addButton(this, Glyph::VolumeHigh, tr("静音"), tr("静音；再按一次回到原来的音量"));
     volume = new QSlider(Qt::Horizontal, this);
     volume->setRange(0, 100);
-    volume->setValue(100);
-    volume->setFixedWidth(volumeWidth);
     volume->setAccessibleName(tr("音量"));
     volume->setToolTip(tr("音量；100% 不改变样本"));
     m_volumeText = new QLabel(this);
@@ -67,79 +97,85 @@ DockBar::DockBar(QWidget *parent)
     m_volumeText->setFont(figureFont(figurePixels));
     m_volumeText->setFixedWidth(QFontMetrics(m_volumeText->font()).horizontalAdvance(u"100%"_s) + 4);
     m_volumeText->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
-    connect(volume, &QSlider::valueChanged, m_volumeText,
-            [this](int value) { m_volumeText->setText(u"%1%"_s.arg(value)); });
-    m_volumeText->setText(u"100%"_s);
+    connect(volume, &QSlider::valueChanged, this, &DockBar::refreshVolume);
+    tools = new QPushButton(tr("工具"), this);
+    tools->setObjectName("vesperToolsBtn"_L1);
+    tools->setIcon(glyphIcon(Glyph::ChevronUp));
+    // The sign opens upward, at the end of the word.
+    tools->setLayoutDirection(tools->layoutDirection() == Qt::RightToLeft ? Qt::LeftToRight
+                                                                          : Qt::RightToLeft);
+    tools->setToolTip(tr("曲库、标签、网络等工具"));
     auto *right = new QHBoxLayout;
     right->setSpacing(8);
     right->addStretch();
-    right->addWidget(speaker);
+    right->addWidget(mute);
     right->addWidget(volume);
     right->addWidget(m_volumeText);
-
-    auto *columns = new QGridLayout(this);
-    columns->setContentsMargins(16, 0, 16, 0);
-    columns->setHorizontalSpacing(12);
-    columns->addLayout(now, 0, 0);
-    columns->addLayout(transport, 0, 1);
-    columns->addLayout(right, 0, 2);
-    columns->setColumnStretch(0, 1);
-    columns->setColumnStretch(2, 1);
-    // Equal outer columns, whatever stands in them, keep the middle in the middle.
-    columns->setColumnMinimumWidth(0, 200);
-    columns->setColumnMinimumWidth(2, 200);
-    showStartAs(false, tr("播放"));
-    showTrack(u"NO DISC"_s, tr("选择曲目或导入音频"));
+    right->addSpacing(8);
+    right->addWidget(tools);
+    return right;
 }
 
-QToolButton *DockBar::addButton(const QString &name, const QString &tip)
+IconButton *DockBar::addButton(QWidget *parent, Glyph glyph, const QString &name, const QString &tip)
 {
-    auto *button = new QToolButton(this);
-    button->setText(name);
-    button->setAccessibleName(name);
-    button->setToolTip(tip);
-    button->setFixedSize(buttonSize, buttonSize);
-    button->setIconSize({iconSize, iconSize});
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto *button = new IconButton(glyph, name, parent,
+                                  glyph == Glyph::Play ? IconButton::Look::Play : IconButton::Look::Plain);
+    if (!tip.isEmpty())
+        button->setToolTip(tip);
     return button;
 }
 
 void DockBar::showTrack(const QString &title, const QString &secondLine)
 {
-    m_titleText = title;
-    m_secondText = secondLine;
-    elideTitle();
+    m_title->setWhole(title);
+    m_second->setWhole(secondLine);
+}
+
+void DockBar::showCover(const QImage &cover)
+{
+    miniCover->showCover(cover);
 }
 
 void DockBar::showVolume(int percent)
 {
     const QSignalBlocker quiet(volume);
     volume->setValue(percent);
-    m_volumeText->setText(u"%1%"_s.arg(volume->value()));
+    refreshVolume(volume->value());
+}
+
+void DockBar::refreshVolume(int percent)
+{
+    m_volumeText->setText(u"%1%"_s.arg(percent));
+    mute->setGlyph(volumeGlyph(percent));
 }
 
 void DockBar::showStartAs(bool pauses, const QString &caption)
 {
-    start->setIcon(glyphIcon(pauses ? Glyph::Pause : Glyph::Play));
-    start->setText(caption);
-    start->setAccessibleName(caption);
-    start->setToolTip(caption);
+    start->setGlyph(pauses ? Glyph::Pause : Glyph::Play);
+    start->setName(caption);
 }
 
-void DockBar::resizeEvent(QResizeEvent *event)
+void DockBar::showModes(int orderAxis, int repeatAxis)
 {
-    QFrame::resizeEvent(event);
-    elideTitle();
+    const bool random = orderAxis == 1;
+    order->setGlyph(random ? Glyph::OrderRandom : Glyph::OrderSequential);
+    order->setLit(random);
+    order->setName(random ? tr("播放顺序：随机") : tr("播放顺序：按列表"));
+    repeat->setGlyph(repeatAxis == 2   ? Glyph::RepeatTrack
+                     : repeatAxis == 1 ? Glyph::RepeatList
+                                       : Glyph::RepeatOff);
+    repeat->setLit(repeatAxis != 0);
+    repeat->setName(repeatAxis == 2   ? tr("循环：单曲")
+                    : repeatAxis == 1 ? tr("循环：整个列表")
+                                      : tr("循环：关闭"));
 }
 
-void DockBar::elideTitle()
+void DockBar::applyPlan(const AreaPlan &plan)
 {
-    const auto fit = [](QLabel *line, const QString &text) {
-        const int room = std::max(line->width(), 40);
-        const QString shown = line->fontMetrics().elidedText(text, Qt::ElideRight, room);
-        line->setText(shown);
-        line->setToolTip(shown == text ? QString() : text);
-    };
-    fit(m_title, m_titleText);
-    fit(m_second, m_secondText);
+    volume->setFixedWidth(plan.volumeWidth);
+}
+
+QList<QWidget *> DockBar::controls() const
+{
+    return {order, stop, previous, start, next, repeat, lyrics, mute, volume, tools};
 }

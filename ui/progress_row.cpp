@@ -1,6 +1,7 @@
 #include "ui/progress_row.h"
 
-#include "engine/progress_display.h"
+#include "ui/area_plan.h"
+#include "ui/progress_dial.h"
 #include "ui/style_sheet.h"
 
 #include <QHBoxLayout>
@@ -9,44 +10,58 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rowHeight = 36;
-constexpr int barHeight = 2;
 constexpr int figurePixels = 12;
+constexpr QSize pointSize(26, 22);
 
 } // namespace
 
 ProgressRow::ProgressRow(QWidget *parent)
     : QFrame(parent)
+    , dial(new ProgressDial(this))
     , m_text(new QLabel(u"0:00"_s, this))
-    , m_bar(new QProgressBar(this))
 {
     setObjectName("vesperProg"_L1);
-    setFixedHeight(rowHeight);
+    setFixedHeight(areas::dial);
+    setLayoutDirection(Qt::LeftToRight);
     m_text->setObjectName("vesperTime"_L1);
     m_text->setFont(figureFont(figurePixels));
     m_text->setAccessibleName(tr("位置"));
-    m_bar->setObjectName("vesperDial"_L1);
-    m_bar->setRange(0, progressBarMaximum);
-    m_bar->setTextVisible(false);
-    m_bar->setFixedHeight(barHeight);
-    m_bar->setAccessibleName(tr("播放进度"));
-    m_bar->setToolTip(tr("只显示进度：播放中不能跳转"));
-    m_bar->setFocusPolicy(Qt::NoFocus);
+    loopA = addPoint(u"A"_s, tr("循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消"));
+    loopB = addPoint(u"B"_s, tr("循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消"));
 
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 0, 16, 0);
     row->setSpacing(16);
     row->addWidget(m_text);
-    row->addWidget(m_bar, 1);
+    row->addWidget(dial, 1);
+    auto *points = new QHBoxLayout;
+    points->setSpacing(4);
+    points->addWidget(loopA);
+    points->addWidget(loopB);
+    row->addLayout(points);
 }
 
-void ProgressRow::showBar(int value)
+QPushButton *ProgressRow::addPoint(const QString &letter, const QString &tip)
 {
-    m_bar->setValue(value);
+    auto *button = new QPushButton(letter, this);
+    button->setObjectName("vesperPoint"_L1);
+    button->setCheckable(true);
+    button->setFont(figureFont(figurePixels - 1));
+    button->setFixedSize(pointSize);
+    button->setToolTip(tip);
+    button->setAccessibleDescription(tip);
+    return button;
 }
 
 void ProgressRow::showText(const QString &text, const QString &tip)
 {
     m_text->setText(text);
     m_text->setToolTip(tip);
+}
+
+void ProgressRow::showLoop(double aSec, double bSec)
+{
+    loopA->setChecked(aSec >= 0.);
+    loopB->setChecked(bSec >= 0.);
+    dial->showLoop(aSec, bSec);
 }

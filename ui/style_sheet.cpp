@@ -1,6 +1,7 @@
 #include "ui/style_sheet.h"
 
 #include "ui/light_look.h"
+#include "ui/style_rules.h"
 #include "ui/theme.h"
 
 #include <QtPlugin>
@@ -252,12 +253,11 @@ QColor namedColour(QStringView name)
     }
     return {};
 }
-
 } // namespace
 
 QString darkStyleSheet()
 {
-    return QString(surfaces) + buttons + fields + views;
+    return QString(surfaces) + buttons + fields + views + areaRules + chainRules;
 }
 
 QString styleSheetInForce()

@@ -10,14 +10,20 @@
 namespace {
 
 constexpr qint64 leastRepaintMs = 50;
+constexpr qsizetype mostUnread = 5000;
 
 } // namespace
 
 void PlayerGuiWindow::logLine(const QString &text, bool isError)
 {
     logFileOnly(text);
-    if (!m_ui.log)
+    if (!m_ui.log) {
+        // The pane is built when it is first opened, and then shows what was said before.
+        if (m_log.unread.size() == mostUnread)
+            m_log.unread.removeFirst();
+        m_log.unread.append({text, isError});
         return;
+    }
     if (!m_log.batch.add({text, isError}))
         return;
     // A burst of lines costs one repaint, and an engine that never stops talking costs no more of them than
@@ -32,6 +38,7 @@ void PlayerGuiWindow::logLine(const QString &text, bool isError)
 void PlayerGuiWindow::flushLog()
 {
     m_log.sinceFlush.start();
+    m_ui.log->appendEntries(std::exchange(m_log.unread, {}));
     m_ui.log->appendEntries(m_log.batch.take());
 }
 

@@ -10,19 +10,10 @@
 
 namespace {
 
-template<class Value, class Widget, class Setter>
-void setIfStored(const std::optional<Value> &stored, Widget *widget, Setter setter)
+template<class Value>
+void setIfStored(const std::optional<Value> &stored, Value &field)
 {
-    if (stored)
-        (widget->*setter)(*stored);
-}
-
-/// For combos whose stored form is the number in their data.
-void selectNumber(QComboBox *combo, int number)
-{
-    const int index = combo->findData(number);
-    if (index >= 0)
-        combo->setCurrentIndex(index);
+    field = stored.value_or(field);
 }
 
 } // namespace
@@ -34,17 +25,31 @@ void PlayerGuiWindow::restoreCombo(QSettings &store, QLatin1StringView key, QCom
 
 void PlayerGuiWindow::restoreComboText(const QString &stored, QComboBox *combo)
 {
-    const QString wanted = stored.trimmed();
-    if (wanted.isEmpty())
-        return;
     QList<ComboItem> items;
     for (int i = 0; i < combo->count(); ++i)
         items.append({combo->itemText(i), combo->itemData(i).toString()});
-    const int index = findComboItem(items, wanted);
-    if (index >= 0)
+    if (const int index = restoredItem(stored, items); index >= 0)
         combo->setCurrentIndex(index);
-    else
+}
+
+int PlayerGuiWindow::restoredItem(const QString &stored, const QList<ComboItem> &items)
+{
+    const QString wanted = stored.trimmed();
+    if (wanted.isEmpty())
+        return -1;
+    const int index = findComboItem(items, wanted);
+    if (index < 0)
         logLine(tr("参数恢复: 找不到匹配项 %1 (保持默认)").arg(wanted));
+    return index;
+}
+
+void PlayerGuiWindow::restoreChoice(const QString &stored, const QList<ChoiceItem> &choices, QString &code)
+{
+    QList<ComboItem> items;
+    for (const ChoiceItem &choice : choices)
+        items.append({choice.text, choice.code});
+    if (const int index = restoredItem(stored, items); index >= 0)
+        code = choices.at(index).code;
 }
 
 void PlayerGuiWindow::saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo)
@@ -57,88 +62,85 @@ void PlayerGuiWindow::loadParams()
     SettingsStore file;
     QSettingsAccess store(file);
     const StoredParams params = ::loadParams(store);
-    EngineControls &engine = *m_ui.engine;
-    const QSignalBlocker blockEngine(m_ui.engine);
-    // These two tell a running session at once; what is restored was not chosen now.
-    const QSignalBlocker blockGuard(engine.peakGuard);
-    const QSignalBlocker blockSpeed(engine.speedRatio);
-
-    restoreComboText(params.mode, engine.mode);
-    restoreComboText(params.layout, engine.layoutChoice);
-    restoreComboText(params.rig, engine.rig);
-    restoreComboText(params.pcmBits, engine.pcmBits);
-    restoreComboText(params.dop, engine.dop);
-    restoreComboText(params.outputPath, engine.outputPath);
-    setIfStored(params.peakGuard, engine.peakGuard, &QCheckBox::setChecked);
-    engine.denoiseTier->setCurrentIndex(params.denoiseTier);
-    engine.keepHarmonics->setChecked(params.keepHarmonics);
-    engine.extDecoder->setText(params.extDecoder);
-    setIfStored(params.forcedPcm, engine.forcedPcm, &QCheckBox::setChecked);
-    engine.speedRatio->setValue(params.speedRatio);
-    engine.crossfadeSec->setValue(params.crossfadeSec);
-    engine.gapless->setChecked(params.gapless);
-    selectNumber(engine.replayGain, params.replayGain);
-    restoreComboText(params.pcmFilter, engine.pcmFilter);
-    m_pcmFilterExplicit = params.pcmFilterExplicit;
-    engine.pcmToDsd->setChecked(params.pcmToDsd);
-    selectNumber(engine.pcmToDsdTarget, params.pcmToDsdTargetHz);
-    selectNumber(engine.pcmToDsdTaps, params.pcmToDsdTaps);
-    setIfStored(params.crossoverHz, engine.crossoverHz, &QDoubleSpinBox::setValue);
-    setIfStored(params.crossoverBridged, engine.crossoverBridged, &QCheckBox::setChecked);
+    EngineChoices &choices = m_choices;
+    restoreChoice(params.mode, engineItems::modes(), choices.mode);
+    QString channels = QString::number(choices.channelCount);
+    restoreChoice(params.layout, engineItems::layouts(), channels);
+    choices.channelCount = channels.toInt();
+    restoreChoice(params.rig, engineItems::rigs(), choices.rig);
+    restoreChoice(params.pcmBits, engineItems::pcmBits(), choices.pcmBits);
+    restoreChoice(params.dop, engineItems::dops(), choices.dop);
+    restoreChoice(params.outputPath, engineItems::outputPaths(), choices.outputPath);
+    setIfStored(params.peakGuard, choices.peakGuard);
+    choices.denoiseTier = params.denoiseTier;
+    choices.keepHarmonics = params.keepHarmonics;
+    choices.extDecoder = params.extDecoder;
+    setIfStored(params.forcedPcm, choices.forcedPcm);
+    choices.speedRatio = params.speedRatio;
+    choices.crossfadeSec = params.crossfadeSec;
+    choices.gapless = params.gapless;
+    choices.replayGainMode = params.replayGain;
+    restoreChoice(params.pcmFilter, engineItems::pcmFilters(), choices.pcmFilter);
+    choices.pcmFilterExplicit = params.pcmFilterExplicit;
+    choices.pcmToDsd = params.pcmToDsd;
+    choices.pcmToDsdTargetHz = params.pcmToDsdTargetHz;
+    choices.pcmToDsdTaps = params.pcmToDsdTaps;
+    setIfStored(params.crossoverHz, choices.crossoverHz);
+    setIfStored(params.crossoverBridged, choices.crossoverBridged);
     m_ui.dock->showVolume(std::clamp(params.volume.value_or(m_ui.dock->volume->value()), 0, 100));
-    setIfStored(params.resample, engine.resample, &QCheckBox::setChecked);
-    setIfStored(params.streamRead, engine.streamingRead, &QCheckBox::setChecked);
-    restoreCombo(file, settings::engineSrcQuality.key, engine.resampleQuality);
-    engine.refreshDependents();
+    setIfStored(params.resample, choices.resample);
+    setIfStored(params.streamRead, choices.streamingRead);
+    restoreChoice(readSetting(store, settings::engineSrcQuality), engineItems::qualities(),
+                  choices.resampleQuality);
+    choices = withinRanges(choices);
+    // What is restored was not chosen now: a running session is told nothing.
+    if (m_ui.engine)
+        m_ui.engine->showChoices(choices);
 
     m_start.resumeFile = readSetting(store, settings::resumePath);
     m_start.resumePosSec = std::max(0., readSetting(store, settings::resumeSec));
     m_start.resumeEnabled = !m_start.resumeFile.isEmpty();
     m_start.lastPlayed = readSetting(store, settings::lastPlayed);
     m_start.lastPlayedKey = readSetting(store, settings::lastPlayedKey);
-    if (const QByteArray geometry = readSetting(store, settings::geometry); !geometry.isEmpty())
-        restoreGeometry(geometry);
 }
 
 void PlayerGuiWindow::saveParams()
 {
     SettingsStore file;
     QSettingsAccess store(file);
-    const EngineControls &engine = *m_ui.engine;
+    const EngineChoices &choices = m_choices;
     // What has no control in the window keeps its stored value.
     StoredParams params = ::loadParams(store);
-    params.mode = engine.mode->currentText();
-    params.layout = engine.layoutChoice->currentText();
-    params.rig = engine.rig->currentText();
-    params.pcmBits = engine.pcmBits->currentText();
-    params.dop = engine.dop->currentText();
-    params.outputPath = engine.outputPath->currentText();
-    params.peakGuard = engine.peakGuard->isChecked();
-    params.denoiseTier = engine.denoiseTier->currentIndex();
-    params.keepHarmonics = engine.keepHarmonics->isChecked();
-    params.extDecoder = engine.extDecoder->text();
-    params.forcedPcm = engine.forcedPcm->isChecked();
-    params.speedRatio = engine.speedRatio->value();
-    params.crossfadeSec = engine.crossfadeSec->value();
-    params.gapless = engine.gapless->isChecked();
-    params.replayGain = engine.replayGain->currentData().toInt();
-    params.pcmFilter = engine.pcmFilter->currentData().toString();
-    params.pcmFilterExplicit = m_pcmFilterExplicit;
-    params.pcmToDsd = engine.pcmToDsd->isChecked();
-    params.pcmToDsdTargetHz = engine.pcmToDsdTarget->currentData().toInt();
-    params.pcmToDsdTaps = engine.pcmToDsdTaps->currentData().toInt();
-    params.crossoverHz = engine.crossoverHz->value();
-    params.crossoverBridged = engine.crossoverBridged->isChecked();
+    params.mode = choices.mode;
+    params.layout = QString::number(choices.channelCount);
+    params.rig = choices.rig.isEmpty() ? engineItems::rigs().first().text : choices.rig;
+    params.pcmBits = choices.pcmBits;
+    params.dop = choices.dop;
+    params.outputPath = choices.outputPath;
+    params.peakGuard = choices.peakGuard;
+    params.denoiseTier = choices.denoiseTier;
+    params.keepHarmonics = choices.keepHarmonics;
+    params.extDecoder = choices.extDecoder;
+    params.forcedPcm = choices.forcedPcm;
+    params.speedRatio = choices.speedRatio;
+    params.crossfadeSec = choices.crossfadeSec;
+    params.gapless = choices.gapless;
+    params.replayGain = choices.replayGainMode;
+    params.pcmFilter = choices.pcmFilter;
+    params.pcmFilterExplicit = choices.pcmFilterExplicit;
+    params.pcmToDsd = choices.pcmToDsd;
+    params.pcmToDsdTargetHz = choices.pcmToDsdTargetHz;
+    params.pcmToDsdTaps = choices.pcmToDsdTaps;
+    params.crossoverHz = choices.crossoverHz;
+    params.crossoverBridged = choices.crossoverBridged;
     params.volume = m_ui.dock->volume->value();
-    params.resample = engine.resample->isChecked();
-    params.streamRead = engine.streamingRead->isChecked();
+    params.resample = choices.resample;
+    params.streamRead = choices.streamingRead;
     ::saveParams(params, store);
-    writeSetting(store, settings::engineSrcQuality, engine.resampleQuality->currentData().toString());
-    QStringList devices;
-    for (const QComboBox *combo : m_devices.deviceCombos)
-        devices.append(combo->currentData().toString());
+    writeSetting(store, settings::engineSrcQuality, choices.resampleQuality);
     if (m_devices.devicesRestored)
-        writeSetting(store, settings::devices, devices);
+        writeSetting(store, settings::devices,
+                     QStringList{m_ui.device->currentData().toString()} + choices.channelDevices);
     writeSetting(store, settings::lastPlayed, m_start.lastPlayed);
     writeSetting(store, settings::lastPlayedKey, m_start.lastPlayedKey);
 }

@@ -7,7 +7,6 @@
 #include "engine/engine_location.h"
 #include "engine/engine_log.h"
 #include "engine/session_kind.h"
-#include "output/engine_controls.h"
 #include "platform/settings_table.h"
 #include "ui/dock_bar.h"
 
@@ -32,7 +31,7 @@ bool PlayerGuiWindow::isInProcessPreferred() const
 bool PlayerGuiWindow::effectsAudible() const
 {
     AudibleEffectsFacts facts;
-    facts.denoiseTier = m_ui.engine->denoiseTier->currentIndex();
+    facts.denoiseTier = m_choices.denoiseTier;
     return effectsWantPcm(facts);
 }
 
@@ -40,45 +39,43 @@ EngineArgsInput PlayerGuiWindow::engineArgsInput() const
 {
     SettingsStore file;
     const QSettingsAccess store(file);
-    const EngineControls &engine = *m_ui.engine;
     EngineArgsInput input;
     input.parentPid = QCoreApplication::applicationPid();
     input.dspPlugins = readSetting(store, settings::dspPlugins);
     input.prefetchDecode = readSetting(store, settings::prefetchDecode);
     input.vizMode = vizModeAtTrackStart(store);
     input.effectsAudible = effectsAudible();
-    input.mode = engine.mode->currentText();
-    input.channelCount = engine.channelCount();
-    for (const QComboBox *combo : engine.channelDevices)
-        input.channelDevices.append(combo->currentData().toString());
+    input.mode = m_choices.mode;
+    input.channelCount = m_choices.channelCount;
+    input.channelDevices = m_choices.channelDevices;
     input.primaryDevice = m_ui.device->currentData().toString();
-    input.crossoverHz = engine.crossoverHz->value();
-    input.crossoverBridged = engine.crossoverBridged->isChecked();
-    input.rigValue = engine.rig->currentData().toString();
-    input.dop = engine.dop->currentText();
-    input.outputPath = engine.outputPath->currentText();
+    input.crossoverHz = m_choices.crossoverHz;
+    input.crossoverBridged = m_choices.crossoverBridged;
+    input.rigValue = m_choices.rig;
+    input.dop = m_choices.dop;
+    input.outputPath = m_choices.outputPath;
     input.exclusiveFallback =
         m_start.exclusiveFallbackRow >= 0 && m_start.exclusiveFallbackRow == m_start.currentRow;
-    input.peakGuard = engine.peakGuard->isChecked();
-    input.denoiseTier = engine.denoiseTier->currentIndex();
-    input.keepHarmonics = engine.keepHarmonics->isChecked();
-    input.resample = engine.resample->isChecked();
-    input.resampleQuality = engine.resampleQuality->currentData().toString();
-    input.streamingRead = engine.streamingRead->isChecked();
-    input.crossfadeSec = engine.crossfadeSec->value();
-    input.gapless = engine.gapless->isChecked();
-    input.replayGainMode = engine.replayGain->currentData().toInt();
-    input.speedRatio = engine.speedRatio->value();
-    input.forcedPcm = engine.forcedPcm->isChecked();
-    input.pcmBits = engine.pcmBits->currentText();
-    input.pcmFilter = engine.pcmFilter->currentData().toString();
-    input.pcmFilterExplicit = m_pcmFilterExplicit;
-    input.pcmToDsd = engine.pcmToDsd->isChecked();
-    input.pcmToDsdTargetHz = engine.pcmToDsdTarget->currentData().toInt();
-    input.pcmToDsdTaps = engine.pcmToDsdTaps->currentData().toInt();
+    input.peakGuard = m_choices.peakGuard;
+    input.denoiseTier = m_choices.denoiseTier;
+    input.keepHarmonics = m_choices.keepHarmonics;
+    input.resample = m_choices.resample;
+    input.resampleQuality = m_choices.resampleQuality;
+    input.streamingRead = m_choices.streamingRead;
+    input.crossfadeSec = m_choices.crossfadeSec;
+    input.gapless = m_choices.gapless;
+    input.replayGainMode = m_choices.replayGainMode;
+    input.speedRatio = m_choices.speedRatio;
+    input.forcedPcm = m_choices.forcedPcm;
+    input.pcmBits = m_choices.pcmBits;
+    input.pcmFilter = m_choices.pcmFilter;
+    input.pcmFilterExplicit = m_choices.pcmFilterExplicit;
+    input.pcmToDsd = m_choices.pcmToDsd;
+    input.pcmToDsdTargetHz = m_choices.pcmToDsdTargetHz;
+    input.pcmToDsdTaps = m_choices.pcmToDsdTaps;
     input.volume = m_ui.dock->volume->value();
     input.volumeTouched = m_volumeTouched;
-    input.extDecoder = engine.extDecoder->text();
+    input.extDecoder = m_choices.extDecoder;
     return input;
 }
 

@@ -4,8 +4,7 @@
 #include "engine/line_classifier.h"
 #include "engine/telemetry_mailbox.h"
 #include "engine/window/line_actions.h"
-#include "output/engine_controls.h"
-#include "ui/display_panel.h"
+#include "ui/dsp_bar.h"
 #include "ui/instrument_panel.h"
 
 #include <variant>
@@ -24,7 +23,7 @@ void PlayerGuiWindow::onEngineLine(const QString &line, bool isStderr)
 {
     LineContext context;
     context.hostCopyOpen = m_link.hostCopy != nullptr;
-    context.allToDsd = m_ui.engine->pcmToDsd->isChecked();
+    context.allToDsd = m_choices.pcmToDsd;
     const EngineLine read = classify(line, isStderr, m_lines, context);
     for (const LineEffect &effect : read.effects)
         std::visit(LineActions{*this}, effect);
@@ -122,17 +121,7 @@ void PlayerGuiWindow::showSpectrum(const SpectrumFrame &frame)
 
 void PlayerGuiWindow::refreshSignalText()
 {
-    QStringList words;
-    QStringList details;
-    for (const auto &[word, detail] : {std::pair(m_signal.chain.text, m_signal.chainToolTip),
-                                       std::pair(m_signal.bits.text, m_signal.bitsToolTip),
-                                       std::pair(m_signal.effectsStatus, QString())}) {
-        if (!word.isEmpty())
-            words.append(word);
-        if (!detail.isEmpty())
-            details.append(detail);
-    }
     m_ui.instruments->showBits(m_signal.bits.bits.value_or(0), static_cast<int>(m_signal.bits.mode),
                                m_signal.bitsToolTip.isEmpty() ? m_signal.bits.text : m_signal.bitsToolTip);
-    m_ui.display->showSignal(words.join(u" · "_s), details.join(u'\n'), m_signal.chain.warn);
+    m_ui.dsp->showSummary(m_signal.effectsStatus, m_signal.pcmEffectsActive);
 }

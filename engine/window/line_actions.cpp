@@ -1,11 +1,12 @@
 #include "engine/window/line_actions.h"
 
-#include "output/engine_controls.h"
 #include "ui/display_panel.h"
 #include "ui/instrument_panel.h"
+#include "ui/progress_dial.h"
 #include "ui/progress_row.h"
 #include "ui/scope_view.h"
 #include "ui/spectrum_view.h"
+#include "ui/stage.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QLabel>
@@ -21,13 +22,12 @@ void LineActions::operator()(const WriteHostCopy &effect) const
 
 void LineActions::operator()(const ShowChainBlock &) const
 {
-    // Its lines stand in the log one by one already.
-    window.m_signal.chainReport = std::exchange(window.m_lines.chain.chainBuffer, {});
+    window.showChainBlock();
 }
 
 void LineActions::operator()(const RedrawChainPanel &) const
 {
-    window.m_ui.display->showChainFacts(chainLabelsText(window.m_lines.chain.chainLabels));
+    window.refreshChainPanel();
 }
 
 void LineActions::operator()(const StopNoAudioTimer &) const
@@ -53,13 +53,13 @@ void LineActions::operator()(const ShowStatus &effect) const
 
 void LineActions::operator()(const ShowDecodeFilter &effect) const
 {
-    window.m_ui.engine->showPcmFilter(effect.filter.name, effect.filter.automatic);
+    window.showPcmFilter(effect.filter.name, effect.filter.automatic);
 }
 
 void LineActions::operator()(const ShowScan &effect) const
 {
     const ScanDisplay display = updateScan(window.m_progress, effect.scan);
-    window.m_ui.progress->showBar(display.barValue);
+    window.m_ui.progress->dial->showFraction(static_cast<double>(display.barValue) / progressBarMaximum);
     window.m_ui.progress->showText(display.text);
     window.showMessage(display.text);
     if (!display.logText.isEmpty())
@@ -69,9 +69,11 @@ void LineActions::operator()(const ShowScan &effect) const
 void LineActions::operator()(const ShowSource &effect) const
 {
     const SourceLabels &labels = effect.labels;
-    window.m_ui.sourceInfo->setText(labels.info);
-    window.m_ui.sourceInfo->setToolTip(labels.bitrate);
-    window.m_ui.display->showFormat(labels.format);
+    if (effect.newTrack)
+        window.forgetTrackFacts();
+    window.m_chain.cards = chainCardTexts(effect.source, labels);
+    window.refreshChainPanel();
+    window.m_ui.stage->showAudioLine(labels.info, labels.bitrate);
     if (labels.ledBits)
         window.m_signal.bits.bits = labels.ledBits;
     window.refreshSignalText();
@@ -100,11 +102,12 @@ void LineActions::operator()(const ShowChainText &effect) const
     window.m_signal.chain = effect.result;
     window.m_signal.chainToolTip = effect.toolTip;
     window.refreshSignalText();
+    window.refreshChainPanel();
 }
 
-void LineActions::operator()(const ReceiveVerify &) const
+void LineActions::operator()(const ReceiveVerify &effect) const
 {
-    // Only a check that was asked for has a use for its figures, and nobody can ask for one yet.
+    window.onVerifyLine(effect.text);
 }
 
 void LineActions::operator()(const ClearScope &) const

@@ -6,7 +6,6 @@
 
 #include <QFileInfo>
 #include <QMessageBox>
-#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +29,8 @@ void PlayerGuiWindow::askEngine(const QStringList &args, int timeoutMs, ProbeWor
 
 void PlayerGuiWindow::analyzeTrack()
 {
+    if (m_analysisRuns)
+        return;
     const int row = m_ui.playlist->currentRow();
     if (const QString refusal = analysisRefusal(row >= 0, sessionRuns()); !refusal.isEmpty()) {
         logLine(refusal, true);
@@ -37,10 +38,10 @@ void PlayerGuiWindow::analyzeTrack()
         return;
     }
     const QString path = m_ui.playlist->entryAt(row).path;
-    m_ui.analyze->setEnabled(false);
+    m_analysisRuns = true;
     showMessage(tr("正在分析 %1 …").arg(QFileInfo(path).fileName()));
     askEngine({u"-analyze"_s, path}, analysisTimeoutMs, [this, path](const PlayerProbeResult &result) {
-        m_ui.analyze->setEnabled(true);
+        m_analysisRuns = false;
         const TrackAnalysisReport report = analysisReport(result.rc, result.text, QFileInfo(path).fileName());
         logLine(report.logText, report.isError);
         showMessage(report.logText);

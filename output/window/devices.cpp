@@ -2,7 +2,7 @@
 #include "ui/window/player_gui_window.h"
 
 #include "app/settings_store.h"
-#include "output/device_list.h"
+#include "output/engine_controls.h"
 #include "platform/settings_table.h"
 
 using namespace Qt::StringLiterals;
@@ -55,32 +55,49 @@ void PlayerGuiWindow::applyDeviceList(const DeviceListing &listing)
     for (const auto &[text, isError] : listing.logLines)
         logLine(text, isError);
     m_devices.populatingDevices = true;
-    const QList<ListedDevice> devices =
-        listing.result.rc < 0 ? QList<ListedDevice>() : parseDeviceList(listing.result.text);
-    const bool first = m_devices.deviceCombos.first()->count() == 0;
+    const bool first = m_ui.device->count() == 0;
     if (listing.result.rc >= 0 || first) {
-        for (QComboBox *combo : m_devices.deviceCombos) {
-            const QString chosen = combo->currentData().toString();
-            combo->clear();
-            combo->addItem(tr("(系统默认)"), QString());
-            for (const ListedDevice &device : devices) {
-                const bool marked = device.isDefault && combo == m_devices.deviceCombos.first();
-                combo->addItem(marked ? tr("%1  (默认)").arg(device.label) : device.label, device.id);
-            }
-            selectDevice(combo, chosen);
-        }
+        m_devices.listed =
+            listing.result.rc < 0 ? QList<ListedDevice>() : parseDeviceList(listing.result.text);
+        fillDeviceCombo(m_ui.device, m_ui.device->currentData().toString());
         QStringList noted;
-        for (const ListedDevice &device : devices)
+        for (const ListedDevice &device : std::as_const(m_devices.listed))
             noted.append((device.isDefault ? u"* "_s : QString()) + device.label);
         if (!noted.isEmpty())
             logLine(tr("设备列表 (-list): %1").arg(noted.join(u" | "_s)));
     }
     if (!std::exchange(m_devices.devicesRestored, true)) {
-        const QStringList stored = readUserSetting(settings::devices);
-        for (qsizetype i = 0; i < std::min(stored.size(), m_devices.deviceCombos.size()); ++i)
-            selectDevice(m_devices.deviceCombos.at(i), stored.at(i));
+        QStringList stored = readUserSetting(settings::devices);
+        if (!stored.isEmpty())
+            selectDevice(m_ui.device, stored.takeFirst());
+        m_choices.channelDevices = stored;
+        m_choices = withinRanges(m_choices);
     }
+    fillChannelDevices();
     m_devices.populatingDevices = false;
+}
+
+void PlayerGuiWindow::fillDeviceCombo(QComboBox *combo, const QString &chosen)
+{
+    combo->clear();
+    combo->addItem(tr("(系统默认)"), QString());
+    for (const ListedDevice &device : std::as_const(m_devices.listed)) {
+        const bool marked = device.isDefault && combo == m_ui.device;
+        combo->addItem(marked ? tr("%1  (默认)").arg(device.label) : device.label, device.id);
+    }
+    selectDevice(combo, chosen);
+}
+
+void PlayerGuiWindow::fillChannelDevices()
+{
+    if (!m_ui.engine)
+        return;
+    const QList<QComboBox *> &combos = m_ui.engine->channelDevices;
+    for (qsizetype channel = 0; channel < combos.size(); ++channel) {
+        // The listing is no choice of the listener's.
+        const QSignalBlocker quiet(combos.at(channel));
+        fillDeviceCombo(combos.at(channel), m_choices.channelDevices.value(channel));
+    }
 }
 
 void PlayerGuiWindow::selectDevice(QComboBox *combo, const QString &id)
@@ -98,8 +115,8 @@ void PlayerGuiWindow::selectDevice(QComboBox *combo, const QString &id)
 
 QString PlayerGuiWindow::currentDeviceName() const
 {
-    for (const QComboBox *combo : m_devices.deviceCombos) {
-        if (const QString id = combo->currentData().toString(); !id.isEmpty())
+    for (const QString &id : QStringList{m_ui.device->currentData().toString()} + m_choices.channelDevices) {
+        if (!id.isEmpty())
             return id;
     }
     return {};

@@ -5,7 +5,7 @@
 #include "playback/row_order.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
-#include "ui/progress_row.h"
+#include "ui/library_panel.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -49,10 +49,15 @@ void PlayerGuiWindow::showTrackOf(int row)
     const PlaylistEntry entry = m_ui.playlist->entryAt(row);
     const QFileInfo file(entry.path);
     const QString folder = file.dir().dirName();
-    m_ui.display->showTrack(row, entry.text, folder, file.suffix().toUpper().left(formatTagLength));
+    m_ui.display->showTrack({u"TRACK %1"_s.arg(row + 1, 2, 10, QChar(u'0')),
+                             file.suffix().toUpper().left(formatTagLength),
+                             entry.text,
+                             folder,
+                             {}});
     m_ui.dock->showTrack(entry.text, folder);
-    m_ui.playlistCount->setText(u"%1 / %2"_s.arg(row + 1).arg(m_ui.playlist->count()));
+    m_ui.library->showCounts(row, m_ui.playlist->count(), m_ui.playlist->count());
     showMessage(tr("正在播放… %1/%2").arg(row + 1).arg(m_ui.playlist->count()));
+    refreshCover();
 }
 
 int PlayerGuiWindow::baseRow() const
@@ -70,8 +75,7 @@ void PlayerGuiWindow::refreshNavButtons()
     m_ui.dock->previous->setEnabled(count > 0 && base > 0);
     m_ui.dock->next->setEnabled(base + 1 < count);
     m_ui.dock->start->setEnabled(count > 0);
-    m_ui.playlistCount->setText(m_start.playingRow < 0 ? u"-- / %1"_s.arg(count)
-                                                       : u"%1 / %2"_s.arg(m_start.playingRow + 1).arg(count));
+    m_ui.library->showCounts(m_start.playingRow, count, count);
 }
 
 void PlayerGuiWindow::stepRow(int delta)

@@ -2,7 +2,6 @@
 #include "ui/window/player_gui_window.h"
 
 #include "app/settings_store.h"
-#include "output/engine_controls.h"
 #include "platform/settings_table.h"
 #include "playback/playlist_widget.h"
 #include "playback/preload.h"
@@ -24,11 +23,12 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 {
     m_progress.resetForTrack(startSec);
     m_lines.resetForTrack();
+    beginTrackFacts(false);
     // Whoever waits for the track's announcement must not take the last one's for it.
     m_lines.sourceInfo.reset();
     m_preload = {};
     m_start.paused = false;
-    m_ui.progress->showBar(0);
+    showPlace(0);
     m_ui.progress->showText(clockText(0.));
 }
 
@@ -51,13 +51,13 @@ void PlayerGuiWindow::updateProgress(double percent, double positionSec, double 
     facts.totalSec = totalSec;
     facts.row = m_start.currentRow;
     facts.itemDurationSec = std::max(0., entry.endSec - entry.startSec);
-    facts.speedRatio = m_ui.engine->speedRatio->value();
+    facts.speedRatio = m_choices.speedRatio;
     facts.resumeTracked = !entry.path.isEmpty() && !entry.isContainerTrack();
 
     const ProgressDisplay display = ::updateProgress(m_progress, facts);
     if (display.startMetricsTimer)
         QTimer::singleShot(metricsDelayMs, this, &PlayerGuiWindow::reportStartupMetrics);
-    m_ui.progress->showBar(display.barValue);
+    showPlace(display.barValue);
     if (display.saveResumePosition)
         saveResumePosition();
     if (display.position) {
@@ -92,8 +92,8 @@ void PlayerGuiWindow::checkPreload()
     PreloadFacts facts;
     facts.positionSec = m_progress.lastPosSec;
     facts.totalSec = m_progress.lastTotalSec;
-    facts.crossfadeSec = m_ui.engine->crossfadeSec->value();
-    facts.gapless = m_ui.engine->gapless->isChecked();
+    facts.crossfadeSec = m_choices.crossfadeSec;
+    facts.gapless = m_choices.gapless;
     facts.pending = m_preload.pending;
     facts.diagnosisDone = m_preload.diagnosisDone;
     facts.currentRow = m_start.currentRow;
@@ -138,6 +138,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     }
     m_start.lastStartedRow = m_start.currentRow;
     m_progress.resetForTrack();
+    beginTrackFacts(true);
     const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
     setLastPlayed(entry);
     showTrackOf(m_start.currentRow);

@@ -2,7 +2,6 @@
 #include "ui/window/player_gui_window.h"
 
 #include "app/settings_store.h"
-#include "output/engine_controls.h"
 #include "platform/settings_table.h"
 #include "playback/end_verdict.h"
 #include "playback/no_audio_report.h"
@@ -31,7 +30,7 @@ void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
     facts.nowMs = QDateTime::currentMSecsSinceEpoch();
     facts.ignoreDoneUntilMs = m_start.ignoreDoneUntilMs;
     facts.inProcess = m_link.session && m_link.session->isInProcess();
-    facts.outputPathExclusive = m_ui.engine->outputPath->currentText() == "exclusive"_L1;
+    facts.outputPathExclusive = m_choices.outputPath == "exclusive"_L1;
     facts.audioHasStarted = m_progress.audioHasStarted;
     facts.currentRow = m_start.currentRow;
     facts.exclusiveFallbackRow = m_start.exclusiveFallbackRow;

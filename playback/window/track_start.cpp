@@ -3,7 +3,6 @@
 
 #include "engine/command_line.h"
 #include "engine/stage_label.h"
-#include "output/engine_controls.h"
 #include "playback/playlist_widget.h"
 #include "playback/track_start.h"
 
@@ -122,7 +121,7 @@ bool PlayerGuiWindow::findEngine()
 
 SessionShape PlayerGuiWindow::wantedShape() const
 {
-    return {m_ui.device->currentData().toString(), m_ui.engine->mode->currentText(), effectsAudible()};
+    return {m_ui.device->currentData().toString(), m_choices.mode, effectsAudible()};
 }
 
 TrackStartFacts PlayerGuiWindow::trackStartFacts(const PlaylistEntry &entry) const
@@ -193,9 +192,9 @@ bool PlayerGuiWindow::startSession(const TrackStartPlan &plan, const QStringList
         return false;
     }
     ++m_link.startCount;
-    m_start.sessionDenoiseTier = std::clamp(m_ui.engine->denoiseTier->currentIndex(), 0, mostDenoiseTier);
-    m_start.sessionHarmonics = m_ui.engine->keepHarmonics->isChecked();
-    m_start.sessionGuard = m_ui.engine->peakGuard->isChecked();
+    m_start.sessionDenoiseTier = std::clamp(m_choices.denoiseTier, 0, mostDenoiseTier);
+    m_start.sessionHarmonics = m_choices.keepHarmonics;
+    m_start.sessionGuard = m_choices.peakGuard;
     m_start.sessionLive = plan.becomesLive;
     m_start.opened = wanted;
     m_start.sessionClosing = false;
@@ -221,18 +220,18 @@ void PlayerGuiWindow::resendSessionDifferences()
     static const std::array tierWords = {u"off"_s, u"light"_s, u"standard"_s, u"deep"_s};
     const auto onOff = [](bool on) { return on ? u"on"_s : u"off"_s; };
 
-    const int tier = std::clamp(m_ui.engine->denoiseTier->currentIndex(), 0, mostDenoiseTier);
+    const int tier = std::clamp(m_choices.denoiseTier, 0, mostDenoiseTier);
     if (tier != std::exchange(m_start.sessionDenoiseTier, tier)) {
         const QString &word = tierWords.at(static_cast<std::size_t>(tier));
         sendCmd(u"fx denoise "_s + word);
         logLine(tr("向运行中的会话补发降噪档: %1（复用会话不会重读命令行参数）").arg(word));
     }
-    const bool guard = m_ui.engine->peakGuard->isChecked();
+    const bool guard = m_choices.peakGuard;
     if (guard != std::exchange(m_start.sessionGuard, guard)) {
         sendCmd(u"guard "_s + onOff(guard));
         logLine(tr("向运行中的会话补发峰值保护: %1").arg(onOff(guard)));
     }
-    const bool harmonics = m_ui.engine->keepHarmonics->isChecked();
+    const bool harmonics = m_choices.keepHarmonics;
     if (harmonics != std::exchange(m_start.sessionHarmonics, harmonics) && tier >= 1)
         sendCmd(u"fx harmonics "_s + onOff(harmonics));
 }

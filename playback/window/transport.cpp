@@ -8,6 +8,7 @@
 #include "playback/track_start.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
+#include "ui/title_bar.h"
 
 #include <QFileInfo>
 #include <cstdio>
@@ -134,14 +135,18 @@ void PlayerGuiWindow::setPlayingUi(bool on)
 {
     m_start.uiPlaying = on;
     m_ui.dock->stop->setEnabled(on);
-    if (!on)
+    if (!on) {
         m_start.paused = false;
+        beginTrackFacts(false);
+    }
+    refreshChainPanel();
     refreshStartButton();
     refreshNavButtons();
 }
 
 void PlayerGuiWindow::refreshStartButton()
 {
+    m_ui.title->showIndicators(m_start.uiPlaying && effectsAudible(), m_start.uiPlaying && !m_start.paused);
     if (!m_start.uiPlaying) {
         m_ui.dock->showStartAs(false, tr("播放"));
         m_ui.display->showStatus(u"■ STOP"_s, false);

@@ -71,11 +71,11 @@ class Stage(contextlib.ExitStack):
         self.callback(end_process, process)
         return process
 
-    def display(self):
+    def display(self, size="1600x1200"):
         """A virtual display with a small window manager."""
         need("Xvfb", "openbox")
         reading, writing = os.pipe()
-        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", "1600x1200x24", "-nolisten", "tcp"],
+        self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"],
                    pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:

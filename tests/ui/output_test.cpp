@@ -2,6 +2,7 @@
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
+#include "ui/stage.h"
 
 #include <QLabel>
 
@@ -31,7 +32,7 @@ TEST_F(EngineOutput, TheSourceIsShownInWords)
 {
     makeWindow();
     m_window->onEngineLine(u"SRC 2822400 1 2 dsd 1 61.25"_s, false);
-    const QString shown = m_window->widgets().sourceInfo->text();
+    const QString shown = m_window->widgets().stage->audioLine();
     EXPECT_TRUE(shown.contains(u"DSD64"_s)) << qPrintable(shown);
     EXPECT_TRUE(shown.contains(u"DST"_s)) << qPrintable(shown);
 }
@@ -58,7 +59,7 @@ TEST_F(EngineOutput, RememberedDevicesAreChosenAgainEvenWhenTheyAreGone)
     m_deviceList = u"[default] One\n[2] Two"_s;
     makeWindow();
     EXPECT_EQ(m_window->currentDeviceName(), u"Two"_s);
-    EXPECT_EQ(m_window->widgets().engine->channelDevices.first()->currentData().toString(), u"Gone"_s);
+    EXPECT_EQ(m_window->engineControls().channelDevices.first()->currentData().toString(), u"Gone"_s);
     EXPECT_EQ(m_window->widgets().device->itemText(1), u"One  (默认)"_s);
-    EXPECT_EQ(m_window->widgets().engine->channelDevices.first()->itemText(1), u"One"_s);
+    EXPECT_EQ(m_window->engineControls().channelDevices.first()->itemText(1), u"One"_s);
 }

@@ -13,7 +13,7 @@ class Params : public WindowTest
 TEST_F(Params, ChoicesComeBack)
 {
     makeWindow();
-    EngineControls *engine = m_window->widgets().engine;
+    EngineControls *engine = &m_window->engineControls();
     engine->outputPath->setCurrentText(u"exclusive"_s);
     engine->mode->setCurrentText(u"pairs"_s);
     engine->crossfadeSec->setValue(2.5);
@@ -23,7 +23,7 @@ TEST_F(Params, ChoicesComeBack)
     m_window->saveParams();
     m_window.reset();
     makeWindow();
-    engine = m_window->widgets().engine;
+    engine = &m_window->engineControls();
     EXPECT_EQ(engine->outputPath->currentText(), u"exclusive"_s);
     EXPECT_EQ(engine->mode->currentText(), u"pairs"_s);
     EXPECT_EQ(engine->crossfadeSec->value(), 2.5);
@@ -35,7 +35,7 @@ TEST_F(Params, ChoicesComeBack)
 TEST_F(Params, EveryControlComesBack)
 {
     makeWindow();
-    EngineControls *engine = m_window->widgets().engine;
+    EngineControls *engine = &m_window->engineControls();
     const auto other = [](QComboBox *combo) { combo->setCurrentIndex(combo->count() - 1); };
     const auto combos = [](EngineControls *of) {
         return QList<QComboBox *>{of->mode,       of->layoutChoice,   of->rig,
@@ -60,10 +60,11 @@ TEST_F(Params, EveryControlComesBack)
     for (QDoubleSpinBox *spin : spins(engine))
         spin->setValue(2. + spin->minimum());
     engine->extDecoder->setText(u"/lib/decoder.so"_s);
+    Q_EMIT engine->extDecoder->editingFinished();
     m_window->saveParams();
     m_window.reset();
     makeWindow();
-    engine = m_window->widgets().engine;
+    engine = &m_window->engineControls();
     for (const QComboBox *combo : combos(engine))
         EXPECT_EQ(combo->currentIndex(), combo->count() - 1) << qPrintable(combo->accessibleName());
     for (qsizetype i = 0; i < checked.size(); ++i)
@@ -79,7 +80,7 @@ TEST_F(Params, ARestoredChoiceIsNotToldToASession)
     makeWindow();
     addFiles(1);
     m_window->startPlayback(0);
-    EngineControls *engine = m_window->widgets().engine;
+    EngineControls *engine = &m_window->engineControls();
     const bool guard = engine->peakGuard->isChecked();
     {
         SettingsStore store;
@@ -104,9 +105,9 @@ TEST_F(Params, DamagedValuesAreKeptInRange)
         store.setValue(u"param/mode"_s, u"no such mode"_s);
     }
     makeWindow();
-    EXPECT_EQ(m_window->widgets().engine->denoiseTier->currentIndex(), 3);
+    EXPECT_EQ(m_window->engineControls().denoiseTier->currentIndex(), 3);
     EXPECT_EQ(m_window->widgets().dock->volume->value(), 100);
-    EXPECT_EQ(m_window->widgets().engine->mode->currentText(), u"standard"_s);
+    EXPECT_EQ(m_window->engineControls().mode->currentText(), u"standard"_s);
     EXPECT_TRUE(logHas(u"找不到匹配项 no such mode"_s));
 }
 
@@ -117,8 +118,8 @@ TEST_F(Params, HarmonicsNeedATier)
         store.setValue(u"param/keep_harmonics"_s, true);
     }
     makeWindow();
-    EXPECT_FALSE(m_window->widgets().engine->keepHarmonics->isChecked());
-    EXPECT_FALSE(m_window->widgets().engine->keepHarmonics->isEnabled());
+    EXPECT_FALSE(m_window->engineControls().keepHarmonics->isChecked());
+    EXPECT_FALSE(m_window->engineControls().keepHarmonics->isEnabled());
 }
 
 TEST_F(Params, ARestoredVolumeIsNoTouch)

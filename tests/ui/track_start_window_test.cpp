@@ -81,10 +81,10 @@ TEST_F(Playback, ASessionThatDoesNotEndIsKilledForARebuild)
 TEST_F(Playback, ChangedEffectsRebuildOnlyWhenTheAnswerChanges)
 {
     m_window->startPlayback(0);
-    m_window->widgets().engine->denoiseTier->setCurrentIndex(1);
+    m_window->engineControls().denoiseTier->setCurrentIndex(1);
     m_window->jumpToRow(1);
     EXPECT_EQ(m_engine.startArgs.size(), 2);
-    m_window->widgets().engine->denoiseTier->setCurrentIndex(3);
+    m_window->engineControls().denoiseTier->setCurrentIndex(3);
     m_window->jumpToRow(2);
     EXPECT_EQ(m_engine.startArgs.size(), 2);
     EXPECT_TRUE(m_engine.did(u"write fx denoise deep"_s)) << "the running session is told the difference";
@@ -211,7 +211,7 @@ TEST_F(Playback, ACrashAtTheVeryEndGoesOn)
 
 TEST_F(Playback, ARefusedExclusiveDeviceIsTriedOnceByTheLadder)
 {
-    m_window->widgets().engine->outputPath->setCurrentText(u"exclusive"_s);
+    m_window->engineControls().outputPath->setCurrentText(u"exclusive"_s);
     m_window->startPlayback(0);
     EXPECT_TRUE(m_engine.startArgs.last().contains(u"exclusive"_s));
     m_engine.current->endWith(1);

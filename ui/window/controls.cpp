@@ -1,60 +1,85 @@
 // What the window's controls set going.
 #include "ui/window/player_gui_window.h"
 
-#include "output/engine_controls.h"
 #include "playback/playlist_widget.h"
+#include "playback/row_order.h"
 #include "ui/dock_bar.h"
+#include "ui/icon_button.h"
+#include "ui/library_panel.h"
+#include "ui/mini_cover.h"
+#include "ui/progress_row.h"
+#include "ui/title_bar.h"
 
+#include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
-#include <QShortcut>
+#include <QToolButton>
 
 using namespace Qt::StringLiterals;
 
 void PlayerGuiWindow::connectControls()
 {
-    connect(m_ui.dock->start, &QToolButton::clicked, this, &PlayerGuiWindow::togglePause);
-    connect(m_ui.dock->stop, &QToolButton::clicked, this, &PlayerGuiWindow::stopPlayback);
-    connect(m_ui.dock->previous, &QToolButton::clicked, this, [this] { stepRow(-1); });
-    connect(m_ui.dock->next, &QToolButton::clicked, this, [this] { stepRow(1); });
-    connect(m_ui.dock->volume, &QSlider::valueChanged, this, [this](int value) {
+    connectTransport();
+    connectList();
+    connect(m_ui.title->brand, &QPushButton::clicked, this, &PlayerGuiWindow::openSetup);
+    connect(m_ui.dock->tools, &QPushButton::clicked, this, &PlayerGuiWindow::openTools);
+    connect(m_ui.logSwitch, &QToolButton::toggled, this, &PlayerGuiWindow::openLog);
+    connect(m_ui.device, &QComboBox::currentIndexChanged, this, [this] {
+        m_ui.device->setToolTip(m_ui.device->currentText());
+        if (!m_devices.populatingDevices)
+            saveParams();
+    });
+    connect(m_ui.refreshDevices, &QPushButton::clicked, this, &PlayerGuiWindow::populateDevices);
+    connect(m_ui.selfCheck, &QPushButton::clicked, this, &PlayerGuiWindow::startBitPerfectCheck);
+    connect(m_ui.report, &QPushButton::clicked, this, &PlayerGuiWindow::openChainReport);
+}
+
+void PlayerGuiWindow::connectTransport()
+{
+    const DockBar &dock = *m_ui.dock;
+    connect(dock.start, &QPushButton::clicked, this, &PlayerGuiWindow::togglePause);
+    connect(dock.stop, &QPushButton::clicked, this, &PlayerGuiWindow::stopPlayback);
+    connect(dock.previous, &QPushButton::clicked, this, [this] { stepRow(-1); });
+    connect(dock.next, &QPushButton::clicked, this, [this] { stepRow(1); });
+    connect(dock.volume, &QSlider::valueChanged, this, [this](int value) {
         m_volumeTouched = true;
         if (sessionRuns())
             sendCmd(u"vol %1"_s.arg(value));
     });
-    connect(m_ui.dock->volume, &QSlider::sliderReleased, this, &PlayerGuiWindow::saveParams);
+    connect(dock.volume, &QSlider::sliderReleased, this, &PlayerGuiWindow::saveParams);
+    connect(dock.mute, &QPushButton::clicked, this, &PlayerGuiWindow::toggleMute);
+    connect(dock.miniCover, &QAbstractButton::clicked, this, &PlayerGuiWindow::showPlayingRow);
+}
 
+void PlayerGuiWindow::connectList()
+{
+    const LibraryPanel &library = *m_ui.library;
     connect(m_ui.playlist, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { startPlayback(m_ui.playlist->row(item)); });
     connect(m_ui.playlist, &QListWidget::currentRowChanged, this, &PlayerGuiWindow::refreshNavButtons);
-    connect(m_ui.importFiles, &QPushButton::clicked, this, [this] {
-        const QStringList paths = QFileDialog::getOpenFileNames(this, tr("导入音频文件"));
-        addFiles(paths);
-    });
+    connect(library.importFiles, &QPushButton::clicked, this,
+            [this] { addFiles(QFileDialog::getOpenFileNames(this, tr("导入音频文件"))); });
+}
 
-    connect(m_ui.analyze, &QPushButton::clicked, this, &PlayerGuiWindow::analyzeTrack);
+void PlayerGuiWindow::toggleMute()
+{
+    QSlider *volume = m_ui.dock->volume;
+    if (volume->value() > 0)
+        m_volumeBeforeMute = volume->value();
+    volume->setValue(volume->value() > 0 ? 0 : m_volumeBeforeMute);
+    saveParams();
+}
 
-    connect(m_ui.engine, &EngineControls::changed, this, &PlayerGuiWindow::saveParams);
-    connect(m_ui.engine, &EngineControls::pcmFilterChosen, this, [this] {
-        m_pcmFilterExplicit = true;
-        saveParams();
-    });
-    connect(m_ui.engine->peakGuard, &QCheckBox::toggled, this, [this](bool on) {
-        if (sessionRuns() && sendCmd(on ? u"guard on"_s : u"guard off"_s))
-            m_start.sessionGuard = on;
-    });
-    connect(m_ui.engine->speedRatio, &QDoubleSpinBox::valueChanged, this, [this](double ratio) {
-        if (sessionRuns())
-            sendCmd(u"speed "_s + QString::number(ratio, 'f', 2));
-    });
-    for (QComboBox *combo : m_devices.deviceCombos) {
-        connect(combo, &QComboBox::currentIndexChanged, this, [this] {
-            if (!m_devices.populatingDevices)
-                saveParams();
-        });
+void PlayerGuiWindow::showPlayingRow()
+{
+    const int row = rowToShow({sessionRuns(), m_start.playingRow, m_ui.playlist->currentRow()});
+    if (!m_ui.playlist->hasRow(row)) {
+        logLine(tr("曲库里找不到正在播放的这一首"), true);
+        return;
     }
-    connect(m_ui.refreshDevices, &QPushButton::clicked, this, &PlayerGuiWindow::populateDevices);
+    m_ui.playlist->item(row)->setHidden(false);
+    m_ui.playlist->showRow(row);
 }
 
 void PlayerGuiWindow::showMessage(const QString &text)

@@ -1,18 +1,21 @@
 // How the window is put together.
 #include "ui/window/player_gui_window.h"
 
-#include "output/engine_controls.h"
+#include "playback/chain_panel.h"
 #include "playback/playlist_widget.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
-#include "ui/glyph_icons.h"
+#include "ui/dsp_bar.h"
+#include "ui/edge_grips.h"
+#include "ui/icon_button.h"
 #include "ui/instrument_panel.h"
-#include "ui/log_pane.h"
+#include "ui/library_panel.h"
 #include "ui/progress_row.h"
+#include "ui/stage.h"
 #include "ui/style_sheet.h"
+#include "ui/title_bar.h"
 
-#include <QPushButton>
-#include <QScrollArea>
+#include <QComboBox>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,31 +23,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int titleHeight = 56;
-constexpr int panelWidth = 320;
-constexpr int sideWidth = 240;
-constexpr int statusHeight = 26;
-constexpr int logHeight = 150;
-/// In a lower window there is room for the log or for the engine's settings, not for both.
-constexpr int bothPanelsHeight = 760;
 constexpr int captionPixels = 11;
-constexpr int areaPadding = 16;
-constexpr int displayHeight = 220;
-
-QFrame *area(QWidget *parent, QLatin1StringView objectName)
-{
-    auto *frame = new QFrame(parent);
-    frame->setObjectName(objectName);
-    return frame;
-}
-
-QLabel *caption(QWidget *parent, QLatin1StringView objectName, const QString &text)
-{
-    auto *label = new QLabel(text, parent);
-    label->setObjectName(objectName);
-    label->setFont(figureFont(captionPixels));
-    return label;
-}
+constexpr QSize smallButton(24, 20);
+constexpr QSize reportButton(30, 30);
 
 } // namespace
 
@@ -56,152 +37,105 @@ void PlayerGuiWindow::buildLayout()
     root->setFocusPolicy(Qt::ClickFocus);
     root->setFocus();
     setCentralWidget(root);
-    auto *rows = new QVBoxLayout(root);
-    rows->setContentsMargins(0, 0, 0, 0);
-    rows->setSpacing(0);
-    rows->addWidget(buildTitleLine());
+
+    m_ui.title = new TitleBar(root);
+    m_ui.playlist = new PlaylistWidget(root);
+    m_ui.playlist->setAccessibleName(tr("播放列表"));
+    m_ui.library = new LibraryPanel(m_ui.playlist, root);
+    m_ui.centre = buildCentre();
+    m_ui.side = buildSide();
+    m_ui.dock = new DockBar(root);
+    m_ui.dsp = new DspBar(root);
+    m_ui.progress = new ProgressRow(root);
+    QWidget *status = buildStatusLine();
 
     auto *body = new QHBoxLayout;
     body->setSpacing(0);
-    body->addWidget(buildPlaylistPanel());
-    body->addWidget(buildCentre(), 1);
-    body->addWidget(buildDevicePanel());
+    body->addWidget(m_ui.library);
+    body->addWidget(m_ui.centre, 1);
+    body->addWidget(m_ui.side);
+    m_logPlace = new QVBoxLayout;
+    auto *rows = new QVBoxLayout(root);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(m_ui.title);
     rows->addLayout(body, 1);
-
-    m_ui.log = new LogPane(root);
-    m_ui.log->setFixedHeight(logHeight);
-    m_ui.log->hide();
-    rows->addWidget(m_ui.log);
-    m_ui.progress = new ProgressRow(root);
-    rows->addWidget(m_ui.progress);
-    m_ui.dock = new DockBar(root);
-    rows->addWidget(m_ui.dock);
-    rows->addWidget(buildStatusLine());
+    // What opens takes its height from the body: the dial and the dock never move.
+    rows->addLayout(m_logPlace);
+    for (QWidget *area : {static_cast<QWidget *>(m_ui.dsp), static_cast<QWidget *>(m_ui.progress),
+                          static_cast<QWidget *>(m_ui.dock), status})
+        rows->addWidget(area);
     orderTabs();
-}
-
-QWidget *PlayerGuiWindow::buildTitleLine()
-{
-    QFrame *bar = area(centralWidget(), "vesperTitleBar"_L1);
-    bar->setFixedHeight(titleHeight);
-    auto *row = new QHBoxLayout(bar);
-    row->setContentsMargins(areaPadding, 0, areaPadding, 0);
-    auto *brand = new QLabel(u"PLAYER · DSD"_s, bar);
-    brand->setObjectName("vesperBrand"_L1);
-    brand->setFont(figureFont(captionPixels + 1));
-    brand->setFixedHeight(28);
-    m_ui.sourceInfo = caption(bar, "vesperModel"_L1, {});
-    m_ui.sourceInfo->setAccessibleName(tr("音频数据"));
-    row->addWidget(brand);
-    row->addStretch();
-    row->addWidget(m_ui.sourceInfo);
-    return bar;
-}
-
-QWidget *PlayerGuiWindow::buildPlaylistPanel()
-{
-    QFrame *panel = area(centralWidget(), "vesperPanel"_L1);
-    panel->setFixedWidth(panelWidth);
-    auto *rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(areaPadding, areaPadding, areaPadding, areaPadding);
-    rows->setSpacing(8);
-
-    auto *head = new QHBoxLayout;
-    head->addWidget(caption(panel, "vesperPanelTitle"_L1, tr("播放列表")));
-    head->addStretch();
-    m_ui.playlistCount = caption(panel, "vesperPanelMeta"_L1, u"0 / 0"_s);
-    head->addWidget(m_ui.playlistCount);
-    rows->addLayout(head);
-
-    m_ui.playlist = new PlaylistWidget(panel);
-    m_ui.playlist->setAccessibleName(tr("播放列表"));
-    rows->addWidget(m_ui.playlist, 1);
-
-    auto *buttons = new QHBoxLayout;
-    m_ui.importFiles = new QPushButton(tr("导入"), panel);
-    m_ui.importFiles->setObjectName("vesperLoadBtn"_L1);
-    m_ui.importFiles->setToolTip(tr("把音频文件加到列表末尾"));
-    buttons->addWidget(m_ui.importFiles);
-    m_ui.analyze = new QPushButton(tr("分析曲目"), panel);
-    m_ui.analyze->setObjectName("vesperLoadBtn"_L1);
-    m_ui.analyze->setToolTip(tr("测出选中曲目的速度和调性；不改动文件"));
-    buttons->addWidget(m_ui.analyze);
-    buttons->addStretch();
-    rows->addLayout(buttons);
-    return panel;
+    new EdgeGrips(this);
 }
 
 QWidget *PlayerGuiWindow::buildCentre()
 {
     auto *centre = new QWidget(centralWidget());
-    auto *rows = new QVBoxLayout(centre);
-    rows->setContentsMargins(areaPadding, areaPadding, areaPadding, areaPadding);
-    rows->setSpacing(12);
-
+    m_ui.stage = new Stage(centre);
     m_ui.display = new DisplayPanel(centre);
-    m_ui.display->setMinimumHeight(displayHeight);
-    rows->addWidget(m_ui.display, 1);
-
     m_ui.instruments = new InstrumentPanel(centre);
+    m_ui.lyrics = new QLabel(centre);
+    m_ui.lyrics->setObjectName("vesperLyrics"_L1);
+    m_ui.lyrics->setAlignment(Qt::AlignCenter);
+
+    auto *upper = new QHBoxLayout;
+    upper->addWidget(m_ui.stage);
+    upper->addWidget(m_ui.display, 1);
+    auto *rows = new QVBoxLayout(centre);
+    rows->addLayout(upper, 1);
     rows->addWidget(m_ui.instruments);
-
-    m_ui.engineSwitch = new QToolButton(centre);
-    m_ui.engineSwitch->setObjectName("vesperSwitch"_L1);
-    m_ui.engineSwitch->setText(tr("引擎设置"));
-    m_ui.engineSwitch->setToolTip(tr("下次建会话时交给引擎的设置"));
-    m_ui.engineSwitch->setCheckable(true);
-    m_ui.engineSwitch->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_ui.engineSwitch->setArrowType(Qt::RightArrow);
-    m_ui.engineSwitch->setFocusPolicy(Qt::StrongFocus);
-    m_ui.engineSwitch->setFixedHeight(28);
-    rows->addWidget(m_ui.engineSwitch, 0, Qt::AlignLeading);
-
-    m_ui.engine = new EngineControls(centre);
-    auto *scroller = new QScrollArea(centre);
-    scroller->setWidget(m_ui.engine);
-    scroller->setWidgetResizable(true);
-    scroller->setFrameShape(QFrame::NoFrame);
-    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    scroller->setFocusPolicy(Qt::NoFocus);
-    scroller->hide();
-    rows->addWidget(scroller, 2);
-    connect(m_ui.engineSwitch, &QToolButton::toggled, scroller, [this, scroller](bool open) {
-        scroller->setVisible(open);
-        if (open && height() < bothPanelsHeight)
-            m_ui.logSwitch->setChecked(false);
-        m_ui.engineSwitch->setArrowType(open ? Qt::DownArrow : Qt::RightArrow);
-    });
+    rows->addWidget(m_ui.lyrics);
     return centre;
 }
 
-QWidget *PlayerGuiWindow::buildDevicePanel()
+QWidget *PlayerGuiWindow::buildSide()
 {
-    QFrame *panel = area(centralWidget(), "vesperSide"_L1);
-    panel->setFixedWidth(sideWidth);
-    auto *rows = new QVBoxLayout(panel);
-    rows->setContentsMargins(areaPadding, areaPadding, areaPadding, areaPadding);
+    auto *side = new QFrame(centralWidget());
+    side->setObjectName("vesperSide"_L1);
+    auto *rows = new QVBoxLayout(side);
     rows->setSpacing(8);
-    rows->addWidget(caption(panel, "vesperPanelTitle"_L1, tr("输出设备")));
-    m_ui.device = new QComboBox(panel);
+    m_ui.chain = new ChainPanel(side);
+    rows->addWidget(m_ui.chain, 1);
+
+    auto *head = new QHBoxLayout;
+    auto *caption = new QLabel(tr("输出设备"), side);
+    caption->setObjectName("vesperPanelTitle"_L1);
+    caption->setFont(figureFont(captionPixels));
+    m_ui.refreshDevices = new IconButton(Glyph::Refresh, tr("刷新设备"), side);
+    m_ui.refreshDevices->setFixedSize(smallButton);
+    m_ui.refreshDevices->setToolTip(tr("从 KelpPlayer -list 重新读取设备列表"));
+    head->addWidget(caption);
+    head->addStretch();
+    head->addWidget(m_ui.refreshDevices);
+    rows->addLayout(head);
+    m_ui.device = new QComboBox(side);
     m_ui.device->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui.device->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_ui.device->setAccessibleName(tr("输出设备"));
     m_ui.device->setToolTip(tr("播放用的输出设备"));
     rows->addWidget(m_ui.device);
-    m_ui.refreshDevices = new QPushButton(tr("刷新设备"), panel);
-    m_ui.refreshDevices->setToolTip(tr("从 KelpPlayer -list 重新读取设备列表"));
-    rows->addWidget(m_ui.refreshDevices);
-    rows->addStretch();
-    m_devices.deviceCombos = QList<QComboBox *>{m_ui.device} + m_ui.engine->channelDevices;
-    return panel;
+    rows->addSpacing(4);
+    m_ui.selfCheck = new QPushButton(tr("位完美自检"), side);
+    m_ui.selfCheck->setToolTip(tr("逐项检查现在的播放有没有改动样本"));
+    m_ui.report = new IconButton(Glyph::Lyrics, tr("信号链报告…"), side);
+    m_ui.report->setFixedSize(reportButton);
+    m_ui.report->setToolTip(tr("显示引擎自己对信号链的报告，可以保存"));
+    auto *checks = new QHBoxLayout;
+    checks->setSpacing(4);
+    checks->addWidget(m_ui.selfCheck, 1);
+    checks->addWidget(m_ui.report);
+    rows->addLayout(checks);
+    return side;
 }
 
 QWidget *PlayerGuiWindow::buildStatusLine()
 {
-    QFrame *line = area(centralWidget(), "vesperStatusLine"_L1);
-    line->setFixedHeight(statusHeight);
+    auto *line = new QFrame(centralWidget());
+    line->setObjectName("vesperStatusLine"_L1);
+    line->setFixedHeight(areas::statusLine);
     auto *row = new QHBoxLayout(line);
-    row->setContentsMargins(areaPadding, 0, 8, 0);
+    row->setContentsMargins(16, 0, 8, 0);
     m_ui.message = new QLabel(line);
     m_ui.message->setObjectName("vesperMessage"_L1);
     m_ui.message->setTextFormat(Qt::PlainText);
@@ -211,35 +145,26 @@ QWidget *PlayerGuiWindow::buildStatusLine()
     m_ui.logSwitch->setText(tr("显示日志面板"));
     m_ui.logSwitch->setToolTip(tr("程序做了什么决定、为什么"));
     m_ui.logSwitch->setCheckable(true);
+    m_ui.logSwitch->setToolButtonStyle(Qt::ToolButtonTextOnly);
     m_ui.logSwitch->setFocusPolicy(Qt::StrongFocus);
     row->addWidget(m_ui.message, 1);
     row->addWidget(m_ui.logSwitch);
-    connect(m_ui.logSwitch, &QToolButton::toggled, this, [this](bool open) {
-        m_ui.log->setVisible(open);
-        if (open && height() < bothPanelsHeight)
-            m_ui.engineSwitch->setChecked(false);
-        m_ui.logSwitch->setText(open ? tr("收起日志面板") : tr("显示日志面板"));
-    });
     return line;
 }
 
 void PlayerGuiWindow::orderTabs()
 {
-    const QList<QWidget *> order = {m_ui.playlist,     m_ui.importFiles,    m_ui.analyze,
-                                    m_ui.engineSwitch, m_ui.device,         m_ui.refreshDevices,
-                                    m_ui.dock->stop,   m_ui.dock->previous, m_ui.dock->start,
-                                    m_ui.dock->next,   m_ui.dock->volume,   m_ui.logSwitch,
-                                    m_ui.log};
+    const LibraryPanel &library = *m_ui.library;
+    QList<QWidget *> order = {library.search};
+    for (QPushButton *chip : library.chips)
+        order.append(chip);
+    order.append({library.artist, library.album, m_ui.playlist, library.importFiles, library.importFolder,
+                  library.removeRows, library.clearList, m_ui.refreshDevices, m_ui.device, m_ui.selfCheck,
+                  m_ui.report, m_ui.progress->loopA, m_ui.progress->loopB});
+    order.append(m_ui.dock->controls());
+    order.append(m_ui.logSwitch);
+    order.append(m_ui.title->brand);
+    order.append(m_ui.title->windowButtons());
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
-    // The engine's settings keep their own order, behind the switch that opens them.
-    setTabOrder(m_ui.engineSwitch, m_ui.engine->outputPath);
-    setTabOrder(m_ui.engine->extDecoder, m_ui.device);
-}
-
-void PlayerGuiWindow::resizeEvent(QResizeEvent *event)
-{
-    QMainWindow::resizeEvent(event);
-    if (height() < bothPanelsHeight && m_ui.logSwitch->isChecked())
-        m_ui.engineSwitch->setChecked(false);
 }

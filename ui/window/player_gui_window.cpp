@@ -4,35 +4,37 @@
 #include "ui/keyboard_focus.h"
 #include "ui/style_sheet.h"
 
-#include <QStatusBar>
+#include <QApplication>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr QSize initialSize(1280, 860);
-constexpr QSize leastSize(1000, 640);
+constexpr QSize leastSize(areas::leastWidth, areas::leastHeight);
 
 } // namespace
 
 PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
-    : QMainWindow(parent)
+    : QMainWindow(parent, Qt::FramelessWindowHint)
     , m_options(options)
 {
     // The engine lists its devices while the widgets are built; populateDevicesBlocking waits for the rest.
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
-    setFont(interfaceFont());
+    // The application's, so that dialogs have it too and a new sheet takes it from nobody.
+    QApplication::setFont(interfaceFont());
     KeyboardFocus::install();
     loadTheme();
     buildInstrumentTimers();
     buildLayout();
     // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
     applyTheme();
-    statusBar()->hide();
     setMinimumSize(leastSize);
-    resize(initialSize);
+    setAcceptDrops(true);
+    qApp->installEventFilter(this);
+    restorePlace();
     connectControls();
+    buildShortcuts();
     logLine(tr("=== KelpPlayer — DSD 音频播放器 ==="));
     logLine(
         tr("格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE"));
@@ -41,6 +43,7 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     populateDevicesBlocking();
     restorePlaylist();
     setPlayingUi(false);
+    showIdle();
 }
 
 PlayerGuiWindow::~PlayerGuiWindow()
@@ -57,3 +60,7 @@ void PlayerGuiWindow::startUpdateCheck(bool) {}
 void PlayerGuiWindow::restorePlaylist() {}
 
 void PlayerGuiWindow::runRigReport() {}
+
+void PlayerGuiWindow::resetEffects() {}
+
+void PlayerGuiWindow::setThemeIndex(int) {}

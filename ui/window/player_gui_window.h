@@ -8,7 +8,11 @@
 #include "engine/link_state.h"
 #include "engine/progress_display.h"
 #include "output/device_state.h"
+#include "output/engine_choices.h"
+#include "playback/chain_view_state.h"
 #include "playback/playback_state.h"
+#include "ui/area_plan.h"
+#include "ui/cover_state.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
@@ -18,6 +22,10 @@
 #include <exception>
 
 class QSettings;
+class QVBoxLayout;
+class ToolsMenu;
+enum class Tool;
+struct ComboItem;
 class SystemScheme;
 struct SessionEndVerdict;
 
@@ -47,6 +55,11 @@ public:
     void restoreCombo(QSettings &store, QLatin1StringView key, QComboBox *combo);
     void restoreComboText(const QString &stored, QComboBox *combo);
     void saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo);
+    /// What was chosen for the engine.
+    const EngineChoices &choices() const { return m_choices; }
+    /// The controls of those choices, built at the first call.
+    EngineControls &engineControls();
+    void openSetup();
 
     // ── the link to the engine (engine/window) ──
     void locateEngine();
@@ -78,6 +91,23 @@ public:
     /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
     void expandContainerAsync(const QString &path, const std::function<void(int count)> &done);
 
+    // ── the window's shape (ui/window) ──
+    /// The right column's width, kept in its limits and remembered.
+    void setSideWidth(int width, bool log);
+    void resetLayout();
+    /// Shows the row that plays, or the chosen one, in the middle of the list.
+    void showPlayingRow();
+    /// Builds the panel from what the engine has told of the present track.
+    void refreshChainPanel();
+    void showChainBlock();
+    /// Opens the report dialog and asks the engine for a report.
+    void openChainReport();
+    void saveChainReport();
+    void startBitPerfectCheck();
+    void onVerifyLine(const QString &text);
+    /// Everything that could touch the samples off, then a self-check.
+    void restorePureDefaults();
+
     // ── devices (output/window) ──
     void populateDevices();
     void populateDevicesBlocking();
@@ -97,6 +127,8 @@ public:
     void startUpdateCheck(bool manual);
     void restorePlaylist();
     void runRigReport();
+    void resetEffects();
+    void setThemeIndex(int index);
 
     // ── what hooks and the self-check ask ──
     bool trackAnnounced() const { return m_lines.sourceInfo.has_value(); }
@@ -107,6 +139,12 @@ public:
     int lastPlayedRow() const;
     /// Called once, when the window has been shown.
     void noteShown();
+
+    // ── the cover (ui/window) ──
+    /// Looks for the present track's cover beside the GUI thread, and shows it or none.
+    void refreshCover();
+    /// The place where covers arrive; a null image for none.
+    void showCover(const QImage &image);
 
 public Q_SLOTS:
     void debugAutoplay(const QString &path, const QString &device);
@@ -119,6 +157,9 @@ public Q_SLOTS:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     friend struct LineActions;     // what is done about each effect of a line
@@ -126,14 +167,27 @@ private:
 
     // ── ui/window ──
     void buildLayout();
-    QWidget *buildTitleLine();
-    QWidget *buildPlaylistPanel();
     QWidget *buildCentre();
-    QWidget *buildDevicePanel();
+    QWidget *buildSide();
     QWidget *buildStatusLine();
     void orderTabs();
     void connectControls();
+    void connectTransport();
+    void connectList();
+    void buildShortcuts();
+    void pressOrToggle();
+    void applyAreaPlan();
+    void restorePlace();
+    void openLog(bool open);
+    void openTools();
+    void useTool(Tool tool);
+    void clearLog();
+    void showHelp();
+    void toggleMute();
     void showMessage(const QString &text);
+    /// \param barValue 0 to progressBarMaximum
+    void showPlace(int barValue);
+    void showIdle();
     void loadTheme();
     bool wantsLightTheme();
     void showLevelReadings();
@@ -146,6 +200,10 @@ private:
     // ── app/window ──
     void flushLog();
     void reportStartupMetrics();
+    int restoredItem(const QString &stored, const QList<ComboItem> &items);
+    void restoreChoice(const QString &stored, const QList<ChoiceItem> &choices, QString &code);
+    void applyChoices(const EngineChoices &choices);
+    void showPcmFilter(const QString &name, bool automatic);
 
     // ── engine/window ──
     void installSinks();
@@ -207,11 +265,19 @@ private:
     void segmentChanged(int number);
     void commitPlayStat();
 
+    /// What the engine tells belongs to a track: another one begins.
+    /// \param playedOn the engine went on by itself and may have told of it already
+    void beginTrackFacts(bool playedOn);
+    /// Shows all that belongs to a track as not known.
+    void forgetTrackFacts();
+
     int addListedTracks(const QString &path, const PlayerProbeResult &result);
 
     // ── output/window ──
     void beginDeviceListing();
     void applyDeviceList(const DeviceListing &listing);
+    void fillDeviceCombo(QComboBox *combo, const QString &chosen);
+    void fillChannelDevices();
     void selectDevice(QComboBox *combo, const QString &id);
     void applyDeviceProfile();
     bool effectsAudible() const;
@@ -224,12 +290,27 @@ private:
     InstrumentState m_instruments;
     SignalState m_signal;
     SystemScheme *m_systemScheme = nullptr; ///< child of the window; made when it is followed first
+    ChainViewState m_chain;
+    CoverState m_cover;
     TrackStartState m_start;
     PreloadState m_preload;
     TrackProgressState m_progress;
     DeviceState m_devices;
+    EngineChoices m_choices;
     QSet<QString> m_pendingContainers; ///< paths whose listing is still out
-    bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
-    bool m_volumeTouched = false;      ///< the user has moved the volume since the program started
-    bool m_closing = false;            ///< killProc has run on the way out
+    /// What stands open above the window.
+    enum class ToolPanel
+    {
+        Closed = 0,
+        Menu = 2
+    };
+    ToolPanel m_toolPanel = ToolPanel::Closed;
+    ToolsMenu *m_toolsMenu = nullptr;  ///< null until it is first opened
+    QVBoxLayout *m_logPlace = nullptr; ///< where the log pane opens
+    std::optional<AreaPlan> m_areaPlan;
+    int m_sideWidth = 240; ///< of the right column, within its limits
+    int m_volumeBeforeMute = 100;
+    bool m_analysisRuns = false;
+    bool m_volumeTouched = false; ///< the user has moved the volume since the program started
+    bool m_closing = false;       ///< killProc has run on the way out
 };

@@ -2,10 +2,13 @@
 /// The widgets that several topics touch. All are children of the window.
 #pragma once
 
+class ChainPanel;
 class DisplayPanel;
 class DockBar;
+class DspBar;
 class EngineControls;
 class InstrumentPanel;
+class LibraryPanel;
 class LogPane;
 class PlaylistWidget;
 class ProgressRow;
@@ -13,23 +16,34 @@ class QComboBox;
 class QLabel;
 class QPushButton;
 class QToolButton;
+class QWidget;
+class SetupDialog;
+class Stage;
+class TitleBar;
 
 struct WindowWidgets
 {
+    TitleBar *title = nullptr;
+    LibraryPanel *library = nullptr;
     PlaylistWidget *playlist = nullptr;
-    QLabel *playlistCount = nullptr;
-    QPushButton *importFiles = nullptr;
-    QPushButton *analyze = nullptr;
+    QWidget *centre = nullptr;
+    Stage *stage = nullptr;
     DisplayPanel *display = nullptr;
     InstrumentPanel *instruments = nullptr;
-    DockBar *dock = nullptr;
-    ProgressRow *progress = nullptr;
-    EngineControls *engine = nullptr;
+    QLabel *lyrics = nullptr;
+    QWidget *side = nullptr; ///< the right column
+    ChainPanel *chain = nullptr;
     QComboBox *device = nullptr; ///< the primary device
     QPushButton *refreshDevices = nullptr;
-    QLabel *sourceInfo = nullptr;
+    QPushButton *selfCheck = nullptr;
+    QPushButton *report = nullptr;
+    DockBar *dock = nullptr;
+    DspBar *dsp = nullptr;
+    ProgressRow *progress = nullptr;
     QLabel *message = nullptr; ///< the status line's text
     QToolButton *logSwitch = nullptr;
-    QToolButton *engineSwitch = nullptr;
-    LogPane *log = nullptr; ///< null until the layout stands: lines go to the file alone
+    // Null until they are first opened.
+    LogPane *log = nullptr;
+    SetupDialog *setup = nullptr;
+    EngineControls *engine = nullptr;
 };

@@ -1,0 +1,75 @@
+#include "ui/dsp_bar.h"
+
+#include "ui/dsp_tab.h"
+#include "ui/elided_label.h"
+#include "ui/style_sheet.h"
+
+#include <QHBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int captionPixels = 12;
+constexpr int livePixels = 11;
+constexpr int denoiseTab = 4;
+constexpr int summaryShare = 100;
+
+} // namespace
+
+DspBar::DspBar(QWidget *parent)
+    : QFrame(parent)
+    // The sentence on direct DSD stands at the end and stays readable.
+    , m_summary(new ElidedLabel(this, Qt::ElideMiddle))
+    , m_live(new QLabel(tr("实时"), this))
+{
+    setObjectName("vesperDspBar"_L1);
+    setFixedHeight(areas::dspBar);
+    auto *caption = new QLabel(u"DSP"_s, this);
+    caption->setObjectName("vesperDspCaption"_L1);
+    QFont captionFont = figureFont(captionPixels);
+    captionFont.setBold(true);
+    caption->setFont(captionFont);
+    auto *row = new QHBoxLayout(this);
+    row->setContentsMargins(16, 0, 16, 0);
+    row->setSpacing(4);
+    row->addWidget(caption);
+    row->addSpacing(8);
+    for (const QString &name : {tr("混响"), tr("音调"), tr("平衡"), tr("空间"), tr("降噪"), tr("均衡器")}) {
+        auto *tab = new DspTab(name, this);
+        tab->setEnabled(false);
+        tab->setToolTip(tr("这一页效果还没有做好，以后的版本才有"));
+        m_tabs.append(tab);
+        row->addWidget(tab);
+    }
+    m_summary->setObjectName("vesperDspSummary"_L1);
+    m_summary->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_live->setObjectName("vesperDspLive"_L1);
+    m_live->setFont(figureFont(livePixels));
+    row->addSpacing(12);
+    // Takes over where the summary has no room.
+    row->addStretch(1);
+    row->addWidget(m_summary, summaryShare);
+    row->addSpacing(8);
+    row->addWidget(m_live);
+    showSummary({}, false);
+}
+
+void DspBar::showSummary(const QString &words, bool live)
+{
+    m_summary->setWhole(words);
+    m_live->setEnabled(live);
+    m_live->setToolTip(live ? tr("效果正作用在听到的声音上") : tr("现在没有效果作用在声音上"));
+    m_live->setAccessibleDescription(m_live->toolTip());
+}
+
+void DspBar::showDenoise(bool on)
+{
+    m_tabs.at(denoiseTab)->setLit(on);
+}
+
+void DspBar::applyPlan(const AreaPlan &plan)
+{
+    m_summary->setVisible(plan.showsSummary);
+    setToolTip(plan.showsSummary ? QString() : m_summary->whole());
+}

@@ -1,0 +1,50 @@
+#include "ui/elided_label.h"
+
+#include <QEvent>
+
+ElidedLabel::ElidedLabel(QWidget *parent, Qt::TextElideMode mode)
+    : QLabel(parent)
+    , m_mode(mode)
+{
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+}
+
+void ElidedLabel::setWhole(const QString &text, const QString &tip)
+{
+    m_whole = text;
+    m_tip = tip;
+    setAccessibleName(text);
+    elide();
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+    return {0, QLabel::minimumSizeHint().height()};
+}
+
+QSize ElidedLabel::sizeHint() const
+{
+    return {fontMetrics().horizontalAdvance(m_whole) + 2, QLabel::sizeHint().height()};
+}
+
+void ElidedLabel::resizeEvent(QResizeEvent *event)
+{
+    QLabel::resizeEvent(event);
+    elide();
+}
+
+void ElidedLabel::changeEvent(QEvent *event)
+{
+    QLabel::changeEvent(event);
+    if (event->type() == QEvent::FontChange || event->type() == QEvent::StyleChange)
+        elide();
+}
+
+void ElidedLabel::elide()
+{
+    const QString shown = fontMetrics().elidedText(m_whole, m_mode, std::max(contentsRect().width(), 1));
+    if (shown != text())
+        setText(shown);
+    setToolTip(!m_tip.isEmpty() ? m_tip : shown == m_whole ? QString() : m_whole);
+}

@@ -1,0 +1,55 @@
+#include "ui/setup_dialog.h"
+
+#include <QDialogButtonBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr QSize initialSize(860, 640);
+constexpr QSize leastSize(520, 420);
+
+} // namespace
+
+SetupDialog::SetupDialog(QWidget *parent)
+    : QDialog(parent)
+{
+    setObjectName("vesperSetup");
+    setWindowTitle(tr("设置"));
+    setMinimumSize(leastSize);
+    resize(initialSize);
+    auto *inside = new QWidget(this);
+    m_sections = new QVBoxLayout(inside);
+    m_sections->setContentsMargins(24, 24, 24, 24);
+    m_sections->setSpacing(12);
+    m_sections->addStretch();
+    auto *scroller = new QScrollArea(this);
+    scroller->setWidget(inside);
+    scroller->setWidgetResizable(true);
+    scroller->setFrameShape(QFrame::NoFrame);
+    scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroller->setFocusPolicy(Qt::NoFocus);
+    auto *buttons = new QDialogButtonBox(this);
+    buttons->setContentsMargins(24, 0, 24, 16);
+    QPushButton *close = buttons->addButton(tr("关闭"), QDialogButtonBox::RejectRole);
+    close->setDefault(true);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    auto *rows = new QVBoxLayout(this);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->addWidget(scroller, 1);
+    rows->addWidget(buttons);
+}
+
+void SetupDialog::addSection(const QString &title, QWidget *section)
+{
+    // Before the stretch that keeps the sections at the top.
+    int place = m_sections->count() - 1;
+    if (!title.isEmpty()) {
+        auto *caption = new QLabel(title, this);
+        caption->setObjectName("vesperSectionTitle");
+        m_sections->insertWidget(place++, caption);
+    }
+    m_sections->insertWidget(place, section);
+}

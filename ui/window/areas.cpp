@@ -1,0 +1,124 @@
+// How the areas share the window's size.
+#include "ui/window/player_gui_window.h"
+
+#include "app/settings_rules.h"
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
+#include "ui/display_panel.h"
+#include "ui/dock_bar.h"
+#include "ui/dsp_bar.h"
+#include "ui/instrument_panel.h"
+#include "ui/library_panel.h"
+#include "ui/log_pane.h"
+#include "ui/stage.h"
+#include "ui/title_bar.h"
+#include "ui/window_place.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int logHeight = 150;
+constexpr QSize initialSize(1280, 860);
+
+} // namespace
+
+void PlayerGuiWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    applyAreaPlan();
+}
+
+void PlayerGuiWindow::applyAreaPlan()
+{
+    const AreaFacts facts{width(), height(), m_ui.logSwitch->isChecked() ? logHeight : 0, m_sideWidth};
+    const AreaPlan plan = planAreas(facts);
+    if (m_areaPlan == plan)
+        return;
+    m_areaPlan = plan;
+    m_ui.title->applyPlan(plan);
+    m_ui.library->applyPlan(plan);
+    m_ui.stage->applyPlan(plan, width() - plan.leftWidth - plan.sideWidth);
+    m_ui.display->applyPlan(plan);
+    m_ui.instruments->setCompact(plan.compact);
+    m_ui.instruments->setVisible(plan.showsInstruments);
+    m_ui.lyrics->setFixedHeight(plan.lyricHeight);
+    m_ui.lyrics->setVisible(plan.showsInstruments);
+    m_ui.dock->applyPlan(plan);
+    m_ui.dsp->applyPlan(plan);
+    m_ui.side->setFixedWidth(plan.sideWidth);
+    for (QWidget *column : {m_ui.centre, m_ui.side}) {
+        column->layout()->setContentsMargins(plan.padding, plan.padding, plan.padding,
+                                             column == m_ui.centre ? 0 : plan.padding);
+    }
+    m_ui.centre->layout()->setSpacing(plan.groupGap);
+}
+
+void PlayerGuiWindow::setSideWidth(int width, bool log)
+{
+    m_sideWidth = sideWidthFromUser(width);
+    if (m_sideWidth != width)
+        logLine(tr("布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px").arg(width).arg(m_sideWidth), true);
+    else if (log)
+        logLine(tr("布局: 侧栏宽度 %1 px").arg(m_sideWidth));
+    writeUserSetting(settings::sideWidth, m_sideWidth);
+    applyAreaPlan();
+}
+
+void PlayerGuiWindow::resetLayout()
+{
+    m_sideWidth = settings::sideWidth.fallback.value();
+    SettingsStore file;
+    QSettingsAccess store(file);
+    writeSetting(store, settings::sideWidth, m_sideWidth);
+    file.remove(settings::geometry.key);
+    if (isMaximized())
+        showNormal();
+    resize(initialSize);
+    applyAreaPlan();
+    logLine(tr("布局已重置(窗口大小/位置/侧栏宽度)"));
+}
+
+void PlayerGuiWindow::restorePlace()
+{
+    resize(initialSize);
+    m_sideWidth = sideWidthFromUser(sideWidthFromStored(readUserSetting(settings::sideWidth)));
+    const QByteArray geometry = readUserSetting(settings::geometry);
+    if (geometry.isEmpty())
+        return;
+    if (!restoreGeometry(geometry)) {
+        logLine(tr("窗口位置: 存下的记录读不出来, 用默认大小"), true);
+        return;
+    }
+    QList<QRect> screens;
+    for (const QScreen *screen : QGuiApplication::screens())
+        screens.append(screen->availableGeometry());
+    if (screens.isEmpty() || isMaximized())
+        return;
+    const QRect place = reachablePlace(QRect(pos(), size()), screens);
+    if (place != QRect(pos(), size())) {
+        setGeometry(place);
+        logLine(tr("窗口位置: 原来的屏幕不在了, 移到主屏幕中间"));
+    }
+}
+
+void PlayerGuiWindow::openLog(bool open)
+{
+    if (open && !m_ui.log) {
+        m_ui.log = new LogPane(centralWidget());
+        m_ui.log->setFixedHeight(logHeight);
+        m_logPlace->addWidget(m_ui.log);
+        setTabOrder(m_ui.logSwitch, m_ui.log);
+        flushLog();
+    }
+    m_ui.logSwitch->setText(open ? tr("收起日志面板") : tr("显示日志面板"));
+    // The areas give way before the pane takes its height.
+    applyAreaPlan();
+    if (m_ui.log)
+        m_ui.log->setVisible(open);
+}

@@ -1,0 +1,72 @@
+// The window's keys, and what it sees of the events of others.
+#include "ui/window/player_gui_window.h"
+
+#include "ui/dock_bar.h"
+#include "ui/library_panel.h"
+#include "ui/title_bar.h"
+#include "ui/tools_menu.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+#include <QShortcut>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int volumeStep = 5;
+
+} // namespace
+
+void PlayerGuiWindow::buildShortcuts()
+{
+    const auto key = [this](const QKeySequence &sequence, auto &&action) {
+        connect(new QShortcut(sequence, this), &QShortcut::activated, this, action);
+    };
+    key(Qt::Key_Space, [this] { pressOrToggle(); });
+    key(Qt::CTRL | Qt::Key_Left, [this] { stepRow(-1); });
+    key(Qt::CTRL | Qt::Key_Right, [this] { stepRow(1); });
+    key(Qt::CTRL | Qt::Key_Space, [this] { stopPlayback(); });
+    const auto turn = [this](int by) { m_ui.dock->volume->setValue(m_ui.dock->volume->value() + by); };
+    key(Qt::CTRL | Qt::Key_Up, [turn] { turn(volumeStep); });
+    key(Qt::CTRL | Qt::Key_Down, [turn] { turn(-volumeStep); });
+    key(Qt::CTRL | Qt::Key_O, [this] { m_ui.library->importFiles->click(); });
+    key(Qt::CTRL | Qt::Key_Comma, [this] { openSetup(); });
+    key(Qt::Key_F11, [this] { m_ui.title->toggleMaximised(); });
+}
+
+void PlayerGuiWindow::pressOrToggle()
+{
+    // Buttons take the focus from the keyboard alone, so a focused one is the one that is meant.
+    auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+    if (button && button->hasFocus())
+        button->click();
+    else
+        togglePause();
+}
+
+bool PlayerGuiWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // A change of the system's colours closes the open menu: it would stay in the old ones.
+    if (event->type() == QEvent::ApplicationPaletteChange && m_toolPanel == ToolPanel::Menu && m_toolsMenu)
+        m_toolsMenu->close();
+    return QMainWindow::eventFilter(watched, event);
+}
+
+void PlayerGuiWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->mimeData()->hasUrls())
+        event->acceptProposedAction();
+}
+
+void PlayerGuiWindow::dropEvent(QDropEvent *event)
+{
+    QStringList paths;
+    for (const QUrl &url : event->mimeData()->urls()) {
+        if (const QString path = url.toLocalFile(); !path.isEmpty())
+            paths.append(path);
+    }
+    event->acceptProposedAction();
+    if (!paths.isEmpty())
+        addFiles(paths);
+}
