@@ -80,7 +80,7 @@ private:
     void loadFirst();
     void load(const LoadRequest &request);
     /// Lets a preload of the playing sheet's own file mean the sheet's next track.
-    void followSheet(LoadRequest &request) const;
+    void followContainer(LoadRequest &request) const;
     LoadFacts loadFacts(const LoadRequest &request);
     std::unique_ptr<Source> open(const LoadRequest &request, std::string &error);
     DeckTrack enter(const LoadRequest &request, std::unique_ptr<Source> source);
