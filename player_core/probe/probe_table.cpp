@@ -50,7 +50,7 @@ ProbeAnswer cover(const std::vector<std::string> &args)
 
 constexpr Probe probes[] = {
     {"-cue-list", cueList}, {"-cover", cover},      {"-dsd-caps", notYet},
-    {"-iso-list", isoList},  {"-analyze", notYet},   {"-fingerprint", notYet},
+    {"-iso-list", isoList}, {"-analyze", notYet},   {"-fingerprint", notYet},
     {"-scan", notYet},      {"-check-ext", notYet}, {"-rig-info", notYet},
 };
 

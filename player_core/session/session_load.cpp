@@ -88,8 +88,7 @@ void Session::followContainer(LoadRequest &request) const
     };
     const std::string &path = request.source.path;
     if (!playing.cuePath.empty() && playing.track >= 1) {
-        if (const auto next =
-                sheetSuccessor(listCue(playing.cuePath).text, playing.track, path, samePath)) {
+        if (const auto next = sheetSuccessor(listCue(playing.cuePath).text, playing.track, path, samePath)) {
             request.source.cuePath = playing.cuePath;
             request.source.track = *next;
             return;

@@ -18,9 +18,10 @@ namespace kelp_core {
 sheetSuccessor(std::string_view listing, int track, const std::string &path,
                const std::function<bool(const std::string &, const std::string &)> &samePath);
 
-/// The same for SACD images, whose tracks all have the image's path. `numbers` are those of the image that was
-/// handed over, sameImage whether it is the one that plays, playing its track (below 1: all of it). The next
-/// track of that image; behind its last one, and for another image, the first. Nothing when there is no track.
+/// The same for SACD images, whose tracks all have the image's path. `numbers` are those of the image that
+/// was handed over, sameImage whether it is the one that plays, playing its track (below 1: all of it). The
+/// next track of that image; behind its last one, and for another image, the first. Nothing when there is no
+/// track.
 [[nodiscard]] std::optional<int> imageSuccessor(const std::vector<int> &numbers, bool sameImage, int playing);
 
 } // namespace kelp_core

@@ -52,12 +52,14 @@ CueListing listTracks(const std::string &cuePath)
         int64_t end = span.endFrames < 0 ? length : cueMicroseconds(span.endFrames);
         end = std::min(end, length);
         const std::string path = findCueAudio(folder, sheet->files[span.file]);
-        tracks += "TRACK\t" + std::to_string(span.number) + "\t" + listingSeconds(start) + "\t" + listingSeconds(end) +
-                  "\t" + listingField(span.title) + "\t" + listingField(span.performer) + "\t" + listingField(path) + "\n";
+        tracks += "TRACK\t" + std::to_string(span.number) + "\t" + listingSeconds(start) + "\t" +
+                  listingSeconds(end) + "\t" + listingField(span.title) + "\t" +
+                  listingField(span.performer) + "\t" + listingField(path) + "\n";
     }
     if (tracks.empty())
         return {warnings + "no track of this CUE sheet can be played\n", 1};
-    listing.text = "CUE\t" + listingField(sheet->title) + "\t" + listingField(sheet->performer) + "\n" + warnings + tracks;
+    listing.text = "CUE\t" + listingField(sheet->title) + "\t" + listingField(sheet->performer) + "\n" +
+                   warnings + tracks;
     return listing;
 }
 

@@ -53,7 +53,12 @@ std::string readHead(Bytes head, SacdArea &area)
 {
     constexpr uint8_t rate64fs = 4;
     constexpr int rateHz = 64 * 44100;
-    enum Coding { dst = 0, threeIn14 = 2, threeIn16 = 3 };
+    enum Coding
+    {
+        dst = 0,
+        threeIn14 = 2,
+        threeIn16 = 3
+    };
     if (!named(head, area.multichannel ? "MULCHTOC" : "TWOCHTOC"))
         return "its name is missing";
     if (head[20] != rate64fs)

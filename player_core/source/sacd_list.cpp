@@ -37,13 +37,13 @@ SacdListing listSacd(const std::string &path)
             return {outcome.error + "\n", 1};
         const SacdArea &area = outcome.image->area;
         SacdListing listing;
-        listing.text = "ISO\t" + listingField(outcome.image->title) + "\t" +
-                       std::to_string(area.tracks.size()) + "\n";
+        listing.text =
+            "ISO\t" + listingField(outcome.image->title) + "\t" + std::to_string(area.tracks.size()) + "\n";
         for (const std::string &warning : outcome.image->warnings)
             listing.text += "WARN " + listingField(warning) + "\n";
         for (const SacdTrack &track : area.tracks)
-            listing.text += "TRACK\t" + std::to_string(track.number) + "\t" + seconds(track.startFrame) + "\t" +
-                            seconds(track.endFrame()) + "\t" + listingField(track.title) + "\n";
+            listing.text += "TRACK\t" + std::to_string(track.number) + "\t" + seconds(track.startFrame) +
+                            "\t" + seconds(track.endFrame()) + "\t" + listingField(track.title) + "\n";
         return listing;
     } catch (const std::exception &failure) {
         return {std::string("the SACD image cannot be read: ") + failure.what() + "\n", 1};

@@ -134,7 +134,8 @@ Stretch wholeOf(const SacdArea &area)
 }
 
 /// The file and what its tables say, or one line in error.
-std::optional<SacdImage> loadImage(const std::string &path, std::unique_ptr<FileInput> &file, std::string &error)
+std::optional<SacdImage> loadImage(const std::string &path, std::unique_ptr<FileInput> &file,
+                                   std::string &error)
 {
     file = FileInput::open(path, error);
     if (!file)

@@ -22,8 +22,8 @@ struct SacdListing
 };
 
 /// Lists an image: "ISO", title and number of tracks; then a line "TRACK", number, start and end in seconds
-/// and title for each track. Fields are parted by tabs; a missing title is empty. What is damaged and left out
-/// gets a line "WARN …". Throws nothing.
+/// and title for each track. Fields are parted by tabs; a missing title is empty. What is damaged and left
+/// out gets a line "WARN …". Throws nothing.
 SacdListing listSacd(const std::string &path);
 
 } // namespace kelp_core

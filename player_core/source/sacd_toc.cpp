@@ -52,7 +52,8 @@ std::string masterTitle(SacdSectors &sectors, int64_t masterSector, const uint8_
             break;
         const int set = master[localesAt + 4 * static_cast<size_t>(channel) + setWithinLocale];
         const SacdDiscText text = readSacdDiscText(sector, set);
-        if (const std::string &title = text.albumTitle.empty() ? text.discTitle : text.albumTitle; !title.empty())
+        if (const std::string &title = text.albumTitle.empty() ? text.discTitle : text.albumTitle;
+            !title.empty())
             return title;
     }
     return {};
@@ -104,8 +105,9 @@ std::string choiceSentence(const SacdAreaOutcome &stereo, const SacdAreaOutcome 
         return multichannel.error.empty()
                    ? "The SACD image holds a stereo area only, which is played."
                    : "The stereo area of the SACD image is played; " + multichannel.error + ".";
-    return (stereo.error.empty() ? "The SACD image holds no stereo area"
-                                 : "The stereo area of the SACD image cannot be read (" + stereo.error + ")") +
+    return (stereo.error.empty()
+                ? "The SACD image holds no stereo area"
+                : "The stereo area of the SACD image cannot be read (" + stereo.error + ")") +
            ", so its multichannel area of " + channels(multichannel) + " is played.";
 }
 
@@ -147,7 +149,8 @@ SacdOutcome readSacdImage(ByteInput &input)
     if (master->multichannel.present())
         multichannel = readArea(sectors, master->multichannel, true);
     if (!stereo.area && !multichannel.area)
-        return {{}, "the SACD image is damaged: " + (stereo.error.empty() ? multichannel.error : stereo.error)};
+        return {{},
+                "the SACD image is damaged: " + (stereo.error.empty() ? multichannel.error : stereo.error)};
     SacdImage image;
     image.storedBytes = storedBytes;
     image.title = master->title;

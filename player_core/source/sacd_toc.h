@@ -13,11 +13,11 @@ namespace kelp_core {
 /// A track of an area.
 struct SacdTrack
 {
-    int number = 0;         ///< as the disc counts
-    int64_t startFrame = 0; ///< in frames of 1/75 s from the area's start
-    int64_t frames = 0;     ///< 1 and more
-    std::string title;      ///< UTF-8, one line, may be empty
-    std::string performer;  ///< as title
+    int number = 0;           ///< as the disc counts
+    int64_t startFrame = 0;   ///< in frames of 1/75 s from the area's start
+    int64_t frames = 0;       ///< 1 and more
+    std::string title;        ///< UTF-8, one line, may be empty
+    std::string performer;    ///< as title
     int64_t firstSector = -1; ///< where the disc says that it begins; −1 when it does not
 
     int64_t endFrame() const { return startFrame + frames; }
@@ -29,10 +29,10 @@ struct SacdArea
     bool multichannel = false;
     bool dst = false; ///< packed
     int channels = 0;
-    int rateHz = 0;          ///< bits a second of one channel
-    int sectorsOfThree = 14; ///< sectors that three plain frames take; of no meaning with dst
-    int64_t firstSector = 0; ///< of the audio
-    int64_t lastSector = 0;  ///< the last one, within the image
+    int rateHz = 0;                ///< bits a second of one channel
+    int sectorsOfThree = 14;       ///< sectors that three plain frames take; of no meaning with dst
+    int64_t firstSector = 0;       ///< of the audio
+    int64_t lastSector = 0;        ///< the last one, within the image
     std::vector<SacdTrack> tracks; ///< in the disc's order, at least one
 
     int64_t startFrame() const; ///< of the earliest track
@@ -43,10 +43,10 @@ struct SacdArea
 /// What the tables of an image say.
 struct SacdImage
 {
-    int storedBytes = 0;   ///< of a sector in the file: 2048 or 2064
-    std::string title;     ///< of the album, else of the disc; UTF-8, one line, may be empty
-    SacdArea area;         ///< the one that is played: stereo where it can be read
-    std::string choice;    ///< a sentence on why this area is played
+    int storedBytes = 0;               ///< of a sector in the file: 2048 or 2064
+    std::string title;                 ///< of the album, else of the disc; UTF-8, one line, may be empty
+    SacdArea area;                     ///< the one that is played: stereo where it can be read
+    std::string choice;                ///< a sentence on why this area is played
     std::vector<std::string> warnings; ///< one line each: what is damaged and was left out
 };
 

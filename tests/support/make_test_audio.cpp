@@ -32,7 +32,8 @@ constexpr const char *usage =
     "first\n"
     "  cue: file=NAME  tracks=3  seconds=1 (of each track)  performer=...\n"
     "  iso: sector=2048|2064  coding=plain14|plain16|dst|dststored  areas=stereo|multi|both  tracks=3\n"
-    "    seconds=1 (of each track)  charset=1 ... 7  title=...  track=... (of all titles; a number follows)\n";
+    "    seconds=1 (of each track)  charset=1 ... 7  title=...  track=... (of all titles; a number follows)\n"
+    "    fuzzseed=FILE: the same as an input of the fuzz target sacd_image\n";
 
 std::string text(const Values &values, const char *key, const char *otherwise)
 {
@@ -133,6 +134,25 @@ std::vector<uint8_t> plainBytes(const std::string &kind, const Values &values, s
     return aiffBytes(signal, kind == "aifc", id3);
 }
 
+/// The sectors that are not empty, each as its number, its length in lines of 16 bytes, and its bytes.
+std::vector<uint8_t> fuzzSeed(const SacdImageMade &image)
+{
+    constexpr size_t sectorBytes = 2048, lineBytes = 16;
+    ByteWriter out;
+    const auto sectors = static_cast<int>(image.bytes.size() / static_cast<size_t>(image.sectorBytes));
+    for (int sector = 0; sector < sectors; ++sector) {
+        const auto begin = image.bytes.begin() + static_cast<std::ptrdiff_t>(image.at(sector));
+        std::vector<uint8_t> bytes(begin, begin + sectorBytes);
+        while (!bytes.empty() && bytes.back() == 0)
+            bytes.pop_back();
+        if (bytes.empty())
+            continue;
+        bytes.resize((bytes.size() + lineBytes - 1) / lineBytes * lineBytes);
+        out.big(static_cast<uint64_t>(sector), 2).big(bytes.size() / lineBytes, 1).append(bytes);
+    }
+    return out.bytes;
+}
+
 /// An SACD image; raw gets the samples of the area that a player plays.
 std::vector<uint8_t> isoBytes(const Values &values, std::vector<uint8_t> &raw)
 {
@@ -151,16 +171,18 @@ std::vector<uint8_t> isoBytes(const Values &values, std::vector<uint8_t> &raw)
     recipe.title = text(values, "title", "Album");
     const auto add = [&](int channels, uint32_t areaSeed) {
         recipe.areas.push_back(plainArea(form == forms.end() ? SacdForm::plain14 : form->second,
-                                         whole(values, "tracks", 3),
-                                         static_cast<int>(frameCount(values, 75)), channels, areaSeed, shape,
-                                         text(values, "track", "Track")));
+                                         whole(values, "tracks", 3), static_cast<int>(frameCount(values, 75)),
+                                         channels, areaSeed, shape, text(values, "track", "Track")));
     };
     if (areas != "multi")
         add(2, seed);
     if (areas != "stereo")
         add(whole(values, "channels", 6), seed + 1);
     raw = recipe.areas.front().signal.bytes;
-    return makeSacd(recipe).bytes;
+    const SacdImageMade image = makeSacd(recipe);
+    if (values.contains("fuzzseed"))
+        writeFile(values.at("fuzzseed"), fuzzSeed(image));
+    return image.bytes;
 }
 
 /// Writes the file of a kind. "" or what failed.

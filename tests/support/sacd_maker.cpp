@@ -20,7 +20,7 @@ using Bytes = std::vector<uint8_t>;
 
 std::string encoded(const std::string &utf8, int characterSet)
 {
-    static constexpr const char *names[] = {"ISO-8859-1", "ASCII", "ISO-8859-1", "CP932",
+    static constexpr const char *names[] = {"ISO-8859-1", "ASCII",  "ISO-8859-1", "CP932",
                                             "EUC-KR",     "GB2312", "BIG5",       "ISO-8859-1"};
     const iconv_t converter = iconv_open(names[characterSet & 7], "UTF-8");
     std::string from = utf8, to(utf8.size() * 2 + 8, '\0');
