@@ -1,5 +1,6 @@
 #include "player_core/probe/probe_table.h"
 
+#include "player_core/probe/analyze_answer.h"
 #include "player_core/probe/device_answers.h"
 #include "player_core/source/cover.h"
 #include "player_core/source/cue_list.h"
@@ -49,9 +50,9 @@ ProbeAnswer cover(const std::vector<std::string> &args)
 }
 
 constexpr Probe probes[] = {
-    {"-cue-list", cueList}, {"-cover", cover},      {"-dsd-caps", notYet},
-    {"-iso-list", isoList}, {"-analyze", notYet},   {"-fingerprint", notYet},
-    {"-scan", notYet},      {"-check-ext", notYet}, {"-rig-info", notYet},
+    {"-cue-list", cueList}, {"-cover", cover},          {"-dsd-caps", notYet},
+    {"-iso-list", isoList}, {"-analyze", analyzeTrack}, {"-fingerprint", notYet},
+    {"-scan", notYet},      {"-check-ext", notYet},     {"-rig-info", notYet},
 };
 
 } // namespace

@@ -51,8 +51,9 @@ Probes
   -list                output devices            -list-devices        the same, for machines
   -cue-list SHEET      tracks of a CUE sheet     -iso-list IMAGE      tracks of an SACD image
   -cover FILE -out IMAGE [-track N]              the cover of a file
+  -analyze FILE        tempo and key
   -vol-get -dev ID     the device's own volume   -reset-device        free a device that hangs
-  Not in this engine yet: -dsd-caps -analyze -fingerprint -scan -check-ext -rig-info
+  Not in this engine yet: -dsd-caps -fingerprint -scan -check-ext -rig-info
 
 Lines on standard input
   stop | pause | resume | play | vol N | report | spectrum on|off | scope on|off
