@@ -1,8 +1,10 @@
 #include "player_core/probe/probe_table.h"
 
+#include "player_core/probe/analyze_answer.h"
 #include "player_core/probe/device_answers.h"
 #include "player_core/source/cover.h"
 #include "player_core/source/cue_list.h"
+#include "player_core/source/sacd_source.h"
 
 #include <charconv>
 
@@ -24,6 +26,14 @@ ProbeAnswer cueList(const std::vector<std::string> &args)
     return {listing.exitCode, std::move(listing.text)};
 }
 
+ProbeAnswer isoList(const std::vector<std::string> &args)
+{
+    if (args.size() < 2)
+        return {2, "-iso-list needs the path of an SACD image behind it.\n"};
+    SacdListing listing = listSacd(args[1]);
+    return {listing.exitCode, std::move(listing.text)};
+}
+
 ProbeAnswer cover(const std::vector<std::string> &args)
 {
     CoverRequest request;
@@ -40,9 +50,9 @@ ProbeAnswer cover(const std::vector<std::string> &args)
 }
 
 constexpr Probe probes[] = {
-    {"-cue-list", cueList}, {"-cover", cover},      {"-dsd-caps", notYet},
-    {"-iso-list", notYet},  {"-analyze", notYet},   {"-fingerprint", notYet},
-    {"-scan", notYet},      {"-check-ext", notYet}, {"-rig-info", notYet},
+    {"-cue-list", cueList}, {"-cover", cover},          {"-dsd-caps", notYet},
+    {"-iso-list", isoList}, {"-analyze", analyzeTrack}, {"-fingerprint", notYet},
+    {"-scan", notYet},      {"-check-ext", notYet},     {"-rig-info", notYet},
 };
 
 } // namespace

@@ -8,13 +8,14 @@ std::string helpText()
 
   KelpPlayerEngine -i FILE [options]              play a file
   KelpPlayerEngine -cue SHEET [-track N]          play a track of a CUE sheet, or the whole sheet
+  KelpPlayerEngine -iso IMAGE [-track N]          play a track of an SACD image, or the whole image
   KelpPlayerEngine -stream [options]              wait for "load" lines on standard input
   KelpPlayerEngine PROBE [operands]               answer one question and end
 
 Source
   -i FILE              WAV, W64, RF64, AIFF, FLAC, ALAC, WavPack, TTA, APE, DTS, DSF, DFF, WSD
   -cue SHEET           a CUE sheet;  -track N  one track of it
-  -iso IMAGE           an SACD image (not readable yet)
+  -iso IMAGE           an SACD image, its stereo area where it has one;  -track N  one track of it
   -start SECONDS       begin there
 
 Output
@@ -48,13 +49,15 @@ Understood, but not in this engine yet (said in one line when it would be heard)
 
 Probes
   -list                output devices            -list-devices        the same, for machines
-  -cue-list SHEET      tracks of a CUE sheet     -cover FILE -out IMAGE [-track N]
+  -cue-list SHEET      tracks of a CUE sheet     -iso-list IMAGE      tracks of an SACD image
+  -cover FILE -out IMAGE [-track N]              the cover of a file
+  -analyze FILE        tempo and key
   -vol-get -dev ID     the device's own volume   -reset-device        free a device that hangs
-  Not in this engine yet: -dsd-caps -iso-list -analyze -fingerprint -scan -check-ext -rig-info
+  Not in this engine yet: -dsd-caps -fingerprint -scan -check-ext -rig-info
 
 Lines on standard input
   stop | pause | resume | play | vol N | report | spectrum on|off | scope on|off
-  load PATH | loadat SECONDS PATH | load-cue TRACK SHEET
+  load PATH | loadat SECONDS PATH | load-cue TRACK SHEET | load-iso TRACK IMAGE
 
 Ends with 0 after a natural end, 1 when the only source could not be played, 2 for a command line that
 cannot be understood, 3 after "stop", 4 when no device could be opened or it vanished.

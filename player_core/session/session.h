@@ -79,8 +79,8 @@ private:
     // Loading (session_load.cpp).
     void loadFirst();
     void load(const LoadRequest &request);
-    /// Lets a preload of the playing sheet's own file mean the sheet's next track.
-    void followSheet(LoadRequest &request) const;
+    /// Lets a preload of the playing sheet's own file, or of an SACD image, mean the track that follows.
+    void followContainer(LoadRequest &request) const;
     LoadFacts loadFacts(const LoadRequest &request);
     std::unique_ptr<Source> open(const LoadRequest &request, std::string &error);
     DeckTrack enter(const LoadRequest &request, std::unique_ptr<Source> source);

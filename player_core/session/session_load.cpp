@@ -5,6 +5,7 @@
 #include "player_core/session/output_lines.h"
 #include "player_core/session/sheet_successor.h"
 #include "player_core/source/cue_list.h"
+#include "player_core/source/sacd_source.h"
 
 #include <algorithm>
 #include <cmath>
@@ -64,7 +65,7 @@ void Session::load(const LoadRequest &asked)
 
     const LoadAction action = planLoad(loadFacts(request));
     if (action == LoadAction::preload)
-        followSheet(request);
+        followContainer(request);
     std::string error;
     std::unique_ptr<Source> source = open(request, error);
     if (cancel_->load())
@@ -76,21 +77,28 @@ void Session::load(const LoadRequest &asked)
     begin(request, std::move(source));
 }
 
-void Session::followSheet(LoadRequest &request) const
+void Session::followContainer(LoadRequest &request) const
 {
-    const SourceRequest &playing = heardRequest_.source;
-    if (playing.cuePath.empty() || playing.track < 1 || !request.source.cuePath.empty())
+    if (!request.source.cuePath.empty() || !request.source.isoPath.empty())
         return;
+    const SourceRequest &playing = heardRequest_.source;
     const auto samePath = [](const std::string &a, const std::string &b) {
         std::error_code error;
         return a == b || std::filesystem::equivalent(a, b, error);
     };
-    const std::optional<int> next =
-        sheetSuccessor(listCue(playing.cuePath).text, playing.track, request.source.path, samePath);
-    if (!next)
-        return;
-    request.source.cuePath = playing.cuePath;
-    request.source.track = *next;
+    const std::string &path = request.source.path;
+    if (!playing.cuePath.empty() && playing.track >= 1) {
+        if (const auto next = sheetSuccessor(listCue(playing.cuePath).text, playing.track, path, samePath)) {
+            request.source.cuePath = playing.cuePath;
+            request.source.track = *next;
+            return;
+        }
+    }
+    const bool sameImage = !playing.isoPath.empty() && samePath(playing.isoPath, path);
+    if (const auto next = imageSuccessor(sacdTrackNumbers(path), sameImage, playing.track)) {
+        request.source.isoPath = path;
+        request.source.track = *next;
+    }
 }
 
 LoadFacts Session::loadFacts(const LoadRequest &request)
@@ -111,10 +119,6 @@ LoadFacts Session::loadFacts(const LoadRequest &request)
 
 std::unique_ptr<Source> Session::open(const LoadRequest &request, std::string &error)
 {
-    if (!request.source.isoPath.empty()) {
-        error = "SACD images are not readable by this engine yet";
-        return nullptr;
-    }
     SourceRequest asked = request.source;
     asked.cancelled = cancel_.get();
     asked.onScan = [this](double percent, double done, double total) {
@@ -122,6 +126,8 @@ std::unique_ptr<Source> Session::open(const LoadRequest &request, std::string &e
     };
     OpenedSource opened = services_.openSource(asked);
     error = opened.error;
+    if (opened.source && !opened.source->facts().choice.empty())
+        lines_.say(oneLine(opened.source->facts().choice));
     if (opened.source && request.startSec > 0) {
         const auto frame = std::llround(request.startSec *
                                         static_cast<double>(opened.source->facts().format.framesPerSecond()));

@@ -1,5 +1,6 @@
 #include "player_core/session/sheet_successor.h"
 
+#include <algorithm>
 #include <charconv>
 #include <vector>
 
@@ -42,6 +43,19 @@ sheetSuccessor(std::string_view listing, int track, const std::string &path,
         return std::nullopt;
     }
     return std::nullopt;
+}
+
+std::optional<int> imageSuccessor(const std::vector<int> &numbers, bool sameImage, int playing)
+{
+    if (numbers.empty())
+        return std::nullopt;
+    if (sameImage && playing >= 1) {
+        // In the disc's order, which may leave numbers out.
+        const auto present = std::find(numbers.begin(), numbers.end(), playing);
+        if (present != numbers.end() && present + 1 != numbers.end())
+            return *(present + 1);
+    }
+    return numbers.front();
 }
 
 } // namespace kelp_core

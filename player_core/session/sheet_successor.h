@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kelp_core {
 
@@ -16,5 +17,11 @@ namespace kelp_core {
 [[nodiscard]] std::optional<int>
 sheetSuccessor(std::string_view listing, int track, const std::string &path,
                const std::function<bool(const std::string &, const std::string &)> &samePath);
+
+/// The same for SACD images, whose tracks all have the image's path. `numbers` are those of the image that
+/// was handed over, sameImage whether it is the one that plays, playing its track (below 1: all of it). The
+/// next track of that image; behind its last one, and for another image, the first. Nothing when there is no
+/// track.
+[[nodiscard]] std::optional<int> imageSuccessor(const std::vector<int> &numbers, bool sameImage, int playing);
 
 } // namespace kelp_core

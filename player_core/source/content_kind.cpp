@@ -1,5 +1,7 @@
 #include "player_core/source/content_kind.h"
 
+#include "player_core/source/sacd_sectors.h"
+
 #include <algorithm>
 #include <array>
 #include <cstring>
@@ -119,6 +121,12 @@ ContentKind detectContent(ByteInput &input)
             kind.name = magic.name;
             return kind;
         }
+    }
+    if (SacdSectors::detect(input) != 0) {
+        kind.reader = ContentReader::sacd;
+        kind.word = "dsd";
+        kind.name = "SACD image";
+        return kind;
     }
     const std::string name = foreignName(head);
     kind.refusal = name.empty() ? "this is not a kind of audio file that this player knows"

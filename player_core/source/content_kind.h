@@ -15,6 +15,7 @@ enum class ContentReader
     dsf,
     dff,
     wsd,
+    sacd, ///< an image of a disc
 };
 
 /// What a file's first bytes say it is.

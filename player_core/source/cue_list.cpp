@@ -2,33 +2,14 @@
 
 #include "player_core/source/cue_files.h"
 #include "player_core/source/cue_source.h"
+#include "player_core/source/listing_text.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <map>
 
 namespace kelp_core {
 namespace {
-
-/// A text as a field of a line: a tab or line end in it would break the line.
-std::string field(const std::string &text)
-{
-    std::string out = text;
-    for (char &letter : out) {
-        if (letter == '\t' || letter == '\n' || letter == '\r')
-            letter = ' ';
-    }
-    return out;
-}
-
-std::string seconds(int64_t microseconds)
-{
-    char text[40];
-    std::snprintf(text, sizeof text, "%lld.%06lld", static_cast<long long>(microseconds / 1000000),
-                  static_cast<long long>(microseconds % 1000000));
-    return text;
-}
 
 int64_t cueMicroseconds(int64_t cueFrames)
 {
@@ -62,7 +43,7 @@ CueListing listTracks(const std::string &cuePath)
         if (!lengths.contains(span.file)) {
             lengths[span.file] = fileMicroseconds(folder, sheet->files[span.file], error);
             if (lengths[span.file] < 0)
-                warnings += "WARN " + field(error) + "\n";
+                warnings += "WARN " + listingField(error) + "\n";
         }
         const int64_t length = lengths[span.file];
         const int64_t start = cueMicroseconds(span.startFrames);
@@ -71,12 +52,14 @@ CueListing listTracks(const std::string &cuePath)
         int64_t end = span.endFrames < 0 ? length : cueMicroseconds(span.endFrames);
         end = std::min(end, length);
         const std::string path = findCueAudio(folder, sheet->files[span.file]);
-        tracks += "TRACK\t" + std::to_string(span.number) + "\t" + seconds(start) + "\t" + seconds(end) +
-                  "\t" + field(span.title) + "\t" + field(span.performer) + "\t" + field(path) + "\n";
+        tracks += "TRACK\t" + std::to_string(span.number) + "\t" + listingSeconds(start) + "\t" +
+                  listingSeconds(end) + "\t" + listingField(span.title) + "\t" +
+                  listingField(span.performer) + "\t" + listingField(path) + "\n";
     }
     if (tracks.empty())
         return {warnings + "no track of this CUE sheet can be played\n", 1};
-    listing.text = "CUE\t" + field(sheet->title) + "\t" + field(sheet->performer) + "\n" + warnings + tracks;
+    listing.text = "CUE\t" + listingField(sheet->title) + "\t" + listingField(sheet->performer) + "\n" +
+                   warnings + tracks;
     return listing;
 }
 

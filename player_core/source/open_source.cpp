@@ -6,6 +6,7 @@
 #include "player_core/source/file_input.h"
 #include "player_core/source/open_file.h"
 #include "player_core/source/pcm_source.h"
+#include "player_core/source/sacd_source.h"
 
 #include <exception>
 
@@ -60,6 +61,12 @@ OpenedSource openAudioFile(const std::string &path, const SourceRequest &request
         return openDsdFile(std::move(file), parseDff);
     case ContentReader::wsd:
         return openDsdFile(std::move(file), parseWsd);
+    case ContentReader::sacd: {
+        SourceRequest whole = request;
+        whole.isoPath = path;
+        whole.track = 0;
+        return openSacd(whole);
+    }
     case ContentReader::none:
         break;
     }
@@ -70,7 +77,7 @@ OpenedSource openSource(const SourceRequest &request)
 {
     try {
         if (!request.isoPath.empty())
-            return {nullptr, "SACD images are not read by this engine"};
+            return openSacd(request);
         if (!request.cuePath.empty())
             return openCue(request);
         return openAudioFile(request.path, request);

@@ -23,6 +23,8 @@ struct SourceFacts
     bool dst = false;         ///< DSD that was packed by Direct Stream Transfer
     int64_t totalFrames = -1; ///< frames of this track (of the CUE track, not of its file); -1 when not known
     int64_t firstFrame = 0;   ///< where the track begins within its file
+    std::string
+        choice; ///< a sentence for the listener on what was chosen where a file holds several recordings
 };
 
 enum class ReadStatus

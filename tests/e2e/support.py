@@ -205,11 +205,13 @@ class EngineSession:
         return self.wait_for(lambda: len(self.matching(start)) >= count and self.matching(start)[-1], seconds, f"line {count} of {start!r}")
 
     def wait_position(self, seconds):
-        """Waits until the playing track has come so far."""
+        """Waits until the track that began last has come so far."""
         def there():
             for line in reversed(self.lines):
                 if line.startswith("PG "):
                     return float(line.split()[2]) >= seconds
+                if line.startswith("SRC "):
+                    return False
             return False
         self.wait_for(there, seconds + 20, f"position {seconds} s")
 

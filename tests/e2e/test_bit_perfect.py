@@ -55,16 +55,65 @@ class BitPerfect(unittest.TestCase):
             run = stage.engine("-i", path, "-dev", "cap", "-dop", "force")
             self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
             self.assertIn("176400", run.stdout)
-            got = read_bytes(captured)
-            frames = self.dop_frames(got)
-            dsd = b"".join(bytes((left >> 8 & 255, right >> 8 & 255, left & 255, right & 255)) for left, right in frames)
-            expected = read_bytes(raw)
-            expected = expected[:len(expected) - len(expected) % 4]
+            self.assert_dsd_at_device(read_bytes(captured), read_bytes(raw))
+
+    def test_dop_gives_back_the_bits_of_a_disc_image_in_every_form(self):
+        forms = [dict(coding="plain14"), dict(coding="plain16", sector=2064), dict(coding="dststored", sector=2064),
+                 dict(coding="dst", areas="both")]
+        for form in forms:
+            with self.subTest(**form), Stage() as stage:
+                captured = stage.alsa_capture()
+                path, raw = stage.make("iso", "disc.iso", tracks=3, seconds=0.4, **form)
+                run = stage.engine("-iso", path, "-track", "2", "-dev", "cap", "-dop", "force")
+                self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+                expected = read_bytes(raw)
+                third = len(expected) // 3
+                self.assert_dsd_at_device(read_bytes(captured), expected[third:2 * third])
+
+    def test_native_dsd_gives_back_the_bits_of_a_disc_image(self):
+        with Stage() as stage:
+            captured = stage.alsa_capture()
+            path, raw = stage.make("iso", "disc.iso", tracks=2, seconds=1, signal="noise")
+            run = stage.engine("-iso", path, "-dev", "cap", "-dop", "native")
+            self.assertEqual(run.returncode, 0, run.stdout + run.stderr)
+            got, expected = read_bytes(captured), read_bytes(raw)
+            # Groups of four bytes a channel against single ones; the device's choice stands in the OPENED line.
+            self.assertIn("DSD_U32_BE, 2 channels, native DSD", run.stdout)
+            dsd = b"".join(bytes((g[0], g[4], g[1], g[5], g[2], g[6], g[3], g[7])) for g in
+                           (got[at:at + 8] for at in range(0, len(got) - 7, 8)))
             at = dsd.find(expected[:4000])
-            self.assertGreaterEqual(at, 0, "the DSD bits of the file were not found at the device")
+            self.assertGreaterEqual(at, 0, "the DSD bits of the image were not found at the device")
             self.assertEqual(dsd[at:at + len(expected)], expected)
-            self.assertFalse(dsd[:at].strip(b"\x69"), "only the silence pattern may stand before the track")
-            self.assertFalse(dsd[at + len(expected):].strip(b"\x69"), "only the silence pattern may follow the track")
+
+    def test_tracks_of_a_disc_image_join_without_a_bit_too_many_or_too_few(self):
+        for form in (dict(coding="plain14"), dict(coding="dst", sector=2064)):
+            with self.subTest(**form), Stage() as stage:
+                captured = stage.alsa_capture()
+                path, raw = stage.make("iso", "disc.iso", tracks=3, seconds=2, **form)
+                session = support.EngineSession(stage, "-dev", "cap", "-dop", "force", "-gapless", "on",
+                                                KELP_ENGINE_PACE="realtime")
+                session.send("load-iso 1 " + path)
+                for track in (2, 3):
+                    session.wait_line("SRC ", count=track - 1)
+                    session.wait_position(1.0)
+                    session.send("load " + path)
+                    session.wait_line("SRC ", count=track)
+                session.wait_line("DONE", count=1, seconds=20)
+                session.stop()
+                self.assertEqual([line.split()[-1] for line in session.matching("SRC ")], ["2.000"] * 3)
+                self.assertFalse(session.matching("preload dropped"))
+                self.assert_dsd_at_device(read_bytes(captured), read_bytes(raw))
+
+    def assert_dsd_at_device(self, captured, expected):
+        """The bits of a DoP capture are the expected ones, with nothing but silence around them."""
+        dsd = b"".join(bytes((left >> 8 & 255, right >> 8 & 255, left & 255, right & 255))
+                       for left, right in self.dop_frames(captured))
+        expected = expected[:len(expected) - len(expected) % 4]
+        at = dsd.find(expected[:4000])
+        self.assertGreaterEqual(at, 0, "the DSD bits were not found at the device")
+        self.assertEqual(dsd[at:at + len(expected)], expected)
+        self.assertFalse(dsd[:at].strip(b"\x69"), "only the silence pattern may stand before the track")
+        self.assertFalse(dsd[at + len(expected):].strip(b"\x69"), "only the silence pattern may follow the track")
 
     def dop_frames(self, captured):
         """The 16-bit payloads of both channels; the markers are checked on the way."""

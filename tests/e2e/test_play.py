@@ -53,6 +53,24 @@ class Play(unittest.TestCase):
             log = self.play_to_the_end(stage, sheet, 0, finished=2)
             self.assertIn("load-cue 2 ", log)
 
+    def test_a_disc_image_plays_its_tracks(self):
+        with Stage() as stage:
+            image, _ = stage.make("iso", "disc.iso", tracks=2, seconds=1, charset=3, title="管弦楽", track="第一楽章", areas="both",
+                                  coding="dststored")
+            log = self.play_to_the_end(stage, image, 1)
+            self.assertIn("SACD ISO: disc.iso — 2 track(s)", log)
+            self.assertIn("The SACD image holds a stereo area and a multichannel area of 6 channels, so the stereo area is "
+                          "played.", log)
+            self.assertIn("Auto-advanced (seamless/crossfade): track 2/2: 02. 第一楽章 2", log)
+            # Both tracks, each of one second, and not the image as a whole behind the first.
+            self.assertEqual(re.findall(r"^SRC 2822400 1 2 dsd 1 ([0-9.]+)", log, re.M), ["1.000", "1.000"])
+
+            settings = os.path.join(stage.folder("settings/KELP"), "KelpPlayer.ini")
+            with open(settings, "w", encoding="utf-8") as file:
+                file.write("[param]\ngapless=false\n")
+            log = self.play_to_the_end(stage, image, 0, finished=2)
+            self.assertIn("load-iso 2 ", log)
+
     def test_names_that_are_hard_to_pass_on(self):
         names = ["blank and 'quotes\" 海带 قائمة 🎧.flac", "-dash.flac", "http:colon.flac", " leading.flac"]
         with Stage() as stage:

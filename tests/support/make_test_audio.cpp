@@ -5,6 +5,7 @@
 #include "tests/support/dsd_file_maker.h"
 #include "tests/support/id3_maker.h"
 #include "tests/support/packed_maker.h"
+#include "tests/support/sacd_maker.h"
 #include "tests/support/wav_maker.h"
 
 #include <algorithm>
@@ -23,13 +24,16 @@ using Values = std::map<std::string, std::string>;
 
 constexpr const char *usage =
     "usage: make_test_audio KIND OUT [key=value ...]\n"
-    "  KIND  wav wavx rf64 w64 aiff aifc flac m4a wv tta dts dsf dff dst dststored wsd cue\n"
+    "  KIND  wav wavx rf64 w64 aiff aifc flac m4a wv tta dts dsf dff dst dststored wsd cue iso\n"
     "  rate=44100 (DSD: 2822400)  bits=16 (8 ... 32; f32, f64: float)  channels=2  seconds=1  frames=N  "
     "seed=1\n"
     "  signal=ramp|sine|sweep|noise|silence   ramp: every frame differs from its neighbours\n"
     "  title=... artist=... album=...   cover=yes   raw=FILE: the bare samples, interleaved, lowest byte "
     "first\n"
-    "  cue: file=NAME  tracks=3  seconds=1 (of each track)  performer=...\n";
+    "  cue: file=NAME  tracks=3  seconds=1 (of each track)  performer=...\n"
+    "  iso: sector=2048|2064  coding=plain14|plain16|dst|dststored  areas=stereo|multi|both  tracks=3\n"
+    "    seconds=1 (of each track)  charset=1 ... 7  title=...  track=... (of all titles; a number follows)\n"
+    "    fuzzseed=FILE: the same as an input of the fuzz target sacd_image\n";
 
 std::string text(const Values &values, const char *key, const char *otherwise)
 {
@@ -130,6 +134,57 @@ std::vector<uint8_t> plainBytes(const std::string &kind, const Values &values, s
     return aiffBytes(signal, kind == "aifc", id3);
 }
 
+/// The sectors that are not empty, each as its number, its length in lines of 16 bytes, and its bytes.
+std::vector<uint8_t> fuzzSeed(const SacdImageMade &image)
+{
+    constexpr size_t sectorBytes = 2048, lineBytes = 16;
+    ByteWriter out;
+    const auto sectors = static_cast<int>(image.bytes.size() / static_cast<size_t>(image.sectorBytes));
+    for (int sector = 0; sector < sectors; ++sector) {
+        const auto begin = image.bytes.begin() + static_cast<std::ptrdiff_t>(image.at(sector));
+        std::vector<uint8_t> bytes(begin, begin + sectorBytes);
+        while (!bytes.empty() && bytes.back() == 0)
+            bytes.pop_back();
+        if (bytes.empty())
+            continue;
+        bytes.resize((bytes.size() + lineBytes - 1) / lineBytes * lineBytes);
+        out.big(static_cast<uint64_t>(sector), 2).big(bytes.size() / lineBytes, 1).append(bytes);
+    }
+    return out.bytes;
+}
+
+/// An SACD image; raw gets the samples of the area that a player plays.
+std::vector<uint8_t> isoBytes(const Values &values, std::vector<uint8_t> &raw)
+{
+    static const std::map<std::string, SacdForm> forms{{"plain14", SacdForm::plain14},
+                                                       {"plain16", SacdForm::plain16},
+                                                       {"dst", SacdForm::dstCoded},
+                                                       {"dststored", SacdForm::dstStored}};
+    const auto form = forms.find(text(values, "coding", "plain14"));
+    SignalShape shape = SignalShape::sine;
+    shapeOfWord(text(values, "signal", "sine"), shape);
+    const std::string areas = text(values, "areas", "stereo");
+    const auto seed = static_cast<uint32_t>(whole(values, "seed", 1));
+    SacdRecipe recipe;
+    recipe.sectorBytes = whole(values, "sector", 2048);
+    recipe.characterSet = whole(values, "charset", 2);
+    recipe.title = text(values, "title", "Album");
+    const auto add = [&](int channels, uint32_t areaSeed) {
+        recipe.areas.push_back(plainArea(form == forms.end() ? SacdForm::plain14 : form->second,
+                                         whole(values, "tracks", 3), static_cast<int>(frameCount(values, 75)),
+                                         channels, areaSeed, shape, text(values, "track", "Track")));
+    };
+    if (areas != "multi")
+        add(2, seed);
+    if (areas != "stereo")
+        add(whole(values, "channels", 6), seed + 1);
+    raw = recipe.areas.front().signal.bytes;
+    const SacdImageMade image = makeSacd(recipe);
+    if (values.contains("fuzzseed"))
+        writeFile(values.at("fuzzseed"), fuzzSeed(image));
+    return image.bytes;
+}
+
 /// Writes the file of a kind. "" or what failed.
 std::string make(const std::string &kind, const std::string &path, const Values &values)
 {
@@ -143,6 +198,8 @@ std::string make(const std::string &kind, const std::string &path, const Values 
                                  .performer = text(values, "performer", "Performer"),
                                  .tracks = whole(values, "tracks", 3),
                                  .trackCdFrames = static_cast<int>(frameCount(values, 75))}));
+    } else if (kind == "iso") {
+        writeFile(path, isoBytes(values, raw));
     } else if (std::find(packedKinds.begin(), packedKinds.end(), kind) != packedKinds.end()) {
         const PcmSignal signal = pcmOf(values);
         if (std::string error = writePacked(kind, path, signal, tagsOf(values)); !error.empty())

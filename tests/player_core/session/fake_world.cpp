@@ -209,7 +209,9 @@ SessionServices FakeWorld::services()
     SessionServices services;
     services.openSource = [this](const SourceRequest &request) {
         OpenedSource opened;
-        const auto it = tracks.find(request.path.empty() ? request.cuePath : request.path);
+        const auto it = tracks.find(!request.isoPath.empty()   ? request.isoPath
+                                    : !request.cuePath.empty() ? request.cuePath
+                                                               : request.path);
         if (it == tracks.end())
             opened.error = "cannot open: no such file";
         else

@@ -280,7 +280,7 @@ TEST(SessionTest, AStreamSessionSurvivesAFailure)
     world.send("load /missing.wav");
     EXPECT_EQ(world.waitLine("FAILED "), "FAILED cannot open: no such file: /missing.wav");
     world.send("load-iso 3 /disc.iso");
-    EXPECT_EQ(world.waitLine("FAILED "), "FAILED SACD images are not readable by this engine yet: /disc.iso");
+    EXPECT_EQ(world.waitLine("FAILED "), "FAILED cannot open: no such file: /disc.iso");
     world.send("load /a.wav");
     EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
     world.send("stop");

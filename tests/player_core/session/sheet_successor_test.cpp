@@ -44,5 +44,27 @@ TEST(SheetSuccessor, AnErrorTextListsNothing)
     EXPECT_EQ(sheetSuccessor("", 1, "/a/album.flac", same), std::nullopt);
 }
 
+TEST(ImageSuccessor, TheSameImageMeansItsNextTrack)
+{
+    EXPECT_EQ(imageSuccessor({1, 2, 3}, true, 1), 2);
+    EXPECT_EQ(imageSuccessor({12, 14}, true, 12), 14);
+}
+
+TEST(ImageSuccessor, BehindTheLastTrackItBeginsAnew)
+{
+    EXPECT_EQ(imageSuccessor({1, 2, 3}, true, 3), 1);
+}
+
+TEST(ImageSuccessor, AnotherImageBeginsWithItsFirstTrack)
+{
+    EXPECT_EQ(imageSuccessor({5, 6}, false, 5), 5);
+    EXPECT_EQ(imageSuccessor({5, 6}, true, 0), 5);
+}
+
+TEST(ImageSuccessor, WhatIsNoImageHasNone)
+{
+    EXPECT_EQ(imageSuccessor({}, true, 1), std::nullopt);
+}
+
 } // namespace
 } // namespace kelp_core

@@ -1,0 +1,1 @@
+kelp_fuzz(sacd_image SOURCES fuzz_sacd_image.cpp LINK core_source)
