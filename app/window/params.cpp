@@ -91,6 +91,8 @@ void PlayerGuiWindow::loadParams()
     restoreCombo(file, settings::engineSrcQuality.key, engine.resampleQuality);
     engine.refreshDependents();
 
+    m_transport.order.order = orderAxisOf(params.orderAxis);
+    m_transport.order.repeat = repeatAxisOf(params.repeatAxis);
     m_start.resumeFile = readSetting(store, settings::resumePath);
     m_start.resumePosSec = std::max(0., readSetting(store, settings::resumeSec));
     m_start.resumeEnabled = !m_start.resumeFile.isEmpty();
@@ -129,7 +131,11 @@ void PlayerGuiWindow::saveParams()
     params.pcmToDsdTaps = engine.pcmToDsdTaps->currentData().toInt();
     params.crossoverHz = engine.crossoverHz->value();
     params.crossoverBridged = engine.crossoverBridged->isChecked();
-    params.volume = m_ui.dock->volume->value();
+    params.orderAxis = static_cast<int>(m_transport.order.order);
+    params.repeatAxis = static_cast<int>(chosenRepeat());
+    // A volume that is just fading out was not chosen.
+    const int faded = m_transport.sleep.volumeBefore;
+    params.volume = faded >= 0 ? faded : m_ui.dock->volume->value();
     params.resample = engine.resample->isChecked();
     params.streamRead = engine.streamingRead->isChecked();
     ::saveParams(params, store);

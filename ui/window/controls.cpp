@@ -44,10 +44,8 @@ void PlayerGuiWindow::connectControls()
         if (sessionRuns() && sendCmd(on ? u"guard on"_s : u"guard off"_s))
             m_start.sessionGuard = on;
     });
-    connect(m_ui.engine->speedRatio, &QDoubleSpinBox::valueChanged, this, [this](double ratio) {
-        if (sessionRuns())
-            sendCmd(u"speed "_s + QString::number(ratio, 'f', 2));
-    });
+    connect(m_ui.engine->speedRatio, &QDoubleSpinBox::valueChanged, this,
+            [this](double ratio) { setSpeed(ratio); });
     for (QComboBox *combo : m_devices.deviceCombos) {
         connect(combo, &QComboBox::currentIndexChanged, this, [this] {
             if (!m_devices.populatingDevices)

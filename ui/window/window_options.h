@@ -4,6 +4,7 @@
 
 #include "engine/engine_probe.h"
 #include "engine/session_factory.h"
+#include "playback/transport_times.h"
 
 #include <functional>
 #include <memory>
@@ -19,5 +20,6 @@ struct WindowOptions
 
     MakeSession makeSession = &::makeSession;
     Probe probe = &runEngineProbe; ///< called on any thread
+    TransportTimes times;
     bool asksBeforeClosing = true; ///< false while a hook is armed that ends the program
 };
