@@ -42,6 +42,7 @@ void WindowTest::makeWindow()
 {
     WindowOptions options;
     options.asksBeforeClosing = m_asksBeforeClosing;
+    options.times = m_times;
     options.makeSession = [this](QObject *, const SessionOptions &) {
         return std::make_unique<FakeSession>(m_engine);
     };
