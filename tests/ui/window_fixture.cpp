@@ -46,6 +46,8 @@ void WindowTest::makeWindow()
     options.makeSession = [this](QObject *, const SessionOptions &) {
         return std::make_unique<FakeSession>(m_engine);
     };
+    if (m_makeSession)
+        options.makeSession = m_makeSession;
     auto first = std::make_shared<std::atomic<bool>>(true);
     options.probe = [first, text = m_deviceList, probe = m_probe](const QString &playerBin,
                                                                   const QStringList &args, int timeoutMs,

@@ -53,6 +53,7 @@ protected:
     };
     bool m_asksBeforeClosing = false;
     TransportTimes m_times;
+    WindowOptions::MakeSession m_makeSession; ///< empty: a fake one
     std::unique_ptr<PlayerGuiWindow> m_window;
     QString m_log;
 };

@@ -20,6 +20,6 @@ struct WindowOptions
 
     MakeSession makeSession = &::makeSession;
     Probe probe = &runEngineProbe; ///< called on any thread
-    TransportTimes times;
+    TransportTimes times = {};
     bool asksBeforeClosing = true; ///< false while a hook is armed that ends the program
 };
