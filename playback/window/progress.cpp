@@ -36,7 +36,8 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
     if (m_preload.pending && m_preload.row >= 0 &&
-        preloadTaken({m_preload.positionSec, m_preload.totalSec, progress.positionSec, progress.totalSec}))
+        preloadTaken({m_preload.positionSec, m_preload.totalSec, m_progress.lastPosSec, progress.positionSec,
+                      progress.totalSec}))
         autoAdvanceTaken();
     m_progress.lastPosSec = progress.positionSec;
     updateProgress(progress.percent, progress.positionSec, progress.totalSec);

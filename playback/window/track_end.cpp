@@ -7,6 +7,7 @@
 #include "playback/end_verdict.h"
 #include "playback/no_audio_report.h"
 #include "playback/playlist_widget.h"
+#include "playback/preload.h"
 
 #include <QDateTime>
 
@@ -95,12 +96,15 @@ void PlayerGuiWindow::retryWithoutExclusive()
     QTimer::singleShot(0, this, &PlayerGuiWindow::playCurrent);
 }
 
-void PlayerGuiWindow::onDoneLine()
+void PlayerGuiWindow::onDoneLine(const QString &file)
 {
     if (m_preload.pending) {
+        const bool nextHasEndedToo =
+            isOfPreloadedTrack(file, m_ui.playlist->entryAt(m_start.currentRow).path, m_preload.path);
         logLine(tr("播放完成"));
         autoAdvanceTaken();
-        return;
+        if (!nextHasEndedToo)
+            return;
     }
     closeFinishedTrack();
     if (m_start.userStopped || m_start.sessionClosing) {

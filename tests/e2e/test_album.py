@@ -85,7 +85,7 @@ class Album(unittest.TestCase):
                         windows.append(window)
             for window in windows:
                 with self.subTest(window.name):
-                    window.wait_log("播放列表结束（", 120)
+                    window.wait_log("播放列表结束（", 60)
                     self.check_album(window, tracks)
                     window.wait_state(playing=0, runs=1)
             for window in windows:
@@ -105,7 +105,6 @@ class Album(unittest.TestCase):
             self.assertIn("播放列表结束（顺序 · 不循环）", log)
         else:
             self.assertIn("播放列表结束（随机 · 不循环）", log)
-        self.assertEqual(log.count("播放完成") + len(rows) >= 9, True, "each decision is in the log")
         if window.manner == "separate":
             self.assertEqual(rows, [])
             self.assertEqual(log.count("播放完成"), 10)
@@ -129,7 +128,7 @@ class Album(unittest.TestCase):
                 runs.append((window, captured))
             for window, captured in runs:
                 with self.subTest(window.name):
-                    window.wait_log("播放列表结束（", 120)
+                    window.wait_log("播放列表结束（", 60)
                     window.quit()
                     self.one_session(window.log())
                     got = without_silence(read_bytes(captured), 4)

@@ -318,6 +318,30 @@ TEST_P(Preloading, DoneWithAPreloadGoesOnWithoutALoad)
     EXPECT_TRUE(start().uiPlaying);
 }
 
+TEST_P(Preloading, TracksOfTwoSecondsFollowEachOther)
+{
+    m_window->startPlayback(0);
+    takeLines();
+    for (int row = 0; row < 2; ++row) {
+        say(u"PG 30 0.6 2"_s);
+        EXPECT_EQ(takeLines(), QStringList{load(row + 1)});
+        say(u"PG 95 1.9 2"_s);
+        say(u"PG 2 0.05 2"_s);
+        EXPECT_EQ(start().currentRow, row + 1);
+    }
+}
+
+TEST_P(Preloading, ATrackTooShortToBeNoticedIsFollowedAtItsEnd)
+{
+    m_window->startPlayback(0);
+    say(u"PG 30 0.2 0.6"_s);
+    takeLines();
+    say(u"PG 40 0.25 0.6"_s);
+    say(u"DONE "_s + fileAt(1));
+    EXPECT_EQ(start().currentRow, 2) << "the second has ended as well";
+    EXPECT_EQ(takeLines(), QStringList{load(2)}) << "the engine does not wait for ever";
+}
+
 TEST_P(Preloading, AStopBetweenHandOverAndChangeStaysAStop)
 {
     m_engine.endsOnStop = false;

@@ -200,7 +200,7 @@ private:
 
     void onEngineDone(int exitCode, bool crashed, int startIndex);
     void retryWithoutExclusive();
-    void onDoneLine();
+    void onDoneLine(const QString &file);
     void trackFinished();
     bool advanceRow();
     int peekNextRow() const;
