@@ -130,6 +130,7 @@ struct ChangeSegment
 /// The track has ended and the engine stays up.
 struct FinishTrack
 {
+    QString file; ///< as the engine names it
 };
 /// A device opened: what was known of a busy or missing one is void.
 struct ForgetDeviceTrouble

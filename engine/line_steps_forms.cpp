@@ -155,7 +155,7 @@ Next readDone(Reading &line)
 {
     if (!line.text.startsWith("DONE "_L1))
         return Next::Continue;
-    line.add(line_effect::FinishTrack{});
+    line.add(line_effect::FinishTrack{line.text.mid("DONE "_L1.size())});
     return Next::End;
 }
 

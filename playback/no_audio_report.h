@@ -4,8 +4,6 @@
 
 #include <QString>
 
-inline constexpr int noAudioAfterMs = 5000;
-
 struct NoAudioReport
 {
     QString text;

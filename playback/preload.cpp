@@ -1,6 +1,8 @@
 #include "playback/preload.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -67,9 +69,18 @@ QString preloadAnnouncement(const PreloadPlan &plan, double crossfadeSec, const 
 
 bool preloadTaken(const PreloadTakenFacts &facts)
 {
-    const bool ranBackward = facts.posAtPreloadSec > 1. && facts.posAtPreloadSec > facts.positionSec + 1.;
+    const double reachedSec = std::max(facts.posAtPreloadSec, facts.lastPositionSec);
+    const bool ranBackward = reachedSec > 1. && reachedSec > facts.positionSec + 1.;
     const bool totalChanged = facts.totalSec > 0.5 && facts.totalAtPreloadSec > 0.5 &&
                               std::abs(facts.totalSec - facts.totalAtPreloadSec) > 0.5 &&
                               facts.positionSec < 5.;
     return ranBackward || totalChanged;
+}
+
+bool isOfPreloadedTrack(const QString &doneFile, const QString &currentPath, const QString &preloadedPath)
+{
+    const auto names = [&doneFile](const QString &path) {
+        return !path.isEmpty() && (doneFile == path || doneFile == QFileInfo(path).fileName());
+    };
+    return names(preloadedPath) && !names(currentPath);
 }

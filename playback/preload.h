@@ -37,8 +37,16 @@ struct PreloadTakenFacts
 {
     double posAtPreloadSec = 0.;
     double totalAtPreloadSec = 0.;
+    double lastPositionSec = 0.; ///< reported before this one; a track of two seconds is handed over so early
+                                 ///< that only its last position tells that the next one begins
     double positionSec = 0.;
     double totalSec = 0.;
 };
 /// The position has run backward, or the total has changed at the beginning of a track.
 bool preloadTaken(const PreloadTakenFacts &facts);
+
+/// Whether a track's end is the end of the preloaded one, whose beginning went unnoticed: it was too short.
+/// \param doneFile      the ended track as the engine names it, with or without its folder
+/// \param currentPath   of the track that plays as far as we know
+/// \param preloadedPath of the one handed over
+bool isOfPreloadedTrack(const QString &doneFile, const QString &currentPath, const QString &preloadedPath);

@@ -9,11 +9,6 @@ bool inList(int row, int count)
 
 } // namespace
 
-std::optional<int> rowAfter(int row, int count)
-{
-    return steppedRow(row, 1, row < 0 ? 0 : count);
-}
-
 int settleStartRow(const StartRowFacts &facts)
 {
     int row = facts.currentRow;

@@ -1,11 +1,8 @@
 /// \file
-/// Arithmetic on row numbers: which row is next, and where a row has gone.
+/// Arithmetic on row numbers: where a start or a step by hand leads.
 #pragma once
 
 #include <optional>
-
-/// The row after row in a list of count rows; none at the end of the list.
-std::optional<int> rowAfter(int row, int count);
 
 /// Which row startPlayback settles on.
 struct StartRowFacts

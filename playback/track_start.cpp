@@ -71,6 +71,11 @@ TrackStartPlan planTrackStart(const TrackStartFacts &facts)
     return plan;
 }
 
+bool tracksResume(const PlaylistEntry &entry)
+{
+    return !entry.path.isEmpty() && !entry.isContainerTrack();
+}
+
 QString resumeAnnouncement(double startSec)
 {
     const int sec = static_cast<int>(startSec);

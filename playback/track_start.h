@@ -56,6 +56,9 @@ struct TrackStartPlan
 
 TrackStartPlan planTrackStart(const TrackStartFacts &facts);
 
+/// Whether the position inside this row is remembered: only a plain file can be entered in its middle.
+bool tracksResume(const PlaylistEntry &entry);
+
 /// "Resuming at 1:05 (where it stopped last time)", translated.
 QString resumeAnnouncement(double startSec);
 /// The sentence for an engine that does not end in time, translated.

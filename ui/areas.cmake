@@ -22,6 +22,8 @@ target_sources(ui_parts PRIVATE
     progress_dial.h
     setup_dialog.cpp
     setup_dialog.h
+    sleep_controls.cpp
+    sleep_controls.h
     stage.cpp
     stage.h
     title_bar.cpp

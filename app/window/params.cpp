@@ -94,9 +94,10 @@ void PlayerGuiWindow::loadParams()
                   choices.resampleQuality);
     choices = withinRanges(choices);
     // What is restored was not chosen now: a running session is told nothing.
-    if (m_ui.engine)
-        m_ui.engine->showChoices(choices);
+    showChoices();
 
+    m_transport.order.order = orderAxisOf(params.orderAxis);
+    m_transport.order.repeat = repeatAxisOf(params.repeatAxis);
     m_start.resumeFile = readSetting(store, settings::resumePath);
     m_start.resumePosSec = std::max(0., readSetting(store, settings::resumeSec));
     m_start.resumeEnabled = !m_start.resumeFile.isEmpty();
@@ -133,7 +134,11 @@ void PlayerGuiWindow::saveParams()
     params.pcmToDsdTaps = choices.pcmToDsdTaps;
     params.crossoverHz = choices.crossoverHz;
     params.crossoverBridged = choices.crossoverBridged;
-    params.volume = m_ui.dock->volume->value();
+    params.orderAxis = static_cast<int>(m_transport.order.order);
+    params.repeatAxis = static_cast<int>(chosenRepeat());
+    // A volume that is just fading out was not chosen.
+    const int faded = m_transport.sleep.volumeBefore;
+    params.volume = faded >= 0 ? faded : m_ui.dock->volume->value();
     params.resample = choices.resample;
     params.streamRead = choices.streamingRead;
     ::saveParams(params, store);

@@ -2,7 +2,6 @@
 #include "ui/window/player_gui_window.h"
 
 #include "engine/control_report.h"
-#include "playback/no_audio_report.h"
 
 #include <QElapsedTimer>
 
@@ -41,5 +40,5 @@ void PlayerGuiWindow::startNoAudioTimer()
         m_link.noAudioTimer->setSingleShot(true);
         connect(m_link.noAudioTimer, &QTimer::timeout, this, &PlayerGuiWindow::noAudioWatchdog);
     }
-    m_link.noAudioTimer->start(noAudioAfterMs);
+    m_link.noAudioTimer->start(m_options.times.noAudio);
 }

@@ -163,11 +163,11 @@ void LineActions::operator()(const ChangeSegment &effect) const
     window.segmentChanged(effect.number);
 }
 
-void LineActions::operator()(const FinishTrack &) const
+void LineActions::operator()(const FinishTrack &effect) const
 {
     // What the ended track still has in the mailbox must not be taken for news of the next one.
     window.drainMailbox();
-    window.onDoneLine();
+    window.onDoneLine(effect.file);
 }
 
 void LineActions::operator()(const ForgetDeviceTrouble &) const

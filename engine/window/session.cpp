@@ -15,7 +15,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int pollIntervalMs = 50;
-constexpr int oldSessionWaitMs = 2000;
 constexpr int lagTestAfterMs = 1500;
 constexpr int lagTestMs = 600;
 
@@ -37,7 +36,7 @@ bool PlayerGuiWindow::sessionRuns() const
 void PlayerGuiWindow::ensureSession()
 {
     if (m_link.session && m_link.session->isInProcess() &&
-        m_link.session->stop(oldSessionWaitMs) == session_code::timedOut) {
+        m_link.session->stop(m_options.times.replace) == session_code::timedOut) {
         logLine(tr("上一个进程内会话 2 秒内没有收尾 —— 本进程可能仍占着独占设备，下一首可能打不开它"), true);
     }
     m_link.session.reset();

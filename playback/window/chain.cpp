@@ -1,7 +1,6 @@
 // The signal chain: its panel, its report, and the self-check.
 #include "ui/window/player_gui_window.h"
 
-#include "output/engine_controls.h"
 #include "playback/chain_panel.h"
 #include "playback/chain_report_text.h"
 #include "playback/playlist_widget.h"
@@ -176,11 +175,15 @@ void PlayerGuiWindow::restorePureDefaults()
     resetEffects();
     for (const QLatin1StringView line : pureEffectLines)
         sendCmd(line);
-    m_ui.engine->speedRatio->setValue(1.0);
-    m_ui.engine->crossfadeSec->setValue(m_ui.engine->crossfadeSec->minimum());
-    m_ui.engine->replayGain->setCurrentIndex(0);
+    setSpeed(1.0);
+    EngineChoices choices = m_choices;
+    choices.crossfadeSec = 0.;
+    choices.replayGainMode = 0;
+    applyChoices(choices);
     m_ui.dock->volume->setValue(100);
-    m_ui.engine->layoutChoice->setCurrentIndex(0);
+    choices.channelCount = EngineChoices().channelCount;
+    applyChoices(choices);
+    showChoices();
     setThemeIndex(0);
     startBitPerfectCheck();
     logLine(

@@ -5,7 +5,7 @@
 #include "platform/settings_table.h"
 #include "playback/playlist_widget.h"
 #include "playback/preload.h"
-#include "playback/row_order.h"
+#include "playback/track_start.h"
 #include "ui/display_panel.h"
 #include "ui/progress_row.h"
 
@@ -28,6 +28,7 @@ void PlayerGuiWindow::resetTrackState(double startSec)
     m_lines.sourceInfo.reset();
     m_preload = {};
     m_start.paused = false;
+    discardAbLoopOfOtherTrack();
     showPlace(0);
     m_ui.progress->showText(clockText(0.));
 }
@@ -35,7 +36,8 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
     if (m_preload.pending && m_preload.row >= 0 &&
-        preloadTaken({m_preload.positionSec, m_preload.totalSec, progress.positionSec, progress.totalSec}))
+        preloadTaken({m_preload.positionSec, m_preload.totalSec, m_progress.lastPosSec, progress.positionSec,
+                      progress.totalSec}))
         autoAdvanceTaken();
     m_progress.lastPosSec = progress.positionSec;
     updateProgress(progress.percent, progress.positionSec, progress.totalSec);
@@ -52,7 +54,7 @@ void PlayerGuiWindow::updateProgress(double percent, double positionSec, double 
     facts.row = m_start.currentRow;
     facts.itemDurationSec = std::max(0., entry.endSec - entry.startSec);
     facts.speedRatio = m_choices.speedRatio;
-    facts.resumeTracked = !entry.path.isEmpty() && !entry.isContainerTrack();
+    facts.resumeTracked = tracksResume(entry);
 
     const ProgressDisplay display = ::updateProgress(m_progress, facts);
     if (display.startMetricsTimer)
@@ -71,17 +73,36 @@ void PlayerGuiWindow::updateProgress(double percent, double positionSec, double 
 void PlayerGuiWindow::saveResumePosition()
 {
     const QString path = m_ui.playlist->entryAt(m_start.currentRow).path;
+    m_start.resumeFile = QFileInfo(path).absoluteFilePath();
+    m_start.resumePosSec = m_progress.lastPosSec;
+    m_start.resumeEnabled = true;
     SettingsStore file;
     QSettingsAccess store(file);
-    writeSetting(store, settings::resumePath, QFileInfo(path).absoluteFilePath());
-    writeSetting(store, settings::resumeSec, m_progress.lastPosSec);
+    writeSetting(store, settings::resumePath, m_start.resumeFile);
+    writeSetting(store, settings::resumeSec, m_start.resumePosSec);
+}
+
+void PlayerGuiWindow::saveResumePositionNow(double leastSec)
+{
+    // A track that has told no position yet has none to remember.
+    if (m_progress.lastPosRow == m_start.currentRow && m_progress.lastPosSec > leastSec &&
+        tracksResume(m_ui.playlist->entryAt(m_start.currentRow)))
+        saveResumePosition();
 }
 
 void PlayerGuiWindow::forgetResumePosition(const QString &path)
 {
+    if (path.isEmpty())
+        return;
+    const QString absolute = QFileInfo(path).absoluteFilePath();
+    if (m_start.resumeFile == absolute) {
+        m_start.resumeFile.clear();
+        m_start.resumePosSec = 0.;
+        m_start.resumeEnabled = false;
+    }
     SettingsStore file;
     QSettingsAccess store(file);
-    if (path.isEmpty() || readSetting(store, settings::resumePath) != QFileInfo(path).absoluteFilePath())
+    if (readSetting(store, settings::resumePath) != absolute)
         return;
     writeSetting(store, settings::resumePath, QString());
     writeSetting(store, settings::resumeSec, 0.);
@@ -126,7 +147,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     if (count == 0 || taken.row < 0 || taken.row >= count || m_start.userStopped || m_start.sessionClosing)
         return;
     commitPlayStat();
-    forgetResumePosition(m_start.lastPlayed);
+    closeFinishedTrack();
     // A row number alone proves nothing: another file may have moved into its place.
     if (!advanceRow() || m_start.currentRow != taken.row ||
         m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
@@ -139,6 +160,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     m_start.lastStartedRow = m_start.currentRow;
     m_progress.resetForTrack();
     beginTrackFacts(true);
+    discardAbLoopOfOtherTrack();
     const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
     setLastPlayed(entry);
     showTrackOf(m_start.currentRow);

@@ -6,19 +6,11 @@
 #include "playback/end_verdict.h"
 #include "playback/no_audio_report.h"
 #include "playback/playlist_widget.h"
-#include "playback/row_order.h"
+#include "playback/preload.h"
 
 #include <QDateTime>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr qint64 ignoreAfterFallbackMs = 2000;
-constexpr int fallbackStopMs = 1500;
-constexpr int fallbackWaitMs = 1000;
-
-} // namespace
 
 void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
 {
@@ -52,6 +44,9 @@ void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
         logLine(line.text, line.isError);
     switch (verdict.kind) {
     case SessionEndVerdict::Kind::Ignored:
+        // Nothing follows from it; but the controls must not go on showing what no longer runs.
+        if (!facts.supersededSession && !facts.sessionClosing && !sessionRuns())
+            setPlayingUi(false);
         return;
     case SessionEndVerdict::Kind::ExclusiveFallback:
         retryWithoutExclusive();
@@ -77,39 +72,40 @@ void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
     }
 }
 
-bool PlayerGuiWindow::retryWithoutExclusive()
+void PlayerGuiWindow::retryWithoutExclusive()
 {
     m_start.exclusiveFallbackRow = m_start.currentRow;
     m_start.sessionLive = false;
     m_start.sessionClosing = true;
-    m_start.ignoreDoneUntilMs = QDateTime::currentMSecsSinceEpoch() + ignoreAfterFallbackMs;
+    m_start.ignoreDoneUntilMs = QDateTime::currentMSecsSinceEpoch() + m_options.times.ignoreAfterFallback;
     if (m_link.session) {
         m_link.session->close();
-        if (sessionRuns() && m_link.session->stop(fallbackStopMs) == session_code::timedOut &&
-            !m_link.session->waitFinished(fallbackWaitMs)) {
+        if (sessionRuns() && m_link.session->stop(m_options.times.fallbackStop) == session_code::timedOut &&
+            !m_link.session->waitFinished(m_options.times.fallbackWait)) {
             logLine(tr("上一个播放会话还没收尾（独占正在拆除）—— "
                        "这次不建新会话。请再按一次播放；仍不行就重启播放器。"),
                     true);
             m_start.sessionClosing = false;
             setPlayingUi(false);
-            return false;
+            return;
         }
     }
     m_link.session.reset();
     ensureSession();
     QTimer::singleShot(0, this, &PlayerGuiWindow::playCurrent);
-    return true;
 }
 
-void PlayerGuiWindow::onDoneLine()
+void PlayerGuiWindow::onDoneLine(const QString &file)
 {
-    m_start.resumeEnabled = m_start.resumeEnabled && m_start.resumeFile != m_start.lastPlayed;
     if (m_preload.pending) {
+        const bool nextHasEndedToo =
+            isOfPreloadedTrack(file, m_ui.playlist->entryAt(m_start.currentRow).path, m_preload.path);
         logLine(tr("播放完成"));
         autoAdvanceTaken();
-        return;
+        if (!nextHasEndedToo)
+            return;
     }
-    forgetResumePosition(m_start.lastPlayed);
+    closeFinishedTrack();
     if (m_start.userStopped || m_start.sessionClosing) {
         commitPlayStat();
         return;
@@ -118,8 +114,16 @@ void PlayerGuiWindow::onDoneLine()
     trackFinished();
 }
 
+void PlayerGuiWindow::closeFinishedTrack()
+{
+    forgetResumePosition(m_start.lastPlayed);
+    // Whoever plays it again wants it from its beginning and not its last seconds.
+    m_progress.lastPosSec = 0.;
+}
+
 void PlayerGuiWindow::trackFinished()
 {
+    closeFinishedTrack();
     commitPlayStat();
     if (advanceRow()) {
         playCurrent();
@@ -129,24 +133,6 @@ void PlayerGuiWindow::trackFinished()
         m_link.noAudioTimer->stop();
     setPlayingUi(false);
     logLine(tr("播放列表结束（%1）").arg(orderText()));
-}
-
-bool PlayerGuiWindow::advanceRow()
-{
-    const std::optional<int> next = rowAfter(m_start.currentRow, m_ui.playlist->count());
-    if (next)
-        m_start.currentRow = *next;
-    return next.has_value();
-}
-
-int PlayerGuiWindow::peekNextRow() const
-{
-    return rowAfter(m_start.currentRow, m_ui.playlist->count()).value_or(-1);
-}
-
-QString PlayerGuiWindow::orderText() const
-{
-    return tr("顺序") + tr(" · 不循环");
 }
 
 void PlayerGuiWindow::noAudioWatchdog()

@@ -13,8 +13,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int rebuildWaitMs = 10000;
-constexpr int rebuildKillWaitMs = 1500;
 constexpr qint64 slowStageMs = 50;
 constexpr int mostDenoiseTier = 3;
 
@@ -87,6 +85,8 @@ void PlayerGuiWindow::playCurrentUnguarded()
     refreshStartButton();
     refreshNavButtons();
     sendLoadLine(plan);
+    // Behind the load line: the loop is one of the new track.
+    applyAbLoop();
     logElapsed(u"load"_s, clock.restart());
 }
 
@@ -150,10 +150,10 @@ void PlayerGuiWindow::closeForRebuild()
     m_start.sessionClosing = true;
     m_start.sessionDenoiseTier = -1;
     sendCmd(u"stop"_s);
-    if (!m_link.session->waitFinished(rebuildWaitMs)) {
+    if (!m_link.session->waitFinished(m_options.times.rebuild)) {
         logLine(tr("旧会话 10 秒内没有退出 —— 强制结束它（设备可能要再等一会儿才释放）"), true);
         m_link.session->kill();
-        m_link.session->waitFinished(rebuildKillWaitMs);
+        m_link.session->waitFinished(m_options.times.rebuildKill);
     }
     m_link.session->close();
 }

@@ -17,17 +17,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int leftoverWaitMs = 2000;
-constexpr int leftoverTerminateWaitMs = 1000;
-constexpr int stopWaitMs = 5000;
-constexpr int stopKillAfterMs = 1500;
-constexpr int terminateWaitMs = 1000;
-constexpr int killWaitMs = 2000;
+/// A pause in the first instant of a track is no place to come back to.
+constexpr double leastPausePositionSec = 0.5;
 
 } // namespace
 
 void PlayerGuiWindow::startPlayback(int row)
 {
+    m_transport.order.forgetHistory();
     if (m_ui.playlist->count() == 0) {
         logLine(tr("错误: 请先添加音频文件"), true);
         return;
@@ -49,9 +46,9 @@ bool PlayerGuiWindow::closeLeftoverSession()
         return true;
     logLine(tr("旧会话还没退出 ⇒ 先断开它再起播（进程内会话只能等它自己收尾）"), true);
     m_link.session->close();
-    if (!m_link.session->waitFinished(leftoverWaitMs)) {
+    if (!m_link.session->waitFinished(m_options.times.leftover)) {
         m_link.session->terminate();
-        m_link.session->waitFinished(leftoverTerminateWaitMs);
+        m_link.session->waitFinished(m_options.times.leftoverTerminate);
     }
     if (!sessionRuns())
         return true;
@@ -68,6 +65,7 @@ void PlayerGuiWindow::stopPlayback()
         return;
     }
     logLine(tr("正在停止播放器..."));
+    saveResumePositionNow(0.);
     m_start.userStopped = true;
     m_start.restartPending = false;
     m_start.sessionDenoiseTier = -1;
@@ -77,12 +75,12 @@ void PlayerGuiWindow::stopPlayback()
     const auto stillRuns = [this, generation] {
         return generation == m_start.playGeneration && sessionRuns();
     };
-    QTimer::singleShot(stopWaitMs, this, [this, stillRuns] {
+    QTimer::singleShot(m_options.times.stop, this, [this, stillRuns] {
         if (!stillRuns())
             return;
         logLine(stopTimeoutText(m_link.session->canBeKilled()), true);
         m_link.session->terminate();
-        QTimer::singleShot(stopKillAfterMs, this, [this, stillRuns] {
+        QTimer::singleShot(m_options.times.stopKill, this, [this, stillRuns] {
             if (!stillRuns())
                 return;
             m_link.session->kill();
@@ -97,19 +95,18 @@ void PlayerGuiWindow::stopPlayback()
 void PlayerGuiWindow::killProc(bool quiet)
 {
     if (!sessionRuns()) {
-        if (!quiet)
-            std::fputs("[gui] killProc: no player process running, exiting\n", stderr);
+        std::fputs("[gui] killProc: no player process running, exiting\n", stderr);
         return;
     }
-    std::fprintf(stderr, "[gui] killProc: sent stop, waiting up to %d ms to finish\n", stopWaitMs);
+    std::fprintf(stderr, "[gui] killProc: sent stop, waiting up to %d ms to finish\n", m_options.times.close);
     m_start.userStopped = true;
     sendCmd(u"stop"_s);
-    if (!m_link.session->waitFinished(stopWaitMs)) {
+    if (!m_link.session->waitFinished(m_options.times.close)) {
         logLine(stopTimeoutText(m_link.session->canBeKilled()), true);
         m_link.session->terminate();
-        if (!m_link.session->waitFinished(terminateWaitMs)) {
+        if (!m_link.session->waitFinished(m_options.times.closeTerminate)) {
             m_link.session->kill();
-            m_link.session->waitFinished(killWaitMs);
+            m_link.session->waitFinished(m_options.times.closeKill);
             logFileOnly(u"关窗时强杀"_s);
             if (!m_link.session->isInProcess())
                 resetDeviceAfterKill(m_link.playerBin, u"关窗时强杀"_s,
@@ -127,6 +124,8 @@ void PlayerGuiWindow::togglePause()
         return;
     }
     m_start.paused = !m_start.paused;
+    if (m_start.paused)
+        saveResumePositionNow(leastPausePositionSec);
     sendCmd(m_start.paused ? u"pause"_s : u"resume"_s);
     refreshStartButton();
 }
@@ -138,6 +137,8 @@ void PlayerGuiWindow::setPlayingUi(bool on)
     if (!on) {
         m_start.paused = false;
         beginTrackFacts(false);
+        // The marks stay and count again when their track is started.
+        Q_EMIT abLoopShown(-1., -1.);
     }
     refreshChainPanel();
     refreshStartButton();

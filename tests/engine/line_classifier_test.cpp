@@ -453,7 +453,7 @@ TEST(TrackForms, SegmentAndDoneStandAtTheStart)
 {
     Engine engine;
     EXPECT_EQ(all<ChangeSegment>(engine.say(u"SEG 0 1 7"_s)).at(0).number, 7);
-    EXPECT_TRUE(has<FinishTrack>(engine.say(u"DONE a.flac"_s)));
+    EXPECT_EQ(all<FinishTrack>(engine.say(u"DONE a b.flac"_s)).at(0).file, u"a b.flac"_s);
     EXPECT_FALSE(has<FinishTrack>(engine.say(u"DONE"_s)));
     EXPECT_FALSE(has<FinishTrack>(engine.say(u"[player] DONE a.flac"_s)));
     EXPECT_FALSE(has<ChangeSegment>(engine.say(u"[player] SEG 0 1 7"_s)));

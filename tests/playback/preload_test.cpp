@@ -75,16 +75,34 @@ TEST(Preload, TheDiagnosisComesOnceATrack)
 
 TEST(PreloadTaken, SeesThePositionRunBackward)
 {
-    EXPECT_TRUE(preloadTaken({98.5, 100., 0.1, 100.}));
-    EXPECT_FALSE(preloadTaken({98.5, 100., 98.7, 100.}));
-    EXPECT_FALSE(preloadTaken({98.5, 100., 97.6, 100.})) << "less than a second back";
-    EXPECT_FALSE(preloadTaken({1., 1.2, 0., 1.2})) << "a position of one second proves nothing";
+    EXPECT_TRUE(preloadTaken({98.5, 100., 99.9, 0.1, 100.}));
+    EXPECT_FALSE(preloadTaken({98.5, 100., 98.6, 98.7, 100.}));
+    EXPECT_FALSE(preloadTaken({98.5, 100., 98.5, 97.6, 100.})) << "less than a second back";
+    EXPECT_FALSE(preloadTaken({1., 1.2, 1., 0., 1.2})) << "a position of one second proves nothing";
 }
 
 TEST(PreloadTaken, SeesTheTotalChange)
 {
-    EXPECT_TRUE(preloadTaken({0.9, 1.5, 0.2, 200.}));
-    EXPECT_FALSE(preloadTaken({0.9, 1.5, 5., 200.})) << "no longer at the beginning of a track";
-    EXPECT_FALSE(preloadTaken({0.9, 200., 0.9, 200.4}));
-    EXPECT_FALSE(preloadTaken({0.9, 1.5, 0.2, -1.}));
+    EXPECT_TRUE(preloadTaken({0.9, 1.5, 0.9, 0.2, 200.}));
+    EXPECT_FALSE(preloadTaken({0.9, 1.5, 0.9, 5., 200.})) << "no longer at the beginning of a track";
+    EXPECT_FALSE(preloadTaken({0.9, 200., 0.9, 0.9, 200.4}));
+    EXPECT_FALSE(preloadTaken({0.9, 1.5, 0.9, 0.2, -1.}));
+}
+
+TEST(PreloadTaken, SeesTheChangeBetweenTwoTracksOfTwoSeconds)
+{
+    EXPECT_TRUE(preloadTaken({0.55, 2., 1.95, 0.05, 2.})) << "handed over at its beginning already";
+    EXPECT_FALSE(preloadTaken({0.55, 2., 0.55, 0.6, 2.}));
+}
+
+TEST(PreloadTaken, AnEndThatNamesThePreloadedTrackIsItsEnd)
+{
+    using namespace Qt::StringLiterals;
+    const QString first = u"/m/a.wav"_s, second = u"/m/b.wav"_s;
+    EXPECT_TRUE(isOfPreloadedTrack(second, first, second));
+    EXPECT_TRUE(isOfPreloadedTrack(u"b.wav"_s, first, second)) << "an engine may name the file alone";
+    EXPECT_FALSE(isOfPreloadedTrack(first, first, second));
+    EXPECT_FALSE(isOfPreloadedTrack(first, first, first)) << "the same file twice";
+    EXPECT_FALSE(isOfPreloadedTrack(u"/m/a.cue"_s, first, second)) << "neither";
+    EXPECT_FALSE(isOfPreloadedTrack(u"b.wav"_s, u"/n/b.wav"_s, second)) << "it may be either";
 }

@@ -2,14 +2,6 @@
 
 #include <gtest/gtest.h>
 
-TEST(RowOrder, TheNextRowEndsWithTheList)
-{
-    EXPECT_EQ(rowAfter(0, 3), 1);
-    EXPECT_EQ(rowAfter(2, 3), std::nullopt);
-    EXPECT_EQ(rowAfter(-1, 3), std::nullopt) << "nothing plays";
-    EXPECT_EQ(rowAfter(0, 0), std::nullopt);
-}
-
 TEST(RowOrder, StepsStayInTheList)
 {
     EXPECT_EQ(steppedRow(0, -1, 3), std::nullopt);

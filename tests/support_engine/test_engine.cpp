@@ -1,5 +1,6 @@
 // The two entries. A session: "-test MODE [OPERAND]"; the arguments are printed with "-print-args".
-// A probe: "-fill N", "-exit N TEXT", "-where" (working directory), or else the arguments one a line.
+// "-stream", as a window starts it, is the mode "player". A probe: "-fill N", "-exit N TEXT", "-where"
+// (working directory), or else the arguments one a line.
 #include "player_core/include/kelp_player_core.h"
 #include "support_engine/test_engine_control.h"
 #include "support_engine/test_engine_modes.h"
@@ -42,6 +43,8 @@ extern "C" KELP_PLAYER_CORE_EXPORT int kelp_player_main(int argc, char **argv)
     std::string name, operand;
     bool printArgs = false;
     for (int i = 1; i < argc; ++i) {
+        if (name.empty() && std::strcmp(argv[i], "-stream") == 0)
+            name = "player";
         printArgs = printArgs || std::strcmp(argv[i], "-print-args") == 0;
         if (std::strcmp(argv[i], "-test") == 0 && i + 1 < argc) {
             name = argv[i + 1];

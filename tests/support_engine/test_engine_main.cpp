@@ -1,4 +1,4 @@
-// The program form: a session with -test among the arguments, a probe else.
+// The program form: a session with -test or -stream among the arguments, a probe else.
 #include "player_core/include/kelp_player_core.h"
 
 #include <cstdio>
@@ -8,7 +8,7 @@
 int main(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
-        if (std::strcmp(argv[i], "-test") == 0)
+        if (std::strcmp(argv[i], "-test") == 0 || std::strcmp(argv[i], "-stream") == 0)
             return kelp_player_main(argc, argv);
     }
     std::vector<char> buffer(4 * 1024 * 1024);

@@ -1,10 +1,14 @@
 #include "support_engine/test_engine_modes.h"
 
+#include <algorithm>
 #include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 #include <future>
 #include <memory>
+#include <sstream>
 #include <stdexcept>
 #include <thread>
 #include <unistd.h>
@@ -166,15 +170,85 @@ int environment(Control &, const std::string &name)
     return 0;
 }
 
+void say(const std::string &line)
+{
+    std::printf("%s\n", line.c_str());
+    std::fflush(stdout);
+}
+
+// Appends what it was told, and when, to the file that KELP_TEST_RECORD names.
+void record(const std::string &line)
+{
+    const char *path = std::getenv("KELP_TEST_RECORD");
+    std::FILE *file = path != nullptr ? std::fopen(path, "ae") : nullptr;
+    if (file == nullptr)
+        return;
+    const auto now = std::chrono::steady_clock::now().time_since_epoch();
+    std::fprintf(file, "%lld\t%s\n",
+                 static_cast<long long>(std::chrono::duration_cast<std::chrono::milliseconds>(now).count()),
+                 line.c_str());
+    std::fclose(file);
+}
+
+// Hears nothing and dies of nothing but a kill before the file exists.
+void hangUntil(const std::string &releaseFile, bool ownProcess)
+{
+    if (ownProcess)
+        std::signal(SIGTERM, SIG_IGN);
+    while (access(releaseFile.c_str(), F_OK) != 0)
+        sleepMs(5);
+}
+
+// What a track does stands in its name, one word behind each dot: "a.at94_9.exit1.wav". Gives the exit code
+// where the engine ends.
+std::optional<int> playScript(const std::string &path, bool ownProcess)
+{
+    std::istringstream words(path.substr(path.rfind('/') + 1));
+    for (std::string word; std::getline(words, word, '.');) {
+        const auto behind = [&word](const char *start) -> std::optional<std::string> {
+            return word.starts_with(start) ? std::optional(word.substr(std::strlen(start))) : std::nullopt;
+        };
+        if (auto seconds = behind("at")) {
+            std::replace(seconds->begin(), seconds->end(), '_', '.');
+            say("PG " + *seconds + " " + *seconds + " 100");
+        } else if (const auto code = behind("exit")) {
+            return std::atoi(code->c_str());
+        } else if (word == "done") {
+            say("DONE " + path);
+        } else if (word == "crash") {
+            std::abort();
+        } else if (word == "hang") {
+            say("HANGING");
+            hangUntil(path + ".release", ownProcess);
+        }
+    }
+    return std::nullopt;
+}
+
+int player(Control &control, const std::string &)
+{
+    record("start");
+    while (const auto line = control.next()) {
+        record(*line);
+        if (*line == "stop")
+            return stopCode;
+        if (!line->starts_with("load "))
+            continue;
+        if (const auto code = playScript(line->substr(5), !control.fromQueue()))
+            return *code;
+    }
+    return 0;
+}
+
 constexpr struct
 {
     const char *name;
     Mode run;
-} modes[] = {{"echo", echo},        {"exit", exitWith},          {"hang", hang},
-             {"crash", crash},      {"throw", throwSomething},   {"flood", flood},
-             {"both", bothStreams}, {"garbage", garbage},        {"late", late},
-             {"tiny", tiny},        {"lingerer", lingerer},      {"unflushed", unflushed},
-             {"deaf", deaf},        {"environment", environment}};
+} modes[] = {{"echo", echo},        {"exit", exitWith},           {"hang", hang},
+             {"crash", crash},      {"throw", throwSomething},    {"flood", flood},
+             {"both", bothStreams}, {"garbage", garbage},         {"late", late},
+             {"tiny", tiny},        {"lingerer", lingerer},       {"unflushed", unflushed},
+             {"deaf", deaf},        {"environment", environment}, {"player", player}};
 
 } // namespace
 

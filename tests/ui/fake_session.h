@@ -4,6 +4,8 @@
 
 #include "engine/player_session.h"
 
+#include <QElapsedTimer>
+#include <QHash>
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -17,6 +19,8 @@ struct FakeEngine
     bool endsOnStop = true;
     int stopAnswer = 3;
     QString lastError;
+    /// What it says to a control line, at once; empty: nothing.
+    std::function<void(class FakeSession &session, const QString &line)> answer;
 
     // What sessions did.
     int created = 0;
@@ -27,6 +31,20 @@ struct FakeEngine
 
     QStringList lines() const { return calls.filter(QRegularExpression(QStringLiteral("^write "))); }
     bool did(const QString &call) const { return calls.contains(call); }
+    void note(const QString &call)
+    {
+        calls.append(call);
+        if (!m_toldAtMs.contains(call))
+            m_toldAtMs.insert(call, m_clock.elapsed());
+    }
+    /// When the call was made first, in milliseconds since the test's beginning; -1 for never.
+    qint64 toldAt(const QString &call) const { return m_toldAtMs.value(call, -1); }
+
+    FakeEngine() { m_clock.start(); }
+
+private:
+    QElapsedTimer m_clock;
+    QHash<QString, qint64> m_toldAtMs;
 };
 
 class FakeSession final : public PlayerSession
@@ -47,7 +65,7 @@ public:
 
     int start(const QString &program, const QStringList &args) override
     {
-        m_engine.calls.append(QStringLiteral("start ") + program);
+        m_engine.note(QStringLiteral("start ") + program);
         m_engine.startArgs.append(args);
         m_running = m_engine.startCode == session_code::ok;
         return m_engine.startCode;
@@ -58,16 +76,18 @@ public:
         flushed = true;
         if (!m_running)
             return -1;
-        m_engine.calls.append(QStringLiteral("write ") + line);
+        m_engine.note(QStringLiteral("write ") + line);
         if (line == QStringLiteral("stop") && m_engine.endsOnStop)
             endWith(m_engine.stopAnswer);
+        else if (m_engine.answer)
+            m_engine.answer(*this, line);
         return m_engine.takesLines ? static_cast<int>(line.toUtf8().size()) + 1 : 0;
     }
     bool isQueuedWrite() const override { return m_engine.inProcess; }
     QString lastError() const override { return m_engine.lastError; }
     int stop(int timeoutMs) override
     {
-        m_engine.calls.append(QStringLiteral("stop %1").arg(timeoutMs));
+        m_engine.note(QStringLiteral("stop %1").arg(timeoutMs));
         if (!m_running)
             return 0;
         if (!m_engine.endsOnStop)
@@ -77,19 +97,19 @@ public:
     }
     bool waitFinished(int timeoutMs) override
     {
-        m_engine.calls.append(QStringLiteral("wait %1").arg(timeoutMs));
+        m_engine.note(QStringLiteral("wait %1").arg(timeoutMs));
         return !m_running;
     }
-    void terminate() override { m_engine.calls.append(QStringLiteral("terminate")); }
+    void terminate() override { m_engine.note(QStringLiteral("terminate")); }
     void kill() override
     {
-        m_engine.calls.append(QStringLiteral("kill"));
+        m_engine.note(QStringLiteral("kill"));
         if (canBeKilled())
             endWith(9);
     }
     bool canBeKilled() const override { return !m_engine.inProcess; }
     bool isInProcess() const override { return m_engine.inProcess; }
-    void close() override { m_engine.calls.append(QStringLiteral("close")); }
+    void close() override { m_engine.note(QStringLiteral("close")); }
     void poll() override {}
 
     /// The engine ends by itself.

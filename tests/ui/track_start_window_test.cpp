@@ -2,7 +2,9 @@
 #include "window_fixture.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -256,4 +258,77 @@ TEST_F(Playback, RowsMoveAndThePlayingRowFollows)
     EXPECT_TRUE(m_window->moveRow(1, 1));
     EXPECT_FALSE(m_window->moveRow(0, 3));
     EXPECT_TRUE(logHas(u"from=0 to=3"_s));
+}
+
+TEST_F(Playback, TheStageIsNamedWhileTheTrackIsHandedOver)
+{
+    QString stage;
+    m_engine.answer = [&](FakeSession &, const QString &) {
+        stage = m_window->markStage(u"asked"_s);
+        m_window->markStage(stage);
+    };
+    m_window->startPlayback(0);
+    EXPECT_EQ(stage, u"下发 load"_s);
+    EXPECT_TRUE(m_window->markStage(QString()).isEmpty()) << "and no longer afterwards";
+}
+
+TEST_F(Playback, ASlowStageIsInTheLog)
+{
+    m_engine.answer = [](FakeSession &, const QString &) { QThread::msleep(60); };
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"[耗时] load "_s));
+}
+
+TEST_F(Playback, AnExceptionInTheStartIsCaughtAndEndsIdle)
+{
+    m_engine.answer = [](FakeSession &, const QString &) { throw std::runtime_error("broken inside"); };
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"playCurrent"_s));
+    EXPECT_TRUE(logHas(u"broken inside"_s));
+    EXPECT_FALSE(start().uiPlaying);
+    m_engine.answer = [](FakeSession &, const QString &) { throw 42; };
+    m_window->startPlayback(1);
+    EXPECT_FALSE(start().uiPlaying);
+    m_engine.answer = {};
+    m_window->startPlayback(2);
+    EXPECT_TRUE(start().uiPlaying) << "nothing is left broken";
+}
+
+class WithoutAnEngine : public Playback
+{
+protected:
+    void SetUp() override
+    {
+        // Neither the variable nor the program's folder nor the one it is started in has one.
+        m_folder = QDir::currentPath();
+        Playback::SetUp();
+        QDir::setCurrent(m_root.path());
+        qputenv("KELP_PLAYER_BIN", "/nowhere/engine");
+        WindowInspector::link(*m_window).playerBin.clear();
+    }
+    void TearDown() override
+    {
+        Playback::TearDown();
+        QDir::setCurrent(m_folder);
+    }
+
+private:
+    QString m_folder;
+};
+
+TEST_F(WithoutAnEngine, AChildProcessCannotBeStarted)
+{
+    qputenv("KELP_GUI_INPROC", "0");
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"错误: 找不到播放引擎 KelpPlayerEngine"_s));
+    EXPECT_EQ(m_engine.created, 0);
+    EXPECT_FALSE(start().uiPlaying);
+}
+
+TEST_F(WithoutAnEngine, ASessionInsideThisProcessNeedsNoProgram)
+{
+    qputenv("KELP_GUI_INPROC", "1");
+    m_window->startPlayback(0);
+    EXPECT_TRUE(m_engine.did(u"start KelpPlayer"_s));
+    EXPECT_TRUE(start().uiPlaying);
 }

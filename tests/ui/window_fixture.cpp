@@ -42,9 +42,12 @@ void WindowTest::makeWindow()
 {
     WindowOptions options;
     options.asksBeforeClosing = m_asksBeforeClosing;
+    options.times = m_times;
     options.makeSession = [this](QObject *, const SessionOptions &) {
         return std::make_unique<FakeSession>(m_engine);
     };
+    if (m_makeSession)
+        options.makeSession = m_makeSession;
     auto first = std::make_shared<std::atomic<bool>>(true);
     options.probe = [first, text = m_deviceList, probe = m_probe](const QString &playerBin,
                                                                   const QStringList &args, int timeoutMs,

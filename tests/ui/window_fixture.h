@@ -17,6 +17,8 @@ struct WindowInspector
 {
     static EngineLinkState &link(PlayerGuiWindow &window) { return window.m_link; }
     static TrackStartState &start(PlayerGuiWindow &window) { return window.m_start; }
+    static TransportState &transport(PlayerGuiWindow &window) { return window.m_transport; }
+    static bool volumeTouched(PlayerGuiWindow &window) { return window.m_volumeTouched; }
     static PreloadState &preload(PlayerGuiWindow &window) { return window.m_preload; }
     static TrackProgressState &progress(PlayerGuiWindow &window) { return window.m_progress; }
     static EngineLineState &lines(PlayerGuiWindow &window) { return window.m_lines; }
@@ -50,6 +52,8 @@ protected:
         return PlayerProbeResult{};
     };
     bool m_asksBeforeClosing = false;
+    TransportTimes m_times;
+    WindowOptions::MakeSession m_makeSession; ///< empty: a fake one
     std::unique_ptr<PlayerGuiWindow> m_window;
     QString m_log;
 };

@@ -42,6 +42,22 @@ void PlayerGuiWindow::connectTransport()
     connect(dock.stop, &QPushButton::clicked, this, &PlayerGuiWindow::stopPlayback);
     connect(dock.previous, &QPushButton::clicked, this, [this] { stepRow(-1); });
     connect(dock.next, &QPushButton::clicked, this, [this] { stepRow(1); });
+    connect(dock.order, &QPushButton::clicked, this, &PlayerGuiWindow::cycleOrder);
+    connect(dock.repeat, &QPushButton::clicked, this, &PlayerGuiWindow::cycleRepeat);
+    connect(this, &PlayerGuiWindow::playOrderShown, m_ui.dock, &DockBar::showModes);
+    const auto point = [this](double marked, void (PlayerGuiWindow::*mark)()) {
+        if (marked >= 0.)
+            clearAbLoop();
+        else
+            (this->*mark)();
+        showAbLoop();
+    };
+    const ProgressRow &row = *m_ui.progress;
+    connect(row.loopA, &QPushButton::clicked, this,
+            [this, point] { point(m_transport.abLoop.pointA, &PlayerGuiWindow::markA); });
+    connect(row.loopB, &QPushButton::clicked, this,
+            [this, point] { point(m_transport.abLoop.pointB, &PlayerGuiWindow::markB); });
+    connect(this, &PlayerGuiWindow::abLoopShown, m_ui.progress, &ProgressRow::showLoop);
     connect(dock.volume, &QSlider::valueChanged, this, [this](int value) {
         m_volumeTouched = true;
         if (sessionRuns())

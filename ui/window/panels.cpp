@@ -5,6 +5,7 @@
 #include "ui/dock_bar.h"
 #include "ui/log_pane.h"
 #include "ui/setup_dialog.h"
+#include "ui/sleep_controls.h"
 #include "ui/tools_menu.h"
 
 using namespace Qt::StringLiterals;
@@ -15,6 +16,11 @@ EngineControls &PlayerGuiWindow::engineControls()
         m_ui.setup = new SetupDialog(this);
         m_ui.engine = new EngineControls(m_ui.setup);
         m_ui.setup->addSection(tr("引擎设置"), m_ui.engine);
+        m_ui.sleep = new SleepControls(m_ui.setup);
+        m_ui.setup->addSection(tr("睡眠定时"), m_ui.sleep);
+        connect(m_ui.sleep, &SleepControls::chosen, this, &PlayerGuiWindow::setSleepTimer);
+        connect(this, &PlayerGuiWindow::sleepTimerShown, m_ui.sleep, &SleepControls::showTimer);
+        showPlayModes();
         fillChannelDevices();
         m_ui.engine->showChoices(m_choices);
         connect(m_ui.engine, &EngineControls::changed, this,
@@ -37,9 +43,15 @@ void PlayerGuiWindow::applyChoices(const EngineChoices &choices)
     if (choices.peakGuard != former.peakGuard && sessionRuns() &&
         sendCmd(choices.peakGuard ? u"guard on"_s : u"guard off"_s))
         m_start.sessionGuard = choices.peakGuard;
-    if (choices.speedRatio != former.speedRatio && sessionRuns())
-        sendCmd(u"speed "_s + QString::number(choices.speedRatio, 'f', 2));
+    if (choices.speedRatio != former.speedRatio)
+        setSpeed(choices.speedRatio);
     saveParams();
+}
+
+void PlayerGuiWindow::showChoices()
+{
+    if (m_ui.engine)
+        m_ui.engine->showChoices(m_choices);
 }
 
 void PlayerGuiWindow::showPcmFilter(const QString &name, bool automatic)
@@ -49,8 +61,7 @@ void PlayerGuiWindow::showPcmFilter(const QString &name, bool automatic)
         return;
     m_choices.pcmFilter = name;
     m_choices.pcmFilterAutomatic = automatic;
-    if (m_ui.engine)
-        m_ui.engine->showChoices(m_choices);
+    showChoices();
 }
 
 void PlayerGuiWindow::openTools()

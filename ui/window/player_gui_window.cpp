@@ -48,7 +48,8 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
 
 PlayerGuiWindow::~PlayerGuiWindow()
 {
-    killProc(true);
+    if (sessionRuns())
+        killProc(true);
     // The session's threads call sinks that post to this window: it ends while the window is whole.
     m_link.session.reset();
     if (m_link.mailbox)

@@ -13,6 +13,7 @@
 #include "playback/playback_state.h"
 #include "ui/area_plan.h"
 #include "ui/cover_state.h"
+#include "playback/transport_state.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
@@ -81,6 +82,23 @@ public:
     void stopPlayback();
     void killProc(bool quiet);
     void togglePause();
+    /// 0 sequential, 1 random.
+    void setOrderAxis(int axis);
+    /// 0 none, 1 list, 2 track.
+    void setRepeatAxis(int axis);
+    void cycleOrder();
+    void cycleRepeat();
+    /// Marks an end of the A/B loop where the track is now; the second mark starts the loop.
+    void markA();
+    void markB();
+    void clearAbLoop();
+    /// \param ratio clamped to 0.5 … 3
+    /// \param quiet without a line in the log
+    void setSpeed(double ratio, bool quiet = false);
+    /// \param minutes 0 switches it off
+    void setSleepTimer(int minutes);
+    /// Tells the controls of order, loop, speed and sleep what to show, by the signals below.
+    void showPlayModes();
     bool moveRow(int from, int to);
     void stepRow(int delta);
     /// Appends one plain file; the row's number.
@@ -145,6 +163,13 @@ public:
     void refreshCover();
     /// The place where covers arrive; a null image for none.
     void showCover(const QImage &image);
+Q_SIGNALS:
+    /// What the controls of the play modes are to show. No control may answer with a change of its own.
+    void playOrderShown(int orderAxis, int repeatAxis, const QString &text);
+    /// Seconds, below 0 for an end that is not marked.
+    void abLoopShown(double pointA, double pointB);
+    void speedShown(double ratio);
+    void sleepTimerShown(int minutes, const QString &text);
 
 public Q_SLOTS:
     void debugAutoplay(const QString &path, const QString &device);
@@ -203,6 +228,7 @@ private:
     int restoredItem(const QString &stored, const QList<ComboItem> &items);
     void restoreChoice(const QString &stored, const QList<ChoiceItem> &choices, QString &code);
     void applyChoices(const EngineChoices &choices);
+    void showChoices(); ///< in their controls, where these have been built
     void showPcmFilter(const QString &name, bool automatic);
 
     // ── engine/window ──
@@ -249,19 +275,34 @@ private:
     int baseRow() const;
 
     void onEngineDone(int exitCode, bool crashed, int startIndex);
-    bool retryWithoutExclusive();
-    void onDoneLine();
+    void retryWithoutExclusive();
+    void onDoneLine(const QString &file);
     void trackFinished();
     bool advanceRow();
     int peekNextRow() const;
     QString orderText() const;
+    void tellPlayOrder();
+    void showPlayOrder();
+    RepeatAxis chosenRepeat() const;
+    void markAbPoint(double AbLoopState::*point, const QString &name);
+    void setAbLoop();
+    void dropAbLoop();
+    void discardAbLoopOfOtherTrack();
+    void applyAbLoop();
+    void showAbLoop();
+    void showSleepTimer();
+    void sleepExpired();
+    void sleepFadeStep();
+    void endSleepFade();
     void noAudioWatchdog();
     void checkPreload();
     void autoAdvanceTaken();
     void onProgress(const ProgressLine &progress);
     void updateProgress(double percent, double positionSec, double totalSec);
     void saveResumePosition();
+    void saveResumePositionNow(double leastSec);
     void forgetResumePosition(const QString &path);
+    void closeFinishedTrack();
     void segmentChanged(int number);
     void commitPlayStat();
 
@@ -293,6 +334,7 @@ private:
     ChainViewState m_chain;
     CoverState m_cover;
     TrackStartState m_start;
+    TransportState m_transport;
     PreloadState m_preload;
     TrackProgressState m_progress;
     DeviceState m_devices;

@@ -4,6 +4,7 @@
 
 #include "engine/engine_probe.h"
 #include "engine/session_factory.h"
+#include "playback/transport_times.h"
 
 #include <functional>
 #include <memory>
@@ -28,5 +29,6 @@ struct WindowOptions
     MakeSession makeSession = &::makeSession;
     Probe probe = &runEngineProbe; ///< called on any thread
     AskSavePath askSavePath = &::askSavePath;
+    TransportTimes times = {};
     bool asksBeforeClosing = true; ///< false while a hook is armed that ends the program
 };

@@ -18,6 +18,7 @@ class QPushButton;
 class QToolButton;
 class QWidget;
 class SetupDialog;
+class SleepControls;
 class Stage;
 class TitleBar;
 
@@ -46,4 +47,5 @@ struct WindowWidgets
     LogPane *log = nullptr;
     SetupDialog *setup = nullptr;
     EngineControls *engine = nullptr;
+    SleepControls *sleep = nullptr;
 };

@@ -1,0 +1,85 @@
+// window_driver FILE...: the program's window over real sessions, with the files in its list; commands come
+// in on standard input, one a line. For tests that press what a listener presses.
+//   start ROW   next   stop   pause   order AXIS   repeat AXIS   device ID   state NAME   quit
+#include "app/settings_store.h"
+#include "playback/playlist_widget.h"
+#include "ui/window/player_gui_window.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QSocketNotifier>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void chooseDevice(QComboBox *combo, const QString &id)
+{
+    if (combo->findData(id) < 0)
+        combo->addItem(id, id);
+    combo->setCurrentIndex(combo->findData(id));
+}
+
+void tellState(PlayerGuiWindow &window, const QString &name)
+{
+    const TrackStartState &state = window.trackStart();
+    window.logFileOnly(u"[driver] %1 row=%2 playing=%3 runs=%4 announced=%5"_s.arg(name)
+                           .arg(state.playingRow)
+                           .arg(state.uiPlaying)
+                           .arg(window.sessionRuns())
+                           .arg(window.trackAnnounced()));
+}
+
+void obey(PlayerGuiWindow &window, const QString &line)
+{
+    const QString word = line.section(u' ', 0, 0);
+    const QString operand = line.section(u' ', 1);
+    if (word == "start"_L1)
+        window.startPlayback(operand.toInt());
+    else if (word == "next"_L1)
+        window.stepRow(1);
+    else if (word == "stop"_L1)
+        window.stopPlayback();
+    else if (word == "pause"_L1)
+        window.togglePause();
+    else if (word == "order"_L1)
+        window.setOrderAxis(operand.toInt());
+    else if (word == "repeat"_L1)
+        window.setRepeatAxis(operand.toInt());
+    else if (word == "device"_L1)
+        chooseDevice(window.widgets().device, operand);
+    else if (word == "state"_L1)
+        tellState(window, operand);
+    else if (word == "quit"_L1)
+        QCoreApplication::quit();
+    else
+        window.logFileOnly(u"[driver] unknown command: "_s + line);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    applySettingsDirOverride();
+    PlayerGuiWindow window({.asksBeforeClosing = false});
+    QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
+    window.addFiles(QCoreApplication::arguments().mid(1));
+
+    QSocketNotifier commands(STDIN_FILENO, QSocketNotifier::Read);
+    QByteArray pending;
+    QObject::connect(&commands, &QSocketNotifier::activated, &window, [&] {
+        char buffer[4096];
+        const ssize_t count = read(STDIN_FILENO, buffer, sizeof buffer);
+        if (count <= 0)
+            return QCoreApplication::quit();
+        pending.append(buffer, count);
+        for (qsizetype end = pending.indexOf('\n'); end >= 0; end = pending.indexOf('\n')) {
+            const QString line = QString::fromUtf8(pending.first(end));
+            pending.remove(0, end + 1);
+            obey(window, line);
+        }
+    });
+    return QApplication::exec();
+}
