@@ -119,6 +119,19 @@ TEST_F(WindowInstruments, TheEndOfASessionLeavesNothingStanding)
     EXPECT_EQ(levels(), (QStringList{u"−∞ dB"_s, u"−∞ dB"_s})) << "no refresh brings an old level back";
 }
 
+TEST_F(WindowInstruments, AnEmptyScopeTellsWhetherItIsOff)
+{
+    const QString off = panel().scope()->toolTip();
+    m_window->stopPlayback();
+    settle();
+    const QString idle = panel().scope()->toolTip();
+    EXPECT_NE(idle, off);
+    writeUserSetting(settings::vizMode, 3);
+    m_window->startPlayback(0);
+    EXPECT_NE(panel().scope()->toolTip(), off) << "now frames may come";
+    EXPECT_NE(panel().scope()->toolTip(), idle);
+}
+
 TEST_F(WindowInstruments, BitsFollowTheVolumeLine)
 {
     say(u"volume: unity on a 24 bit device"_s);

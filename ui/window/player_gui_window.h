@@ -141,6 +141,7 @@ private:
     void showSpectrumFrame();
     void showScopeFrame();
     void clearInstruments();
+    void tellWhyScopeIsEmpty();
     bool confirmClose();
 
     // ── app/window ──
