@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Figures of the whole program, each beside a baseline of the same run. Nothing here fails on a time.
 
-usage: bench/program.py [start] [idle] [engine] [latency]      all of them without a name
+usage: bench/program.py [start] [idle] [engine] [latency] [instruments]      all of them without a name
 """
 import os
 import shutil
@@ -115,6 +115,29 @@ def bench_engine():
         row("playing FLAC 44.1/16 in real time: CPU", used / took * 100, "%", "of one core")
 
 
+def bench_instruments(seconds=12):
+    """The program while it plays on a virtual display: meters alone, then with the spectrum, then with the scope too. The
+    display's own work of showing the pictures is the other process's and counted apart."""
+    with Stage() as stage:
+        bare_display(stage)
+        stage.bus()
+        path, _ = stage.make("flac", "played.flac", seconds=60, signal="noise", rate=96000, bits=24)
+        settings = os.path.join(stage.env["KELP_SETTINGS_DIR"], "KELP", "KelpPlayer.ini")
+        os.makedirs(os.path.dirname(settings), exist_ok=True)
+        baseline = None
+        for name, mode in (("meters alone", 0), ("and the spectrum", 1), ("and the scope", 3)):
+            with open(settings, "w", encoding="utf-8") as file:
+                file.write(f"[param]\nviz_mode={mode}\n")
+            process = stage.start([PROGRAM, path], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            time.sleep(5)
+            before, began = cpu_seconds(process.pid), time.monotonic()
+            time.sleep(seconds)
+            share = (cpu_seconds(process.pid) - before) / (time.monotonic() - began) * 100
+            baseline = baseline or share
+            row(f"playing FLAC 96/24 in a window, {name}: CPU", share, "%", f"of one core; {share / baseline:.2f} of meters alone")
+            support.end_process(process)
+
+
 def bench_latency(rounds=40):
     """From the load line to the SRC line, which comes when the track's first frame is heard at the clocked device."""
     with Stage() as stage:
@@ -132,7 +155,7 @@ def bench_latency(rounds=40):
 
 
 def main():
-    chosen = sys.argv[1:] or ["start", "idle", "engine", "latency"]
+    chosen = sys.argv[1:] or ["start", "idle", "engine", "latency", "instruments"]
     for name in chosen:
         globals()["bench_" + name]()
 

@@ -2,6 +2,7 @@
 
 #include "ui/bits_led.h"
 #include "ui/meter_scale.h"
+#include "ui/pixel_grid.h"
 #include "ui/scope_view.h"
 #include "ui/segment_meter.h"
 #include "ui/spectrum_view.h"
@@ -201,7 +202,12 @@ void InstrumentPanel::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(theme::hairline(), 1.));
+    // A line of whole pixels, whatever the scale.
+    const PixelGrid grid(painter);
+    const double line = grid.width(1.);
+    const QRectF frame(QPointF(grid.x(0.), grid.y(0.)), QPointF(grid.x(width()), grid.y(height())));
+    painter.setPen(QPen(theme::hairline(), line));
     painter.setBrush(theme::well());
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius, cornerRadius);
+    painter.drawRoundedRect(frame.adjusted(line / 2., line / 2., -line / 2., -line / 2.), cornerRadius,
+                            cornerRadius);
 }

@@ -28,14 +28,13 @@ QColor zeroLine()
 
 ScopeView::ScopeView(QWidget *parent)
     : QWidget(parent)
-    , m_idleText(tr("未播放，没有波形"))
 {
     setFixedHeight(fixedHeight);
     setMinimumWidth(leastWidth);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setAccessibleName(tr("示波器"));
-    tellEmptyText();
+    setIdleText({});
 }
 
 void ScopeView::showFrame(const Channel &left, const Channel &right, int bucketCount)
@@ -75,9 +74,10 @@ void ScopeView::showNoPcm(const QString &text)
 
 void ScopeView::setIdleText(const QString &text)
 {
-    if (text == m_idleText)
+    const QString wanted = text.isEmpty() ? tr("未播放，没有波形") : text;
+    if (wanted == m_idleText)
         return;
-    m_idleText = text;
+    m_idleText = wanted;
     tellEmptyText();
     update();
 }

@@ -32,7 +32,7 @@ public:
     void clear();
     /// No buckets, because this path carries no PCM.
     void showNoPcm(const QString &text);
-    /// What stands in an empty view; at first that nothing plays.
+    /// What stands in an empty view; an empty text brings back the first one, that nothing plays.
     void setIdleText(const QString &text);
     QString idleText() const { return m_idleText; }
 

@@ -37,7 +37,7 @@ SpectrumView::SpectrumView(QWidget *parent)
     setAccessibleName(tr("频谱"));
     m_timer.setInterval(tickMs);
     m_timer.setTimerType(Qt::PreciseTimer);
-    connect(&m_timer, &QTimer::timeout, this, &SpectrumView::tick);
+    connect(&m_timer, &QTimer::timeout, this, &SpectrumView::advance);
 }
 
 void SpectrumView::showFrame(std::span<const double> left, std::span<const double> right, int bandCount)
@@ -111,7 +111,7 @@ bool SpectrumView::canBeSeen() const
     return isVisible() && !window()->isMinimized();
 }
 
-void SpectrumView::tick()
+void SpectrumView::advance()
 {
     if (m_bandCount == 0 || !canBeSeen()) {
         m_timer.stop();

@@ -31,6 +31,9 @@ public:
     /// No bands, because this path carries no PCM; \param text says so in the middle of the view
     void showNoPcm(const QString &text);
 
+    /// One step of the bars on their way; the timer's, every 16 ms.
+    void advance();
+
     int bandCount() const { return m_bandCount; }
     /// Whether bars are on their way; then a timer runs, unless nobody could see it.
     bool isMoving() const { return m_timer.isActive(); }
@@ -50,7 +53,6 @@ protected:
 private:
     using Levels = std::array<double, mostBands>;
 
-    void tick();
     bool step(Levels &shown, const Levels &target) const;
     void setBandCount(int count);
     void setReason(bool noPcm, const QString &text);

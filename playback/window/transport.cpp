@@ -133,6 +133,7 @@ void PlayerGuiWindow::togglePause()
 void PlayerGuiWindow::setPlayingUi(bool on)
 {
     m_start.uiPlaying = on;
+    tellWhyScopeIsEmpty();
     m_ui.dock->stop->setEnabled(on);
     if (!on) {
         m_start.paused = false;

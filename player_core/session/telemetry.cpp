@@ -305,7 +305,8 @@ void Telemetry::saySpectrumHead()
         // Whoever shows the two blocks as the two channels then shows what was measured.
         spectrum_ = std::make_unique<SpectrumAnalyser>(frameRateHz_, SpectrumSecondBlock::rightChannel);
     lines_.say("SPC cfg " + std::to_string(frameRateHz_) + ' ' + std::to_string(SpectrumAnalyser::bands));
-    lines_.say(spectrum_->zonesLine());
+    // Behind a prefix: a bare SPC line gives way to the frames that follow it.
+    lines_.say("[player] " + spectrum_->zonesLine());
 }
 
 void Telemetry::sayWaveHead()

@@ -1,6 +1,8 @@
 // What was measured, on its way into the instruments.
 #include "ui/window/player_gui_window.h"
 
+#include "app/settings_store.h"
+#include "app/stored_params.h"
 #include "ui/instrument_panel.h"
 #include "ui/meter_reading.h"
 #include "ui/scope_view.h"
@@ -35,6 +37,18 @@ void PlayerGuiWindow::showScopeFrame()
     const WaveformChannel &right = frame.channel2.first.empty() ? frame.channel1 : frame.channel2;
     m_ui.instruments->scope()->showFrame({frame.channel1.first, frame.channel1.second},
                                          {right.first, right.second}, frame.bucketCount);
+}
+
+void PlayerGuiWindow::tellWhyScopeIsEmpty()
+{
+    constexpr int scopeBit = 2;
+    QString why;
+    if (m_start.uiPlaying) {
+        SettingsStore file;
+        const bool asked = vizModeAtTrackStart(QSettingsAccess(file)) & scopeBit;
+        why = asked ? tr("正在等待波形") : tr("示波器已关闭，没有波形");
+    }
+    m_ui.instruments->scope()->setIdleText(why);
 }
 
 void PlayerGuiWindow::clearInstruments()

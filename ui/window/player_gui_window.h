@@ -220,6 +220,7 @@ private:
     void showSpectrumFrame();
     void showScopeFrame();
     void clearInstruments();
+    void tellWhyScopeIsEmpty();
     bool confirmClose();
 
     // ── app/window ──

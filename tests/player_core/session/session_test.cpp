@@ -372,6 +372,26 @@ TEST(SessionTest, DoPKeepsItsMarkersInStepOverTracksPausesAndSilence)
     EXPECT_FALSE(world.lines("volume: ").empty());
 }
 
+TEST(SessionTest, TheSpectrumSendsBothChannelsAndItsZonesOutlastTheFrames)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.tracks["/a.wav"] = pcmTrack(44100, 7);
+    world.start({"-i", "/a.wav", "-spectrum", "on"});
+    EXPECT_EQ(world.wait(), exit_code::done);
+    // A bare line would be overtaken in a host that keeps the newest.
+    EXPECT_EQ(world.lines("[player] SPC zones low=").size(), 1u);
+    const std::vector<std::string> frames = world.lines("SPC 44100 64 ");
+    ASSERT_FALSE(frames.empty());
+    // Two channels of noise differ both ways; a held peak is never below what it holds.
+    bool below = false;
+    const std::string &frame = frames.back();
+    const size_t main = std::string("SPC 44100 64 ").size();
+    for (size_t band = 0; band < 64; ++band)
+        below = below || frame.substr(main + 129 + 2 * band, 2) < frame.substr(main + 2 * band, 2);
+    EXPECT_TRUE(below);
+}
+
 TEST(SessionTest, DsdBitsReachTheDeviceAsTheyAre)
 {
     FakeWorld world;
