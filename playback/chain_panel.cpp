@@ -180,6 +180,7 @@ void ChainRowList::setRows(const QList<ChainRow> &rows)
         label->setObjectName("vesperChainRow"_L1);
         label->setTextFormat(Qt::RichText);
         label->setWordWrap(true);
+        label->setIndent(0);
         label->setText(chainRowHtml(row));
         // The tool tip is the value as it came, which may look like rich text and is none.
         label->setToolTip(row.value.toHtmlEscaped());

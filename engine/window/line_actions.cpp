@@ -101,7 +101,6 @@ void LineActions::operator()(const ShowChainText &effect) const
 {
     window.m_signal.chain = effect.result;
     window.m_signal.chainToolTip = effect.toolTip;
-    window.refreshSignalText();
     window.refreshChainPanel();
 }
 

@@ -54,7 +54,6 @@ void PlayerGuiWindow::forgetTrackFacts()
     m_signal.chainToolTip.clear();
     m_chain.cards = {};
     m_ui.stage->showAudioLine({});
-    refreshSignalText();
     refreshChainPanel();
 }
 
@@ -62,16 +61,22 @@ void PlayerGuiWindow::refreshChainPanel()
 {
     if (!m_ui.chain)
         return;
-    const QMap<QString, QString> labels = currentChainLabels(m_lines.chain);
-    const QString text = chainLabelsText(labels);
+    const QString text = chainLabelsText(currentChainLabels(m_lines.chain));
     m_ui.chain->showRows(buildChainRows(text));
     m_ui.chain->showCards(m_chain.cards);
+    m_ui.chain->showVerdict(chainLampNow());
+    // Its words follow the lamp.
+    refreshSignalText();
+}
+
+ChainLampView PlayerGuiWindow::chainLampNow() const
+{
     ChainLampFacts facts;
     facts.playing = m_start.uiPlaying;
-    facts.labels = labels;
+    facts.labels = currentChainLabels(m_lines.chain);
     facts.chain = m_signal.chain;
     facts.checkPassed = m_chain.check.passedFor(m_lines.chain.track);
-    m_ui.chain->showVerdict(chainLamp(facts));
+    return chainLamp(facts);
 }
 
 void PlayerGuiWindow::showChainBlock()
@@ -156,6 +161,7 @@ void PlayerGuiWindow::onVerifyLine(const QString &text)
     if (!check.verifyActive || !line || check.lines.size() >= mostVerifyLines)
         return;
     check.lines.append(text);
+    logFileOnly(text);
     if (line->item) {
         check.items.append(*line->item);
         m_chain.verifyDialog->addItem(*line->item, check.items);

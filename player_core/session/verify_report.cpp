@@ -119,15 +119,16 @@ StageItem depthItem(const ChainFacts &f)
     // Single floats carry the 24 bits of their mantissa.
     const int room = floatWire ? 24 : wire.validBits;
     const std::string bits = std::to_string(room) + " bits";
-    if (f.dithered)
-        return broken(stage_name::depth,
-                      "the device takes " + bits + " of the source's " + std::to_string(from.depthBits));
-    if (from.isDsd() || (from.isFloat && floatWire && from.depthBits <= 32))
-        return kept(stage_name::depth, "the device takes the samples in " + bits + ", without rounding");
-    if (from.isFloat || from.depthBits > room)
+    const bool fits = from.isFloat ? floatWire && from.depthBits <= 32 : from.depthBits <= room;
+    if (!fits)
         return broken(stage_name::depth, "the device takes " + bits + " of the source's " +
                                              std::to_string(from.depthBits) +
                                              (from.isFloat ? " in floats" : ""));
+    if (f.dithered)
+        return broken(stage_name::depth,
+                      "what an earlier stage changed is rounded to " + bits + ", with dither");
+    if (from.isDsd() || from.isFloat)
+        return kept(stage_name::depth, "the device takes the samples without rounding");
     return kept(stage_name::depth, "all " + std::to_string(from.depthBits) + " bits fit the device's " +
                                        std::to_string(room) + ", no dither");
 }

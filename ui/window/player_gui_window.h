@@ -310,6 +310,8 @@ private:
     /// What the engine tells belongs to a track: another one begins.
     /// \param playedOn the engine went on by itself and may have told of it already
     void beginTrackFacts(bool playedOn);
+    /// The worst of what is known of the present track's chain.
+    struct ChainLampView chainLampNow() const;
     /// Shows all that belongs to a track as not known.
     void forgetTrackFacts();
 

@@ -76,8 +76,12 @@ const ChainCase cases[] = {
          f.transform.toRateHz = 48000;
      },
      "converted (the rate is converted from 44100 Hz to 48000 Hz", "NO: the rate is converted"},
-    {"depth", [](ChainFacts &f) { f.dithered = true; }, "converted (the device takes 16 bits",
-     "NO: the device takes 16 bits"},
+    {"depth",
+     [](ChainFacts &f) {
+         f.dithered = true;
+         f.source.format.depthBits = 24;
+     },
+     "converted (the device takes 16 bits", "NO: the device takes 16 bits"},
     {"channels", [](ChainFacts &f) { f.transform.toChannels = 6; }, "converted (2 channels are mapped to 6",
      "NO: 2 channels are mapped to 6"},
     {"decoded DSD",

@@ -74,9 +74,16 @@ const VerifyCase cases[] = {
     {"mixed", [](ChainFacts &f) { f.mixing = true; }, stage_name::crossfade, "two tracks"},
     {"fading", [](ChainFacts &f) { f.fading = true; }, stage_name::crossfade, "a fade is under way"},
     {"clipped", [](ChainFacts &f) { f.clipped = 3; }, stage_name::clipping, "3 samples of this track"},
-    {"dithered", [](ChainFacts &f) { f.dithered = true; }, stage_name::depth, "takes 16 bits"},
+    {"dithered", [](ChainFacts &f) { f.dithered = true; }, stage_name::depth,
+     "rounded to 16 bits, with dither"},
     {"too deep", [](ChainFacts &f) { f.source.format.depthBits = 24; }, stage_name::depth,
      "16 bits of the source's 24"},
+    {"floats in integers",
+     [](ChainFacts &f) {
+         f.source.format.isFloat = true;
+         f.source.format.depthBits = 32;
+     },
+     stage_name::depth, "16 bits of the source's 32 in floats"},
     {"32 bits in a float",
      [](ChainFacts &f) {
          f.source.format.depthBits = 32;
