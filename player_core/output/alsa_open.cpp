@@ -169,6 +169,9 @@ OpenedOutput describe(const Candidate &candidate, const Wish &wish, const PcmSet
     if (candidate.place)
         opened.readBack =
             readHwParams(candidate.place->card, candidate.place->device, candidate.place->subdevice);
+    // A chain that ends in a file has a record too: what the file's own stage was set up for.
+    else if (candidate.chain.file && !candidate.chain.hardware && !candidate.chain.mixes)
+        opened.readBack = endSetupOf(candidate.pcm.get());
     const ReadBack &record = opened.readBack;
     opened.converts = record.known &&
                       (record.rateHz != opened.wire.frameRateHz || record.channels != opened.wire.channels ||

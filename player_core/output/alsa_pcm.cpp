@@ -97,7 +97,9 @@ snd_pcm_format_t alsaFormat(SampleEncoding encoding)
     return SND_PCM_FORMAT_UNKNOWN;
 }
 
-PcmChain chainOf(snd_pcm_t *pcm)
+namespace {
+
+std::string dumpOf(snd_pcm_t *pcm)
 {
     snd_output_t *raw = nullptr;
     if (snd_output_buffer_open(&raw) < 0)
@@ -107,7 +109,19 @@ PcmChain chainOf(snd_pcm_t *pcm)
         return {};
     char *text = nullptr;
     const size_t size = snd_output_buffer_string(raw, &text);
-    return parsePcmChain(std::string_view(text ? text : "", text ? size : 0));
+    return text ? std::string(text, size) : std::string();
+}
+
+} // namespace
+
+PcmChain chainOf(snd_pcm_t *pcm)
+{
+    return parsePcmChain(dumpOf(pcm));
+}
+
+ReadBack endSetupOf(snd_pcm_t *pcm)
+{
+    return parseEndSetup(dumpOf(pcm));
 }
 
 std::optional<PcmPlace> placeOf(snd_pcm_t *pcm)

@@ -40,6 +40,9 @@ snd_pcm_format_t alsaFormat(SampleEncoding encoding);
 /// What stands between us and the end of an opened PCM.
 PcmChain chainOf(snd_pcm_t *pcm);
 
+/// What the end of a set-up PCM was set up for, as ALSA records it.
+ReadBack endSetupOf(snd_pcm_t *pcm);
+
 /// Where an opened PCM ends; nothing when that is not at hardware.
 std::optional<PcmPlace> placeOf(snd_pcm_t *pcm);
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 
 namespace kelp_core {
 namespace {
@@ -92,6 +93,49 @@ PcmChain parsePcmChain(std::string_view dump)
     }
     chain.untouched = chain.blocker.empty();
     return chain;
+}
+
+namespace {
+
+/// The value of "  name         : value", or nothing.
+std::string_view fieldOf(std::string_view line, std::string_view name)
+{
+    const size_t colon = line.find(" : ");
+    if (colon == std::string_view::npos || !line.starts_with("  "))
+        return {};
+    std::string_view key = line.substr(2, colon - 2);
+    key = key.substr(0, key.find(' '));
+    return key == name ? line.substr(colon + 3) : std::string_view();
+}
+
+int positiveOf(std::string_view text)
+{
+    int value = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return error == std::errc() && end == text.data() + text.size() && value > 0 ? value : 0;
+}
+
+} // namespace
+
+ReadBack parseEndSetup(std::string_view dump)
+{
+    ReadBack record;
+    while (!dump.empty()) {
+        const size_t end = dump.find('\n');
+        const std::string_view line = dump.substr(0, end);
+        dump = end == std::string_view::npos ? std::string_view() : dump.substr(end + 1);
+        if (line.starts_with("Its setup is:"))
+            record = {};
+        if (const std::string_view rate = fieldOf(line, "rate"); !rate.empty())
+            record.rateHz = positiveOf(rate);
+        if (const std::string_view channels = fieldOf(line, "channels"); !channels.empty())
+            record.channels = positiveOf(channels);
+        if (const std::string_view format = fieldOf(line, "format"); !format.empty())
+            record.format = std::string(format.substr(0, maxBlockerChars));
+    }
+    record.known = record.rateHz > 0 && record.channels > 0 && !record.format.empty();
+    record.origin = "setup of the file at the end";
+    return record.known ? record : ReadBack{};
 }
 
 } // namespace kelp_core

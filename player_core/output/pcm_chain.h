@@ -1,5 +1,7 @@
 #pragma once
 
+#include "player_core/output/output.h"
+
 #include <string>
 #include <string_view>
 
@@ -19,5 +21,10 @@ struct PcmChain
 /// Reads the text of snd_pcm_dump(). Only stages known to pass samples on unchanged (hardware, file, null,
 /// hooks) count as untouched; anything else, and text that cannot be understood, does not.
 PcmChain parsePcmChain(std::string_view dump);
+
+/// What the last stage of a chain was set up for, of the same text once the PCM is set up: for a chain that
+/// ends in a file the format in which the file gets its samples. Not known when a field is missing or out of
+/// range.
+ReadBack parseEndSetup(std::string_view dump);
 
 } // namespace kelp_core

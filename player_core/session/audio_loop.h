@@ -147,7 +147,8 @@ private:
     bool paused_ = false;
     bool dither_ = false;
     bool quit_ = false;
-    bool sounding_ = false; ///< the present track has begun
+    bool sounding_ = false;      ///< the present track has begun
+    uint64_t clippedBefore_ = 0; ///< of the writer, at the start of the present track
     PlaybackState state_;
     std::chrono::steady_clock::time_point silenceUntil_{};
     std::chrono::steady_clock::time_point refusedSince_{};

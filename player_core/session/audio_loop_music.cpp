@@ -31,6 +31,9 @@ void AudioLoop::noteStart()
         event(AudioEventKind::trackStarted, start->serial, state_.trackFrames);
         state_.serial = start->serial;
         state_.trackFrames = 0;
+        state_.scaledFrames = 0;
+        clippedBefore_ = pcmWriter_.clipped();
+        state_.clipped = 0;
         state_.trackWrittenAt = state_.written;
         dither_ = start->dither;
         sounding_ = false;
@@ -114,7 +117,10 @@ AudioLoop::Step AudioLoop::writePcm(size_t frames, bool mixing)
     const bool unity = ramp_.isUnity() && !mixing;
     state_.unity = unity;
     state_.dithered = dither_ || !unity;
+    state_.mixing = mixing;
+    state_.scaledFrames += unity ? 0 : static_cast<int64_t>(frames);
     pcmWriter_.write(mix_.data(), frames, bytes_.data(), state_.dithered);
+    state_.clipped = pcmWriter_.clipped() - clippedBefore_;
     const size_t tap = static_cast<size_t>(tapChannels_);
     if (pcmTap_.space() >= frames * tap) {
         for (size_t f = 0; f < frames; ++f)

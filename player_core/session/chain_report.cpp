@@ -3,6 +3,7 @@
 #include "player_core/dsp/fixed_text.h"
 #include "player_core/dsp/volume.h"
 #include "player_core/session/output_lines.h"
+#include "player_core/session/verify_report.h"
 
 #include <algorithm>
 
@@ -27,24 +28,18 @@ std::string firstOwnChange(const ChainFacts &f)
         return std::to_string(t.from.channels) + " channels are mapped to " + std::to_string(t.toChannels);
     if (f.volume.place == VolumePlace::software && f.volume.gain != 1.0)
         return "the volume stage scales the samples by " + fixedText(decibels(f.volume.gain), 2) + " dB";
+    if (f.mixing)
+        return "two tracks are being mixed";
     if (f.fading)
         return "a fade is under way";
+    for (const StageItem &stage : f.stages) {
+        if (stage.proof == Proof::broken)
+            return stage.reason;
+    }
     if (f.dithered)
         return "the device takes " + std::to_string(f.output.wire.validBits) + " bits of the source's " +
                std::to_string(f.source.format.depthBits);
     return {};
-}
-
-bool readBackAgrees(const OpenedOutput &o)
-{
-    return o.readBack.rateHz == o.wire.frameRateHz && o.readBack.channels == o.wire.channels &&
-           (o.mixer || o.readBack.format == encodingName(o.wire.encoding));
-}
-
-std::string readBackText(const OpenedOutput &o)
-{
-    return rateText(o.readBack.rateHz) + ' ' + o.readBack.format + ' ' + std::to_string(o.readBack.channels) +
-           " channels";
 }
 
 /// What stands between us and the hardware and changes bits; empty when nothing is known to.
@@ -52,7 +47,7 @@ std::string behindUs(const ChainFacts &f)
 {
     const OpenedOutput &o = f.output;
     if (o.readBack.known && !readBackAgrees(o))
-        return "the device runs at " + readBackText(o);
+        return "the device runs at " + readBackText(o.readBack);
     if (o.converts)
         return "rate or format are converted behind us";
     if (o.mixer)
@@ -96,7 +91,7 @@ std::string outputFormatText(const OpenedOutput &o)
                              " channels";
     if (!o.readBack.known)
         return sent + " handed over; what the hardware runs at is not known";
-    return sent + "; read back from the " + o.readBack.origin + ": " + readBackText(o);
+    return sent + "; read back from the " + o.readBack.origin + ": " + readBackText(o.readBack);
 }
 
 std::string dspText(const ChainFacts &f)
@@ -127,6 +122,18 @@ std::string latencyText(double ms)
 
 } // namespace
 
+bool readBackAgrees(const OpenedOutput &o)
+{
+    return o.readBack.rateHz == o.wire.frameRateHz && o.readBack.channels == o.wire.channels &&
+           (o.mixer || o.readBack.format == encodingName(o.wire.encoding));
+}
+
+std::string readBackText(const ReadBack &record)
+{
+    return rateText(record.rateHz) + ' ' + record.format + ' ' + std::to_string(record.channels) +
+           " channels";
+}
+
 std::string chainVerdict(const ChainFacts &f)
 {
     const OpenedOutput &o = f.output;
@@ -147,18 +154,14 @@ std::string chainVerdict(const ChainFacts &f)
 
 std::string bitPerfectVerdict(const ChainFacts &f)
 {
-    const std::string own = firstOwnChange(f);
-    const std::string lossy = f.source.lossless ? "" : " The source itself is lossy.";
-    if (!own.empty())
-        return "NO: " + own + '.' + lossy;
-    if (const std::string behind = behindUs(f); !behind.empty())
-        return "NO: " + behind + '.' + lossy;
-    if (!f.output.readBack.known)
-        return "not known: nothing of ours changes a bit, but what the hardware runs at cannot be read "
-               "back." +
-               lossy;
-    return "YES: nothing of ours changes a bit, and the " + f.output.readBack.origin + " shows " +
-           readBackText(f.output) + '.' + lossy;
+    const std::vector<StageItem> items = verifyItems(f);
+    const StageItem *objection = firstObjection(items);
+    if (!objection)
+        return "YES: nothing changes a bit, and the " + f.output.readBack.origin + " shows " +
+               readBackText(f.output.readBack) + '.';
+    if (objection->proof == Proof::unknown)
+        return "not known: nothing of ours changes a bit, but " + objection->reason + '.';
+    return "NO: " + oneLine(objection->reason) + '.';
 }
 
 std::vector<std::string> chainReport(const ChainFacts &f)

@@ -2,6 +2,7 @@
 
 #include "player_core/dsp/effective_bits.h"
 #include "player_core/output/output.h"
+#include "player_core/session/stage_item.h"
 #include "player_core/session/stream_transform.h"
 #include "player_core/source/source.h"
 
@@ -20,9 +21,20 @@ struct ChainFacts
     TransformPlan transform;
     double latencyMs = -1; ///< below 0: not measured yet
     VolumeFacts volume;
-    bool fading = false;   ///< a fade or crossfade is under way
-    bool dithered = false; ///< the last samples were dithered
-    unsigned underruns = 0;
+    bool fading = false;    ///< a fade or crossfade is under way
+    bool dithered = false;  ///< the last samples were dithered
+    unsigned underruns = 0; ///< since the device was opened
+
+    // Of the track in hand:
+    std::string failure; ///< why its rest could not be read; empty when it could
+    bool mixing = false; ///< it is being mixed with another
+    bool paused = false;
+    int64_t trackFrames = 0;  ///< handed over so far
+    int64_t scaledFrames = 0; ///< of these, scaled, faded or mixed
+    uint64_t clipped = 0;     ///< samples cut at full scale
+    unsigned trackUnderruns = 0;
+    /// What stages say for themselves that are not always in the chain (see verifyItems).
+    std::vector<StageItem> stages;
 };
 
 /// The block that tells the listener what is done to the signal: twelve labelled lines between "SIGNAL CHAIN
@@ -32,8 +44,15 @@ struct ChainFacts
 /// The value of "chain:": one of the five verdicts that front ends know, and why.
 [[nodiscard]] std::string chainVerdict(const ChainFacts &facts);
 
-/// The value of "bit-perfect:". "YES" only when nothing of ours changes a bit and the device was read back to
-/// run as the source does; a "NO" names the first stage that changes bits.
+/// The value of "bit-perfect:", the verdict of `verify` in words. "YES" only when the source is lossless, no
+/// stage changes a bit and the device was read back to run as the source does; a "NO" names the first stage
+/// that breaks it.
 [[nodiscard]] std::string bitPerfectVerdict(const ChainFacts &facts);
+
+/// Whether the device was found to run at what we hand over. Only with a record that is known.
+[[nodiscard]] bool readBackAgrees(const OpenedOutput &output);
+
+/// "44100 Hz S16_LE 2 channels".
+[[nodiscard]] std::string readBackText(const ReadBack &record);
 
 } // namespace kelp_core

@@ -123,6 +123,7 @@ constexpr Command commands[] = {
     {"spectrum", onOffSwitch<ControlKind::spectrum>},
     {"scope", onOffSwitch<ControlKind::scope>},
     {"report", bare<ControlKind::report>},
+    {"verify", bare<ControlKind::verify>},
 };
 
 /// Whether an effects line would change what is heard. A host sends all its settings after each load, most of
@@ -151,9 +152,7 @@ std::string missedBy(std::string_view command, std::string_view rest)
         return parseNumber(rest, ratio) && ratio > 0.9995 && ratio < 1.0005 ? "" : "another speed";
     if (command == "ab")
         return rest == "off" ? "" : "the A/B loop";
-    if (command == "guard")
-        return rest == "on" ? "the peak guard" : "";
-    return command == "verify" ? "the bit-perfect self-check" : "";
+    return command == "guard" && rest == "on" ? "the peak guard" : "";
 }
 
 } // namespace

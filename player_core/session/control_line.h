@@ -19,6 +19,7 @@ enum class ControlKind
     spectrum,
     scope,
     report,
+    verify,
     notSupported, ///< known or unknown, not built: logged
     malformed,    ///< error says what is wrong
     empty,

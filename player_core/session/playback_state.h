@@ -15,6 +15,9 @@ struct PlaybackState
     uint64_t trackWrittenAt = 0; ///< `written` just behind the track's last frame so far
     bool unity = true;           ///< the gain is exactly 1 and was so for the last frames
     bool dithered = false;       ///< the last frames of music were dithered
+    bool mixing = false;         ///< the last frames of music were mixed of two tracks
+    int64_t scaledFrames = 0;    ///< of trackFrames, those that were scaled, faded or mixed
+    uint64_t clipped = 0;        ///< samples of that track that were cut at full scale
 };
 
 /// One writer, any number of readers, no waiting for the writer (a sequence lock).
@@ -30,7 +33,10 @@ public:
         serial_.store(s.serial, std::memory_order_seq_cst);
         trackFrames_.store(s.trackFrames, std::memory_order_seq_cst);
         trackWrittenAt_.store(s.trackWrittenAt, std::memory_order_seq_cst);
-        flags_.store((s.unity ? 1u : 0u) | (s.dithered ? 2u : 0u), std::memory_order_seq_cst);
+        scaledFrames_.store(s.scaledFrames, std::memory_order_seq_cst);
+        clipped_.store(s.clipped, std::memory_order_seq_cst);
+        flags_.store((s.unity ? 1u : 0u) | (s.dithered ? 2u : 0u) | (s.mixing ? 4u : 0u),
+                     std::memory_order_seq_cst);
         sequence_.store(n + 2, std::memory_order_seq_cst);
     }
 
@@ -47,6 +53,9 @@ public:
             const uint32_t flags = flags_.load(std::memory_order_seq_cst);
             s.unity = flags & 1u;
             s.dithered = flags & 2u;
+            s.mixing = flags & 4u;
+            s.scaledFrames = scaledFrames_.load(std::memory_order_seq_cst);
+            s.clipped = clipped_.load(std::memory_order_seq_cst);
             if (before % 2 == 0 && sequence_.load(std::memory_order_seq_cst) == before)
                 return s;
         }
@@ -59,6 +68,8 @@ private:
     std::atomic<uint32_t> serial_{0};
     std::atomic<int64_t> trackFrames_{0};
     std::atomic<uint64_t> trackWrittenAt_{0};
+    std::atomic<int64_t> scaledFrames_{0};
+    std::atomic<uint64_t> clipped_{0};
     std::atomic<uint32_t> flags_{1};
 };
 

@@ -1,6 +1,7 @@
 #include "player_core/session/session.h"
 
 #include "player_core/session/output_lines.h"
+#include "player_core/session/verify_report.h"
 
 #include <algorithm>
 
@@ -15,6 +16,9 @@ constexpr auto keepOpen = 3s;
 // A pause longer than this gives the device back; resuming opens it again at the same place.
 constexpr auto longestPause = 10min;
 constexpr auto watchPeriod = 200ms;
+// So long after a line the audio thread has taken it and a ramp is over: one write, and the ramp's few
+// milliseconds. A check that is asked for together with a change must not judge what was before.
+constexpr auto settleTime = 300ms;
 
 } // namespace
 
@@ -98,6 +102,8 @@ void Session::handleControl(const ControlLine &line, const std::string &text)
 {
     LoadRequest request;
     request.source.track = line.track;
+    if (line.kind != ControlKind::report && line.kind != ControlKind::verify)
+        changedAt_ = Clock::now();
     switch (line.kind) {
     case ControlKind::stop:
         return end(exit_code::stopped);
@@ -125,6 +131,8 @@ void Session::handleControl(const ControlLine &line, const std::string &text)
         return telemetry_.setScope(line.on);
     case ControlKind::report:
         return sayChain();
+    case ControlKind::verify:
+        return askVerify();
     case ControlKind::notSupported:
         return handleUnsupported(line, text);
     case ControlKind::malformed:
@@ -162,6 +170,7 @@ void Session::onTrackHeard(uint32_t serial)
         before && serial != heardSerial_ && !before->failure.empty())
         lines_.say(failedLine(before->failure, before->path));
     heardSerial_ = serial;
+    underrunsBefore_ = underruns();
     book_.forgetBefore(serial);
     transform_ = transformFor(info->facts.format);
     if (transform_.decodesDsd())
@@ -192,6 +201,9 @@ void Session::onTrackOver(uint32_t serial)
 
 std::chrono::milliseconds Session::waitTime() const
 {
+    if (verifyAt_)
+        return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(*verifyAt_ - Clock::now()),
+                          1ms, std::chrono::milliseconds(watchPeriod));
     if (!playing_ && deferred_)
         return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(deferredAt_ - Clock::now()),
                           1ms, std::chrono::milliseconds(watchPeriod));
@@ -203,6 +215,8 @@ void Session::passTime()
     const auto now = Clock::now();
     if (parent_.gone())
         return end(exit_code::stopped);
+    if (verifyAt_ && now >= *verifyAt_)
+        sayVerify();
     if (!playing_ && deferred_ && now >= deferredAt_) {
         const LoadRequest request = *deferred_;
         deferred_.reset();
@@ -282,15 +296,21 @@ VolumeFacts Session::volumeFacts() const
     return facts;
 }
 
-void Session::sayChain()
+unsigned Session::underruns() const
+{
+    return output_ && loop_ ? output_->underruns() + loop_->starved() : 0;
+}
+
+std::optional<ChainFacts> Session::chainFacts() const
 {
     const auto info = book_.find(heardSerial_);
     if (!output_ || !loop_ || !info || !playing_)
-        return lines_.say("Nothing plays, so there is no signal chain to report.");
+        return std::nullopt;
     const PlaybackState state = loop_->board().read();
     ChainFacts facts;
     facts.path = info->path;
     facts.source = info->facts;
+    facts.failure = info->failure;
     facts.deviceRequested = options_.device;
     facts.output = output_->opened();
     facts.transform = transform_;
@@ -298,8 +318,37 @@ void Session::sayChain()
     facts.volume = volumeFacts();
     facts.dithered = state.dithered;
     facts.fading = !state.unity && facts.volume.gain == 1.0 && facts.volume.place == VolumePlace::software;
-    facts.underruns = output_->underruns() + loop_->starved();
-    for (const std::string &line : chainReport(facts))
+    facts.mixing = state.mixing;
+    facts.paused = paused_;
+    facts.trackFrames = state.trackFrames;
+    facts.scaledFrames = state.scaledFrames;
+    facts.clipped = state.clipped;
+    facts.underruns = underruns();
+    facts.trackUnderruns = facts.underruns - underrunsBefore_;
+    return facts;
+}
+
+void Session::sayChain()
+{
+    const std::optional<ChainFacts> facts = chainFacts();
+    if (!facts)
+        return lines_.say("Nothing plays, so there is no signal chain to report.");
+    for (const std::string &line : chainReport(*facts))
+        lines_.say(line);
+}
+
+void Session::askVerify()
+{
+    verifyAt_ = std::max(Clock::now(), changedAt_ + settleTime);
+}
+
+void Session::sayVerify()
+{
+    verifyAt_.reset();
+    const std::optional<ChainFacts> facts = chainFacts();
+    if (!facts)
+        return lines_.say(verifyNothing());
+    for (const std::string &line : verifyReport(*facts))
         lines_.say(line);
 }
 

@@ -100,6 +100,11 @@ private:
     void park();
     VolumeFacts volumeFacts() const;
     void sayChain();
+    /// The stages as they are now; nothing while there is no stream.
+    std::optional<ChainFacts> chainFacts() const;
+    unsigned underruns() const;
+    void askVerify();
+    void sayVerify();
     void end(int code);
 
     const SessionOptions options_;
@@ -136,6 +141,9 @@ private:
     Clock::time_point idleSince_{};
     Clock::time_point pausedSince_{};
     Clock::time_point selfStarted_{};
+    Clock::time_point changedAt_{};             ///< when the last line came that may change the chain
+    std::optional<Clock::time_point> verifyAt_; ///< a check that waits for the stages to settle
+    unsigned underrunsBefore_ = 0;              ///< when the track that is heard began
     std::set<std::string> warned_;
     std::optional<int> exit_;
 };

@@ -43,7 +43,10 @@ TEST(AlsaOutput, AFilePcmGetsEveryByte)
         EXPECT_EQ(opened.wire.validBits, row.depthBits);
         EXPECT_EQ(opened.backend, "ALSA file");
         EXPECT_FALSE(opened.clocked);
-        EXPECT_FALSE(opened.readBack.known);
+        EXPECT_TRUE(opened.readBack.known) << "the file's own stage has a record";
+        EXPECT_EQ(opened.readBack.rateHz, row.rateHz);
+        EXPECT_EQ(opened.readBack.channels, row.channels);
+        EXPECT_EQ(opened.readBack.format, encodingName(row.encoding));
         EXPECT_FALSE(opened.mixer);
         EXPECT_FALSE(opened.converts);
         EXPECT_EQ(outcome.output->latencyMs(), -1.0) << "nothing was measured yet";

@@ -77,4 +77,35 @@ TEST(PcmChain, AFileNameCannotSpeakForTheChain)
     EXPECT_FALSE(chain.untouched);
 }
 
+TEST(PcmChain, TheEndsSetupIsReadFromTheLastStage)
+{
+    const std::string outer =
+        "File PCM (file=a)\nIts setup is:\n  format       : S16_LE\n  channels     : 2\n"
+        "  rate         : 44100\n  exact rate   : 44100 (44100/1)\n";
+    const std::string inner = "Slave: Null PCM\nIts setup is:\n  format       : S24_3LE\n  channels     : 6\n"
+                              "  rate         : 48000\n  exact rate   : 48000 (48000/1)\n";
+    const kelp_core::ReadBack one = kelp_core::parseEndSetup(outer);
+    EXPECT_TRUE(one.known);
+    EXPECT_EQ(one.rateHz, 44100);
+    EXPECT_EQ(one.format, "S16_LE");
+    EXPECT_EQ(one.channels, 2);
+    const kelp_core::ReadBack two = kelp_core::parseEndSetup(outer + inner);
+    EXPECT_EQ(two.rateHz, 48000);
+    EXPECT_EQ(two.format, "S24_3LE");
+    EXPECT_EQ(two.channels, 6);
+}
+
+TEST(PcmChain, ADamagedSetupIsNotKnown)
+{
+    const std::string good =
+        "Its setup is:\n  format       : S16_LE\n  channels     : 2\n  rate         : 44100\n";
+    EXPECT_TRUE(kelp_core::parseEndSetup(good).known);
+    for (const char *text : {"", "Its setup is:\n", "  rate         : 44100", "Null PCM\n",
+                             "  format       : S16_LE\n  channels     : -2\n  rate         : 44100\n",
+                             "  format       : S16_LE\n  channels     : 2\n  rate         : 99999999999\n"})
+        EXPECT_FALSE(kelp_core::parseEndSetup(text).known) << text;
+    EXPECT_FALSE(kelp_core::parseEndSetup(good + "Slave: Null PCM\nIts setup is:\n").known)
+        << "the last stage says nothing";
+}
+
 } // namespace

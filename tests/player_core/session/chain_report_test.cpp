@@ -54,7 +54,7 @@ const ChainCase cases[] = {
          f.output.mixer = true;
          f.output.readBack.rateHz = 48000;
      },
-     "OS mixer AND format (the device runs at 48000 Hz", "NO: the device runs at 48000 Hz"},
+     "OS mixer AND format (the device runs at 48000 Hz", "NO: the sound server's mixer"},
     {"device at another rate", [](ChainFacts &f) { f.output.readBack.rateHz = 48000; },
      "converted (the device runs at 48000 Hz", "NO: the device runs at 48000 Hz"},
     {"device in another format", [](ChainFacts &f) { f.output.readBack.format = "S24_LE"; },
@@ -76,8 +76,12 @@ const ChainCase cases[] = {
          f.transform.toRateHz = 48000;
      },
      "converted (the rate is converted from 44100 Hz to 48000 Hz", "NO: the rate is converted"},
-    {"depth", [](ChainFacts &f) { f.dithered = true; }, "converted (the device takes 16 bits",
-     "NO: the device takes 16 bits"},
+    {"depth",
+     [](ChainFacts &f) {
+         f.dithered = true;
+         f.source.format.depthBits = 24;
+     },
+     "converted (the device takes 16 bits", "NO: the device takes 16 bits"},
     {"channels", [](ChainFacts &f) { f.transform.toChannels = 6; }, "converted (2 channels are mapped to 6",
      "NO: 2 channels are mapped to 6"},
     {"decoded DSD",
@@ -111,12 +115,13 @@ TEST(ChainReportTest, NeverSaysNoWhereItMeansYes)
     EXPECT_THAT(chainVerdict(unknown), Not(HasSubstr("clean")));
 }
 
-TEST(ChainReportTest, TellsALossySourceBesideTheVerdict)
+TEST(ChainReportTest, ALossySourceIsNoBitPerfectOneHoweverCleanThePath)
 {
     ChainFacts facts = cleanFacts();
     facts.source.lossless = false;
-    EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("YES: "));
-    EXPECT_THAT(bitPerfectVerdict(facts), HasSubstr("The source itself is lossy."));
+    EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("NO: "));
+    EXPECT_THAT(bitPerfectVerdict(facts), HasSubstr("the coding is lossy"));
+    EXPECT_THAT(chainVerdict(facts), StartsWith("clean"));
 }
 
 TEST(ChainReportTest, HasTheTwelveLabelsInOrder)
