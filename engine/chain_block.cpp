@@ -1,6 +1,7 @@
 #include "engine/chain_block.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -26,7 +27,39 @@ bool storeChainLabel(ChainBlock &block, QStringView text)
     if (label == chainLabelNames.end())
         return false;
     block.chainLabels.insert(*label, text.sliced(label->size()).trimmed().toString());
+    // The block's first line says whose facts follow, also where no other line has announced the track.
+    if (*label == chainLabelNames.front())
+        block.announced = true;
+    block.toldOf.insert(*label, block.announced ? block.track : block.track - 1);
     return true;
+}
+
+void beginChainTrack(ChainBlock &block, bool playedOn)
+{
+    if (playedOn && std::exchange(block.announcedEarly, false))
+        return;
+    ++block.track;
+    block.announced = false;
+    block.announcedEarly = false;
+}
+
+bool announceChainTrack(ChainBlock &block)
+{
+    if (!std::exchange(block.announced, true))
+        return false;
+    ++block.track;
+    block.announcedEarly = true;
+    return true;
+}
+
+QMap<QString, QString> currentChainLabels(const ChainBlock &block)
+{
+    QMap<QString, QString> labels;
+    for (auto it = block.chainLabels.cbegin(); it != block.chainLabels.cend(); ++it) {
+        if (block.toldOf.value(it.key(), -1) == block.track)
+            labels.insert(it.key(), it.value());
+    }
+    return labels;
 }
 
 QString chainLabelsText(const QMap<QString, QString> &chainLabels)

@@ -30,6 +30,13 @@ struct ChainBlock
     QStringList chainBuffer; ///< the lines between the markers; whoever shows them empties it
     bool collecting = false;
     QMap<QString, QString> chainLabels; ///< from a label to the rest of its latest line, trimmed
+
+    // A fact belongs to the track that it was told of. The map above outlives its track; what is shown does
+    // not.
+    int track = 0;               ///< of the facts that count now, raised at every change of track
+    bool announced = false;      ///< the engine has begun to tell of that track
+    bool announcedEarly = false; ///< it did so before the window knew of the change
+    QMap<QString, int> toldOf;   ///< from a label to the track that its latest line was told of
 };
 
 /// Takes a line into the block.
@@ -39,6 +46,18 @@ bool collectChainLine(ChainBlock &block, const QString &text);
 /// Stores a line that begins with one of the labels.
 /// \return whether it did
 bool storeChainLabel(ChainBlock &block, QStringView text);
+
+/// The window begins with another track. What the engine has told of it in advance stays; without that
+/// nothing is known until it is announced. \param playedOn the engine went on by itself, and may have told of
+/// the new track before the window knew
+void beginChainTrack(ChainBlock &block, bool playedOn);
+
+/// The engine tells which source it plays.
+/// \return whether that is another track than the one it told of before
+bool announceChainTrack(ChainBlock &block);
+
+/// The facts of the present track alone.
+QMap<QString, QString> currentChainLabels(const ChainBlock &block);
 
 /// All stored facts as lines, in the order of the labels.
 QString chainLabelsText(const QMap<QString, QString> &chainLabels);

@@ -57,6 +57,7 @@ struct ShowSource
 {
     SourceInfo source;
     SourceLabels labels;
+    bool newTrack = false; ///< the engine has gone on by itself: nothing told before is of this source
 };
 /// Give the levels to the meters: at once with a delay of 0, else when the delay is over.
 struct ShowLevels

@@ -44,7 +44,8 @@ Next readSource(Reading &line)
         return Next::Continue;
     if (const std::optional<SourceInfo> source = parseSource(*rest)) {
         line.state.sourceInfo = source;
-        line.add(line_effect::ShowSource{*source, sourceLabels(*source)});
+        const bool newTrack = announceChainTrack(line.state.chain);
+        line.add(line_effect::ShowSource{*source, sourceLabels(*source), newTrack});
     }
     return Next::Continue;
 }

@@ -120,11 +120,55 @@ QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }
 QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )"_L1;
 
+// The signal chain's panel, its report and the self-check.
+constexpr auto chainRules = R"(
+QFrame#vesperChainBox, QWidget#vesperCardCell, QWidget#vesperChainRows { background: transparent; border: none; }
+QFrame#vesperChainCard, QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
+QFrame#vesperCard { color: #23232B; }
+QLabel#vesperCardKey { color: #8A857C; font-family: "DejaVu Sans Mono"; font-size: 11px; }
+QLabel#vesperCardVal { color: #EDEAE3; font-family: "DejaVu Sans Mono"; font-size: 14px; }
+QFrame#vesperChainLamp { background: #4A4842; border: none; border-radius: 5px; }
+QFrame#vesperChainLamp[lamp="good"] { background: #6FC084; }
+QFrame#vesperChainLamp[lamp="warn"] { background: #D4A843; }
+QLabel#vesperChainVerdict { color: #EDEAE3; font-size: 20px; font-weight: 600; }
+QLabel#vesperChainVerdict[px="18"] { font-size: 18px; }
+QLabel#vesperChainVerdict[px="16"] { font-size: 16px; }
+QLabel#vesperChainVerdict[px="14"] { font-size: 14px; }
+QLabel#vesperChainVerdict[px="12"] { font-size: 12px; }
+QLabel#vesperChainWarnings { color: #D4A843; font-size: 12px; font-weight: 600; }
+QLabel#vesperChainRow { color: #B9B3A8; border: none; border-bottom: 1px solid #23232B; padding: 5px 0; }
+QLabel#vesperChainRow[chainWarn="true"] { background: rgba(212, 168, 67, 31); color: #EDEAE3;
+    border-left: 2px solid #D4A843; padding: 5px 10px; }
+QDialog#vesperReportDialog, QDialog#vesperCheckDialog { background: #131317; }
+QDialog#vesperReportDialog QPushButton:default, QDialog#vesperCheckDialog QPushButton:default {
+    background: rgba(201, 169, 110, 33); border-color: #C9A96E; color: #C9A96E; font-weight: 600; }
+QDialog#vesperReportDialog QPushButton:default:hover, QDialog#vesperCheckDialog QPushButton:default:hover {
+    background: rgba(201, 169, 110, 56); }
+QPlainTextEdit#vesperReport { font-family: "DejaVu Sans Mono"; font-size: 12px; }
+QFrame#vesperCheckPlate { background: #0C0C0F; border: none; border-bottom: 1px solid #23232B; }
+QLabel#vesperCheckVerdict { color: #CFC9BF; font-size: 18px; font-weight: 700; }
+QLabel#vesperCheckVerdict[passed="true"] { color: #78C88C; }
+QLabel#vesperCheckVerdict[passed="false"] { color: #D08A5A; }
+QLabel#vesperCheckAbout { color: #B9B3A8; font-size: 13px; }
+QFrame#vesperCheckStatement { background: transparent; border: none; border-bottom: 1px solid #23232B; }
+QLabel#vesperCheckMark { color: #8A857C; }
+QLabel#vesperCheckMark[mark="proved"] { color: #6FC084; }
+QLabel#vesperCheckMark[mark="disproved"] { color: #C75C4A; }
+QLabel#vesperCheckHead { color: #EDEAE3; font-size: 15px; font-weight: 600; }
+QLabel#vesperCheckText { color: #B9B3A8; font-size: 13px; }
+QLabel#vesperCheckEvidence { color: #CFC9BF; font-family: "DejaVu Sans Mono"; font-size: 12px; }
+QLabel#vesperCheckBreak { color: #EDEAE3; font-size: 13px; font-weight: 600; }
+QLabel#vesperCheckExplain { color: #8A857C; }
+QListWidget#vesperCheckList { border-left: none; border-right: none; border-radius: 0; font-size: 12px; }
+QListWidget#vesperCheckList::item { height: 24px; padding: 0 24px; }
+QListWidget#vesperCheckList::item:hover { background: transparent; }
+)"_L1;
+
 } // namespace
 
 QString darkStyleSheet()
 {
-    return QString(surfaces) + controls + views;
+    return QString(surfaces) + controls + views + chainRules;
 }
 
 QFont interfaceFont()

@@ -5,6 +5,7 @@
 #include "engine/telemetry_mailbox.h"
 #include "engine/window/line_actions.h"
 #include "output/engine_controls.h"
+#include "playback/chain_lamp.h"
 #include "ui/display_panel.h"
 
 #include <variant>
@@ -119,13 +120,19 @@ void PlayerGuiWindow::refreshSignalText()
 {
     QStringList words;
     QStringList details;
-    for (const auto &[word, detail] : {std::pair(m_signal.chain.text, m_signal.chainToolTip),
-                                       std::pair(m_signal.bits.text, m_signal.bitsToolTip),
-                                       std::pair(m_signal.effectsStatus, QString())}) {
+    // Where the lamp is not green, no word may say that the chain is bit-perfect.
+    const ChainLampView lamp = chainLampNow();
+    const bool claims = !m_signal.chain.text.isEmpty() && !m_signal.chain.warn;
+    const bool tooMuch = claims && lamp.lamp != ChainLamp::Green;
+    for (const auto &[word, detail] :
+         {std::pair(tooMuch ? lamp.word : m_signal.chain.text, m_signal.chainToolTip),
+          std::pair(m_signal.bits.text, m_signal.bitsToolTip),
+          std::pair(m_signal.effectsStatus, QString())}) {
         if (!word.isEmpty())
             words.append(word);
         if (!detail.isEmpty())
             details.append(detail);
     }
-    m_ui.display->showSignal(words.join(u" · "_s), details.join(u'\n'), m_signal.chain.warn);
+    m_ui.display->showSignal(words.join(u" · "_s), details.join(u'\n'),
+                             m_signal.chain.warn || lamp.lamp == ChainLamp::Amber);
 }

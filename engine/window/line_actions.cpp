@@ -18,13 +18,12 @@ void LineActions::operator()(const WriteHostCopy &effect) const
 
 void LineActions::operator()(const ShowChainBlock &) const
 {
-    // Its lines stand in the log one by one already.
-    window.m_signal.chainReport = std::exchange(window.m_lines.chain.chainBuffer, {});
+    window.showChainBlock();
 }
 
 void LineActions::operator()(const RedrawChainPanel &) const
 {
-    window.m_ui.display->showChainFacts(chainLabelsText(window.m_lines.chain.chainLabels));
+    window.refreshChainPanel();
 }
 
 void LineActions::operator()(const StopNoAudioTimer &) const
@@ -66,6 +65,10 @@ void LineActions::operator()(const ShowScan &effect) const
 void LineActions::operator()(const ShowSource &effect) const
 {
     const SourceLabels &labels = effect.labels;
+    if (effect.newTrack)
+        window.forgetTrackFacts();
+    window.m_chain.cards = chainCardTexts(effect.source, labels);
+    window.refreshChainPanel();
     window.m_ui.sourceInfo->setText(labels.info);
     window.m_ui.sourceInfo->setToolTip(labels.bitrate);
     window.m_ui.display->showFormat(labels.format);
@@ -95,12 +98,12 @@ void LineActions::operator()(const ShowChainText &effect) const
 {
     window.m_signal.chain = effect.result;
     window.m_signal.chainToolTip = effect.toolTip;
-    window.refreshSignalText();
+    window.refreshChainPanel();
 }
 
-void LineActions::operator()(const ReceiveVerify &) const
+void LineActions::operator()(const ReceiveVerify &effect) const
 {
-    // Only a check that was asked for has a use for its figures, and nobody can ask for one yet.
+    window.onVerifyLine(effect.text);
 }
 
 void LineActions::operator()(const ClearScope &) const

@@ -53,6 +53,7 @@ void PlayerGuiWindow::showTrackOf(int row)
     m_ui.dock->showTrack(entry.text, folder);
     m_ui.playlistCount->setText(u"%1 / %2"_s.arg(row + 1).arg(m_ui.playlist->count()));
     showMessage(tr("正在播放… %1/%2").arg(row + 1).arg(m_ui.playlist->count()));
+    refreshCover();
 }
 
 int PlayerGuiWindow::baseRow() const

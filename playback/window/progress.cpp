@@ -24,6 +24,7 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 {
     m_progress.resetForTrack(startSec);
     m_lines.resetForTrack();
+    beginTrackFacts(false);
     // Whoever waits for the track's announcement must not take the last one's for it.
     m_lines.sourceInfo.reset();
     m_preload = {};
@@ -138,6 +139,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     }
     m_start.lastStartedRow = m_start.currentRow;
     m_progress.resetForTrack();
+    beginTrackFacts(true);
     const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
     setLastPlayed(entry);
     showTrackOf(m_start.currentRow);

@@ -134,8 +134,11 @@ void PlayerGuiWindow::setPlayingUi(bool on)
 {
     m_start.uiPlaying = on;
     m_ui.dock->stop->setEnabled(on);
-    if (!on)
+    if (!on) {
         m_start.paused = false;
+        beginTrackFacts(false);
+    }
+    refreshChainPanel();
     refreshStartButton();
     refreshNavButtons();
 }

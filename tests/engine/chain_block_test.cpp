@@ -104,4 +104,59 @@ TEST(ChainText, NoKnownVerdictCountsAsBitPerfect)
     EXPECT_EQ(chainTextOf(u"chain: whatever"), (ChainText{u"位完美"_s, false}));
 }
 
+TEST(ChainTrack, FactsBelongToTheTrackTheyWereToldOf)
+{
+    ChainBlock block;
+    beginChainTrack(block, false);
+    EXPECT_FALSE(announceChainTrack(block)) << "the track that was begun";
+    storeChainLabel(block, u"chain: clean"_s);
+    EXPECT_EQ(currentChainLabels(block).value(u"chain:"_s), u"clean"_s);
+
+    beginChainTrack(block, false);
+    EXPECT_TRUE(currentChainLabels(block).isEmpty()) << "the last track's";
+    EXPECT_EQ(block.chainLabels.value(u"chain:"_s), u"clean"_s) << "the map itself survives";
+    storeChainLabel(block, u"volume: unity"_s);
+    EXPECT_TRUE(currentChainLabels(block).isEmpty()) << "said before the engine has announced the new track";
+    announceChainTrack(block);
+    storeChainLabel(block, u"volume: unity"_s);
+    EXPECT_EQ(currentChainLabels(block).keys(), QStringList{u"volume:"_s});
+}
+
+TEST(ChainTrack, AnEngineThatPlaysOnTellsOfTheNextTrackBeforeTheWindowKnows)
+{
+    ChainBlock block;
+    beginChainTrack(block, false);
+    announceChainTrack(block);
+    storeChainLabel(block, u"chain: clean"_s);
+    EXPECT_TRUE(announceChainTrack(block)) << "another source while this track plays";
+    EXPECT_TRUE(currentChainLabels(block).isEmpty());
+    storeChainLabel(block, u"chain: converted"_s);
+    const int track = block.track;
+    beginChainTrack(block, true);
+    EXPECT_EQ(block.track, track);
+    EXPECT_EQ(currentChainLabels(block).value(u"chain:"_s), u"converted"_s);
+    beginChainTrack(block, true);
+    EXPECT_TRUE(currentChainLabels(block).isEmpty()) << "nothing was told of this one in advance";
+}
+
+TEST(ChainTrack, ATrackThatTheListenerChoseOwesNothingToWhatWasToldBefore)
+{
+    ChainBlock block;
+    beginChainTrack(block, false);
+    announceChainTrack(block);
+    announceChainTrack(block);
+    storeChainLabel(block, u"chain: clean"_s);
+    beginChainTrack(block, false);
+    EXPECT_TRUE(currentChainLabels(block).isEmpty());
+}
+
+TEST(ChainTrack, TheBlocksFirstLineAnnouncesToo)
+{
+    ChainBlock block;
+    beginChainTrack(block, false);
+    storeChainLabel(block, u"source: /a.flac"_s);
+    storeChainLabel(block, u"chain: clean"_s);
+    EXPECT_EQ(currentChainLabels(block).size(), 2);
+}
+
 } // namespace

@@ -45,6 +45,10 @@ void WindowTest::makeWindow()
     options.makeSession = [this](QObject *, const SessionOptions &) {
         return std::make_unique<FakeSession>(m_engine);
     };
+    options.askSavePath = [this](QWidget *, const QString &title, const QString &proposal) {
+        m_saveAsked << title << proposal;
+        return m_savePath;
+    };
     auto first = std::make_shared<std::atomic<bool>>(true);
     options.probe = [first, text = m_deviceList, probe = m_probe](const QString &playerBin,
                                                                   const QStringList &args, int timeoutMs,

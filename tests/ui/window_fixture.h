@@ -22,6 +22,8 @@ struct WindowInspector
     static EngineLineState &lines(PlayerGuiWindow &window) { return window.m_lines; }
     static InstrumentState &instruments(PlayerGuiWindow &window) { return window.m_instruments; }
     static SignalState &signal(PlayerGuiWindow &window) { return window.m_signal; }
+    static ChainViewState &chain(PlayerGuiWindow &window) { return window.m_chain; }
+    static CoverState &cover(PlayerGuiWindow &window) { return window.m_cover; }
     static DeviceState &devices(PlayerGuiWindow &window) { return window.m_devices; }
 };
 
@@ -50,6 +52,8 @@ protected:
         return PlayerProbeResult{};
     };
     bool m_asksBeforeClosing = false;
+    QString m_savePath;      ///< the answer to every question for a file to be written
+    QStringList m_saveAsked; ///< title and proposal of each
     std::unique_ptr<PlayerGuiWindow> m_window;
     QString m_log;
 };

@@ -54,6 +54,8 @@ void PlayerGuiWindow::connectControls()
                 saveParams();
         });
     }
+    connect(m_ui.selfCheck, &QPushButton::clicked, this, &PlayerGuiWindow::startBitPerfectCheck);
+    connect(m_ui.report, &QPushButton::clicked, this, &PlayerGuiWindow::openChainReport);
     connect(m_ui.refreshDevices, &QPushButton::clicked, this, &PlayerGuiWindow::populateDevices);
 }
 

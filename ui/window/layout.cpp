@@ -2,6 +2,7 @@
 #include "ui/window/player_gui_window.h"
 
 #include "output/engine_controls.h"
+#include "playback/chain_panel.h"
 #include "playback/playlist_widget.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
@@ -177,6 +178,8 @@ QWidget *PlayerGuiWindow::buildDevicePanel()
     auto *rows = new QVBoxLayout(panel);
     rows->setContentsMargins(areaPadding, areaPadding, areaPadding, areaPadding);
     rows->setSpacing(8);
+    m_ui.chain = new ChainPanel(panel);
+    rows->addWidget(m_ui.chain, 1);
     rows->addWidget(caption(panel, "vesperPanelTitle"_L1, tr("输出设备")));
     m_ui.device = new QComboBox(panel);
     m_ui.device->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -187,7 +190,12 @@ QWidget *PlayerGuiWindow::buildDevicePanel()
     m_ui.refreshDevices = new QPushButton(tr("刷新设备"), panel);
     m_ui.refreshDevices->setToolTip(tr("从 KelpPlayer -list 重新读取设备列表"));
     rows->addWidget(m_ui.refreshDevices);
-    rows->addStretch();
+    m_ui.selfCheck = new QPushButton(tr("位完美自检"), panel);
+    m_ui.selfCheck->setToolTip(tr("请引擎逐项检查正在播放的链路"));
+    rows->addWidget(m_ui.selfCheck);
+    m_ui.report = new QPushButton(tr("信号链报告…"), panel);
+    m_ui.report->setToolTip(tr("显示引擎自己对信号链的报告，可以保存"));
+    rows->addWidget(m_ui.report);
     m_devices.deviceCombos = QList<QComboBox *>{m_ui.device} + m_ui.engine->channelDevices;
     return panel;
 }
@@ -221,11 +229,10 @@ QWidget *PlayerGuiWindow::buildStatusLine()
 
 void PlayerGuiWindow::orderTabs()
 {
-    const QList<QWidget *> order = {m_ui.playlist,     m_ui.importFiles,    m_ui.analyze,
-                                    m_ui.engineSwitch, m_ui.device,         m_ui.refreshDevices,
-                                    m_ui.dock->stop,   m_ui.dock->previous, m_ui.dock->start,
-                                    m_ui.dock->next,   m_ui.dock->volume,   m_ui.logSwitch,
-                                    m_ui.log};
+    const QList<QWidget *> order = {
+        m_ui.playlist,       m_ui.importFiles, m_ui.analyze,      m_ui.engineSwitch, m_ui.device,
+        m_ui.refreshDevices, m_ui.selfCheck,   m_ui.report,       m_ui.dock->stop,   m_ui.dock->previous,
+        m_ui.dock->start,    m_ui.dock->next,  m_ui.dock->volume, m_ui.logSwitch,    m_ui.log};
     for (qsizetype i = 1; i < order.size(); ++i)
         setTabOrder(order.at(i - 1), order.at(i));
     // The engine's settings keep their own order, behind the switch that opens them.

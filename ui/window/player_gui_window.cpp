@@ -54,3 +54,7 @@ void PlayerGuiWindow::startUpdateCheck(bool) {}
 void PlayerGuiWindow::restorePlaylist() {}
 
 void PlayerGuiWindow::runRigReport() {}
+
+void PlayerGuiWindow::resetEffects() {}
+
+void PlayerGuiWindow::setThemeIndex(int) {}

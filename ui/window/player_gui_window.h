@@ -8,7 +8,9 @@
 #include "engine/link_state.h"
 #include "engine/progress_display.h"
 #include "output/device_state.h"
+#include "playback/chain_view_state.h"
 #include "playback/playback_state.h"
+#include "ui/cover_state.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
@@ -77,6 +79,17 @@ public:
     /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
     void expandContainerAsync(const QString &path, const std::function<void(int count)> &done);
 
+    /// Builds the panel from what the engine has told of the present track.
+    void refreshChainPanel();
+    void showChainBlock();
+    /// Opens the report dialog and asks the engine for a report.
+    void openChainReport();
+    void saveChainReport();
+    void startBitPerfectCheck();
+    void onVerifyLine(const QString &text);
+    /// Everything that could touch the samples off, then a self-check.
+    void restorePureDefaults();
+
     // ── devices (output/window) ──
     void populateDevices();
     void populateDevicesBlocking();
@@ -86,6 +99,8 @@ public:
     void startUpdateCheck(bool manual);
     void restorePlaylist();
     void runRigReport();
+    void resetEffects();
+    void setThemeIndex(int index);
 
     // ── what hooks and the self-check ask ──
     bool trackAnnounced() const { return m_lines.sourceInfo.has_value(); }
@@ -96,6 +111,12 @@ public:
     int lastPlayedRow() const;
     /// Called once, when the window has been shown.
     void noteShown();
+
+    // ── the cover (ui/window) ──
+    /// Looks for the present track's cover beside the GUI thread, and shows it or none.
+    void refreshCover();
+    /// The place where covers arrive; a null image for none.
+    void showCover(const QImage &image);
 
 public Q_SLOTS:
     void debugAutoplay(const QString &path, const QString &device);
@@ -189,6 +210,14 @@ private:
     void segmentChanged(int number);
     void commitPlayStat();
 
+    /// What the engine tells belongs to a track: another one begins.
+    /// \param playedOn the engine went on by itself and may have told of it already
+    void beginTrackFacts(bool playedOn);
+    /// The worst of what is known of the present track's chain.
+    struct ChainLampView chainLampNow() const;
+    /// Shows all that belongs to a track as not known.
+    void forgetTrackFacts();
+
     int addListedTracks(const QString &path, const PlayerProbeResult &result);
 
     // ── output/window ──
@@ -205,6 +234,8 @@ private:
     EngineLineState m_lines;
     InstrumentState m_instruments;
     SignalState m_signal;
+    ChainViewState m_chain;
+    CoverState m_cover;
     TrackStartState m_start;
     PreloadState m_preload;
     TrackProgressState m_progress;

@@ -9,6 +9,10 @@
 #include <memory>
 
 class QObject;
+class QWidget;
+
+/// The desktop's dialog for a file to be written. GUI thread.
+QString askSavePath(QWidget *parent, const QString &title, const QString &proposal);
 
 struct WindowOptions
 {
@@ -17,7 +21,12 @@ struct WindowOptions
     using Probe = std::function<PlayerProbeResult(const QString &playerBin, const QStringList &args,
                                                   int timeoutMs, const ProbeLog &log)>;
 
+    /// \return empty when the user thought better of it
+    using AskSavePath =
+        std::function<QString(QWidget *parent, const QString &title, const QString &proposal)>;
+
     MakeSession makeSession = &::makeSession;
     Probe probe = &runEngineProbe; ///< called on any thread
+    AskSavePath askSavePath = &::askSavePath;
     bool asksBeforeClosing = true; ///< false while a hook is armed that ends the program
 };

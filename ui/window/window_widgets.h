@@ -2,6 +2,7 @@
 /// The widgets that several topics touch. All are children of the window.
 #pragma once
 
+class ChainPanel;
 class DisplayPanel;
 class DockBar;
 class EngineControls;
@@ -25,6 +26,9 @@ struct WindowWidgets
     EngineControls *engine = nullptr;
     QComboBox *device = nullptr; ///< the primary device
     QPushButton *refreshDevices = nullptr;
+    ChainPanel *chain = nullptr;
+    QPushButton *selfCheck = nullptr;
+    QPushButton *report = nullptr; ///< the signal chain's
     QLabel *sourceInfo = nullptr;
     QLabel *message = nullptr; ///< the status line's text
     QToolButton *logSwitch = nullptr;

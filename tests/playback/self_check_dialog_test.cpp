@@ -1,0 +1,132 @@
+#include "playback/self_check_dialog.h"
+
+#include "playback/report_dialog.h"
+#include "playback/self_check_marks.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(SelfCheckDialogTest, RunsThroughACheck)
+{
+    SelfCheckDialog dialog;
+    EXPECT_EQ(dialog.windowTitle(), u"位完美自检"_s);
+    EXPECT_EQ(dialog.size(), QSize(720, 640));
+    dialog.begin(u"a · hw:1,0"_s);
+    EXPECT_TRUE(dialog.windowTitle().contains(u"检查中…"_s));
+    QList<VerifyItem> items = {{u"source"_s, u"FLAC"_s, true}};
+    dialog.addItem(items.last(), items);
+    items.append({u"volume"_s, u"scaled"_s, false});
+    dialog.addItem(items.last(), items);
+    QListWidget *list = dialog.list();
+    ASSERT_EQ(list->count(), 2);
+    EXPECT_EQ(list->item(0)->text(), u"✓ source — FLAC"_s);
+    EXPECT_EQ(list->item(1)->text(), u"✗ volume — scaled"_s);
+
+    dialog.showVerdict({u"BITPERFECT=0 | volume: scaled"_s, u"BITPERFECT=0"_s, false}, items);
+    ASSERT_EQ(list->count(), 3);
+    EXPECT_EQ(list->item(0)->text(), u"结论：非位完美 ✗  BITPERFECT=0"_s);
+    EXPECT_TRUE(list->item(0)->font().bold());
+    EXPECT_EQ(list->item(0)->foreground().color(), QColor(208, 138, 90));
+    EXPECT_EQ(dialog.windowTitle(), u"位完美自检 — 未通过"_s);
+    EXPECT_TRUE(dialog.findChild<QLabel *>(u"vesperCheckBreak"_s)->text().contains(u"volume: scaled"_s));
+    QStringList marks;
+    for (const CheckMarkView *mark : dialog.findChildren<CheckMarkView *>())
+        marks.append(mark->property("mark").toString());
+    EXPECT_EQ(marks, (QStringList{u"proved"_s, u"disproved"_s, u"unproved"_s}));
+
+    dialog.begin({});
+    EXPECT_EQ(list->count(), 0);
+    EXPECT_TRUE(dialog.windowTitle().contains(u"检查中…"_s));
+    EXPECT_TRUE(dialog.findChild<QLabel *>(u"vesperCheckBreak"_s)->isHidden());
+    dialog.showVerdict({u"BITPERFECT=1"_s, u"BITPERFECT=1"_s, true}, {});
+    EXPECT_EQ(list->item(0)->text(), u"结论：位完美 ✓  BITPERFECT=1"_s);
+    EXPECT_EQ(list->item(0)->foreground().color(), QColor(120, 200, 140));
+    EXPECT_EQ(dialog.windowTitle(), u"位完美自检 — 通过"_s);
+}
+
+TEST(SelfCheckDialogTest, CloseIsTheDefault)
+{
+    SelfCheckDialog dialog;
+    QList<QPushButton *> defaults;
+    for (QPushButton *button : dialog.findChildren<QPushButton *>()) {
+        if (button->isDefault())
+            defaults.append(button);
+    }
+    ASSERT_EQ(defaults.size(), 1);
+    dialog.show();
+    defaults.first()->click();
+    EXPECT_FALSE(dialog.isVisible());
+}
+
+TEST(SelfCheckDialogTest, AVerdictOnALightListStandsOnAPlate)
+{
+    SelfCheckDialog dialog;
+    SelfCheckColors colors;
+    colors.plate = QColor(43, 39, 32);
+    dialog.setColors(colors);
+    dialog.showVerdict({u"BITPERFECT=1"_s, u"BITPERFECT=1"_s, true}, {});
+    EXPECT_EQ(dialog.list()->item(0)->background().color(), QColor(43, 39, 32));
+}
+
+TEST(SelfCheckDialogTest, NothingIsCutAtItsSize)
+{
+    SelfCheckDialog dialog;
+    dialog.begin(u"a very long title "_s.repeated(20));
+    dialog.show();
+    QApplication::processEvents();
+    EXPECT_LE(dialog.minimumSizeHint().width(), 720) << "a long title does not widen the dialog";
+    EXPECT_LE(dialog.minimumSizeHint().height(), 640);
+    for (const auto *statement : dialog.findChildren<CheckStatementView *>())
+        EXPECT_GE(statement->height(), statement->minimumSizeHint().height());
+}
+
+TEST(CheckMarks, EachIsDrawnInItsOwnWay)
+{
+    QList<QImage> pictures;
+    for (const CheckMark mark :
+         {CheckMark::Pending, CheckMark::Proved, CheckMark::Disproved, CheckMark::NotProvable}) {
+        CheckMarkView view;
+        view.setMark(mark);
+        view.resize(32, 32);
+        pictures.append(view.grab().toImage());
+    }
+    for (qsizetype i = 0; i < pictures.size(); ++i) {
+        for (qsizetype j = i + 1; j < pictures.size(); ++j)
+            EXPECT_NE(pictures[i], pictures[j]) << i << " and " << j;
+    }
+}
+
+TEST(ReportDialogTest, WarningsAreRed)
+{
+    ReportDialog dialog;
+    dialog.append({u"dsp: none"_s, u"underruns: 12"_s, u"chain: <b>clean</b>"_s});
+    EXPECT_EQ(dialog.lines(), (QStringList{u"dsp: none"_s, u"underruns: 12"_s, u"chain: <b>clean</b>"_s}));
+    const auto *view = dialog.findChild<QPlainTextEdit *>(u"vesperReport"_s);
+    const auto colorOf = [view](int block) {
+        const QTextBlock line = view->document()->findBlockByNumber(block);
+        return line.begin().fragment().charFormat().foreground().color();
+    };
+    EXPECT_EQ(colorOf(1), QColor(u"#c0392b"_s));
+    EXPECT_NE(colorOf(0), QColor(u"#c0392b"_s));
+    EXPECT_NE(colorOf(2), QColor(u"#c0392b"_s)) << "red does not run into the next line";
+    EXPECT_TRUE(view->updatesEnabled());
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    return RUN_ALL_TESTS();
+}
