@@ -85,6 +85,7 @@ HookPlan parseHooks(const HookEnvironment &environment)
     plan.nextAfterSec = seconds("KELP_GUI_NEXT_AFTER");
     plan.quitAfterSec = seconds("KELP_GUI_QUIT_AFTER");
     plan.stopAfterSec = seconds("KELP_GUI_STOP_AFTER");
+    plan.checkAfterSec = seconds("KELP_GUI_CHECK_AFTER");
     plan.autostopMs = std::min(timeAboveZero(text("KELP_GUI_AUTOSTOP")), longestSec * 1000.);
     if (const QString spec = text("KELP_GUI_MOVEROW"); !spec.isEmpty())
         parseMoveRow(spec, plan);

@@ -40,6 +40,7 @@ struct HookPlan
     double quitAfterSec = 0.;
     double stopAfterSec = 0.;
     double autostopMs = 0.;
+    double checkAfterSec = 0.; ///< the bit-perfect self-check
     std::optional<MoveRow> moveRow;
     QString badMoveRow; ///< a value that cannot be read
     bool rigDump = false;

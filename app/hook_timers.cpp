@@ -100,6 +100,16 @@ void armStopAfter(PlayerGuiWindow &window, const HookPlan &plan)
     });
 }
 
+void armCheckAfter(PlayerGuiWindow &window, const HookPlan &plan)
+{
+    if (plan.checkAfterSec <= 0.)
+        return;
+    after(window, plan.checkAfterSec * 1000., [&window] {
+        say(u"[gui] KELP_GUI_CHECK_AFTER: 位完美自检"_s);
+        window.startBitPerfectCheck();
+    });
+}
+
 void armMoveRow(PlayerGuiWindow &window, const HookPlan &plan)
 {
     if (!plan.badMoveRow.isEmpty())
@@ -184,9 +194,9 @@ void takeHookScreenshot(PlayerGuiWindow &window, const HookPlan &plan)
 void armHooks(PlayerGuiWindow &window, const HookPlan &plan)
 {
     using Arm = void (*)(PlayerGuiWindow &, const HookPlan &);
-    static constexpr std::array<Arm, 10> table = {armAutoplay,  armJump,      armNextEvery, armNextAfter,
-                                                  armQuitAfter, armStopAfter, armMoveRow,   armAutostop,
-                                                  armRigDump,   armAutoClose};
+    static constexpr std::array<Arm, 11> table = {armAutoplay,  armJump,      armNextEvery,  armNextAfter,
+                                                  armQuitAfter, armStopAfter, armCheckAfter, armMoveRow,
+                                                  armAutostop,  armRigDump,   armAutoClose};
     for (const Arm arm : table)
         arm(window, plan);
 }

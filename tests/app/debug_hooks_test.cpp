@@ -33,6 +33,12 @@ TEST(DebugHooks, AutoplayTakesADevice)
     EXPECT_FALSE(planFor({{u"KELP_GUI_AUTOPLAY"_s, {}}}).autoplay);
 }
 
+TEST(DebugHooks, ACheckHasItsTime)
+{
+    EXPECT_EQ(planFor({{u"KELP_GUI_CHECK_AFTER"_s, u"1.5"_s}}).checkAfterSec, 1.5);
+    EXPECT_EQ(planFor({{u"KELP_GUI_CHECK_AFTER"_s, u"soon"_s}}).checkAfterSec, 0.);
+}
+
 TEST(DebugHooks, AJumpNeedsExactlyTwoParts)
 {
     EXPECT_EQ(planFor({{u"KELP_GUI_JUMP_AT"_s, u"3:7"_s}}).jumpAt, (HookPlan::JumpAt{3., 7}));
