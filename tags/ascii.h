@@ -33,6 +33,14 @@ inline std::string asciiLower(std::string_view text)
     return lower;
 }
 
+inline std::string asciiUpper(std::string_view text)
+{
+    std::string upper(text);
+    for (char &c : upper)
+        c = asciiUpper(c);
+    return upper;
+}
+
 /// How many characters at the front are of a kind.
 constexpr size_t countLeading(std::string_view text, bool (*isOfKind)(char))
 {
