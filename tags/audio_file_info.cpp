@@ -3,6 +3,8 @@
 #include "platform/file_reader.h"
 #include "tags/head_readers.h"
 
+#include <array>
+
 namespace {
 
 constexpr uint64_t bufferBytes = 65536;
@@ -76,10 +78,14 @@ bool readFormat(LazyBytes &head, AudioFileInfo &info)
 
 bool readAudioFileInfo(AudioFileInfo &info, const std::string &path)
 {
+    // Kept a thread: fresh pages for every file would cost as much as reading into them.
+    static thread_local std::array<uint8_t, 2 * bufferBytes> buffers;
     const FileReader file(path);
     if (!file.isOpen() || file.size() < fewestBytes)
         return false;
-    LazyBytes head(file, 0, std::min(file.size(), bufferBytes));
+    const std::span<uint8_t> room(buffers);
+    const auto length = static_cast<size_t>(std::min(file.size(), bufferBytes));
+    LazyBytes head(file, 0, room.first(length));
     if (head.first(fewestBytes).size() < fewestBytes)
         return false;
 
@@ -89,7 +95,7 @@ bool readAudioFileInfo(AudioFileInfo &info, const std::string &path)
         readAiffTexts(file, info);
 
     if (file.size() > head.size() + tailSlack) {
-        LazyBytes tail(file, file.size() - std::min(file.size(), bufferBytes), bufferBytes);
+        LazyBytes tail(file, file.size() - length, room.subspan(bufferBytes, length));
         readTags(head, &tail, info);
     } else {
         readTags(head, nullptr, info);

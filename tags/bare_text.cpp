@@ -44,6 +44,10 @@ void scanBareText(LazyBytes &bytes, AudioFileInfo &info)
     // One walk over the "=" serves all keys; each takes its first hit.
     for (size_t equals = text.find('='); equals != std::string_view::npos;
          equals = text.find('=', equals + 1)) {
+        // The last letters of the keys: audio data holds many a "=" and hardly a key.
+        if (equals == 0 ||
+            std::string_view("ETM").find(asciiUpper(text[equals - 1])) == std::string_view::npos)
+            continue;
         for (size_t i = 0; i < bareKeys.size(); ++i) {
             if (!wanted[i] || !endsWithKey(text.substr(0, equals), bareKeys[i].key))
                 continue;

@@ -1,6 +1,7 @@
 #include "tags/lazy_bytes.h"
 
 #include "platform/file_reader.h"
+#include "tags/byte_scan.h"
 
 namespace {
 
@@ -15,11 +16,11 @@ LazyBytes::LazyBytes(ByteView bytes)
 {
 }
 
-LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, uint64_t size)
+LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer)
     : m_file(&file)
     , m_offset(offset)
-    , m_size(size)
-    , m_buffer(std::make_unique_for_overwrite<uint8_t[]>(static_cast<size_t>(size)))
+    , m_size(buffer.size())
+    , m_buffer(buffer)
 {
 }
 
@@ -29,11 +30,12 @@ void LazyBytes::load(uint64_t count)
     // Doubling keeps the calls few when a parser walks on in small steps.
     const uint64_t rounded = (count + pageBytes - 1) / pageBytes * pageBytes;
     const uint64_t wanted = std::min(std::max(rounded, 2 * have), m_size);
-    const size_t missing = static_cast<size_t>(wanted - have);
-    const size_t got = m_file->readAt(m_offset + have, {m_buffer.get() + have, missing});
-    if (got < missing)
+    const std::span<uint8_t> missing =
+        m_buffer.subspan(static_cast<size_t>(have), static_cast<size_t>(wanted - have));
+    const size_t got = m_file->readAt(m_offset + have, missing);
+    if (got < missing.size())
         m_size = have + got;
-    m_loaded = ByteView({m_buffer.get(), static_cast<size_t>(have + got)});
+    m_loaded = ByteView(m_buffer.first(static_cast<size_t>(have) + got));
 }
 
 std::optional<uint64_t> LazyBytes::find(std::string_view word)
@@ -41,8 +43,7 @@ std::optional<uint64_t> LazyBytes::find(std::string_view word)
     uint64_t from = 0;
     for (uint64_t reach = std::min(pageBytes, m_size);;) {
         const ByteView bytes = first(reach);
-        const size_t hit = bytes.text().find(word, static_cast<size_t>(from));
-        if (hit != std::string_view::npos)
+        if (const std::optional<uint64_t> hit = findWord(bytes, word, from))
             return hit;
         if (bytes.size() >= m_size)
             return std::nullopt;

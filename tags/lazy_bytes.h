@@ -4,8 +4,6 @@
 
 #include "tags/byte_view.h"
 
-#include <memory>
-
 class FileReader;
 
 /// A range of a file, or bytes in memory, seen from its first byte. Most heads say all in their first page,
@@ -15,8 +13,8 @@ class LazyBytes
 public:
     /// Bytes that are there already and outlive this.
     explicit LazyBytes(ByteView bytes);
-    /// A range within the file, which outlives this. The memory of the whole range is set aside, unfilled.
-    LazyBytes(const FileReader &file, uint64_t offset, uint64_t size);
+    /// A range within the file, from offset on and as long as the buffer. Both outlive this.
+    LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer);
 
     uint64_t size() const { return m_size; }
     /// The first count bytes, or all if there are fewer. Views handed out stay valid.
@@ -34,7 +32,7 @@ public:
     }
     /// Whether count bytes from offset on are inside.
     bool has(uint64_t offset, uint64_t count) const { return offset <= m_size && count <= m_size - offset; }
-    /// Where the word stands for the first time.
+    /// Where the word, of two characters at least, stands for the first time.
     std::optional<uint64_t> find(std::string_view word);
 
 private:
@@ -43,6 +41,6 @@ private:
     const FileReader *m_file = nullptr;
     uint64_t m_offset = 0;
     uint64_t m_size = 0;
-    std::unique_ptr<uint8_t[]> m_buffer;
+    std::span<uint8_t> m_buffer;
     ByteView m_loaded;
 };
