@@ -8,7 +8,9 @@
 #include "engine/link_state.h"
 #include "engine/progress_display.h"
 #include "output/device_state.h"
+#include "playback/now_playing.h"
 #include "playback/playback_state.h"
+#include "tags/tag_summary.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
@@ -165,6 +167,9 @@ private:
     SessionShape wantedShape() const;
     void setPlayingUi(bool on);
     void showTrackOf(int row);
+    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from.
+    void refreshNowPlaying(int row = -1);
+    void showNowPlaying(int row, const NowPlayingLabels &labels);
     void refreshStartButton();
     void refreshNavButtons();
     void resetTrackState(double startSec);
@@ -208,6 +213,7 @@ private:
     TrackStartState m_start;
     PreloadState m_preload;
     TrackProgressState m_progress;
+    TagSummaryCache m_tagSummaries;
     DeviceState m_devices;
     QSet<QString> m_pendingContainers; ///< paths whose listing is still out
     bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
