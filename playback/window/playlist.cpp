@@ -3,6 +3,7 @@
 
 #include "playback/playlist_widget.h"
 #include "playback/row_order.h"
+#include "tags/disc_number.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
 #include "ui/library_panel.h"
@@ -11,12 +12,6 @@
 #include <QLabel>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-constexpr qsizetype formatTagLength = 5;
-
-} // namespace
 
 int PlayerGuiWindow::appendFile(const QString &path)
 {
@@ -46,18 +41,32 @@ void PlayerGuiWindow::showTrackOf(int row)
     m_start.playingRow = row;
     m_ui.playlist->highlight(row);
     m_ui.playlist->showRow(row);
-    const PlaylistEntry entry = m_ui.playlist->entryAt(row);
-    const QFileInfo file(entry.path);
-    const QString folder = file.dir().dirName();
-    m_ui.display->showTrack({u"TRACK %1"_s.arg(row + 1, 2, 10, QChar(u'0')),
-                             file.suffix().toUpper().left(formatTagLength),
-                             entry.text,
-                             folder,
-                             {}});
-    m_ui.dock->showTrack(entry.text, folder);
+    refreshNowPlaying(row);
     m_ui.library->showCounts(row, m_ui.playlist->count(), m_ui.playlist->count());
     showMessage(tr("正在播放… %1/%2").arg(row + 1).arg(m_ui.playlist->count()));
     refreshCover();
+}
+
+void PlayerGuiWindow::refreshNowPlaying(int row)
+{
+    NowPlayingFacts facts;
+    const int shown = row >= 0 ? row : baseRow();
+    if (m_ui.playlist->hasRow(shown)) {
+        facts.row = shown;
+        facts.entry = m_ui.playlist->entryAt(shown);
+        // A station has no file whose tags or folder could be read.
+        if (!facts.entry.isStream())
+            facts.summary = m_tagSummaries.tagSummaryFor(facts.entry.path);
+        facts.disc = discNumberFromPath(QFileInfo(facts.entry.path).absoluteFilePath().toStdString());
+    }
+    showNowPlaying(facts.row, nowPlayingLabels(facts));
+}
+
+void PlayerGuiWindow::showNowPlaying(int row, const NowPlayingLabels &labels)
+{
+    const QString meta = labels.disc.isEmpty() ? labels.track : labels.track + u" · "_s + labels.disc;
+    m_ui.display->showTrack({meta, labels.format, labels.title, labels.artistLine, labels.albumLine});
+    m_ui.dock->showTrack(labels.title, labels.artistLine);
 }
 
 int PlayerGuiWindow::baseRow() const

@@ -10,10 +10,12 @@
 #include "output/device_state.h"
 #include "output/engine_choices.h"
 #include "playback/chain_view_state.h"
+#include "playback/now_playing.h"
 #include "playback/playback_state.h"
 #include "ui/area_plan.h"
 #include "ui/cover_state.h"
 #include "playback/transport_state.h"
+#include "tags/tag_summary.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
@@ -268,6 +270,9 @@ private:
     SessionShape wantedShape() const;
     void setPlayingUi(bool on);
     void showTrackOf(int row);
+    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from.
+    void refreshNowPlaying(int row = -1);
+    void showNowPlaying(int row, const NowPlayingLabels &labels);
     void refreshStartButton();
     void refreshNavButtons();
     void resetTrackState(double startSec);
@@ -340,6 +345,7 @@ private:
     TransportState m_transport;
     PreloadState m_preload;
     TrackProgressState m_progress;
+    TagSummaryCache m_tagSummaries;
     DeviceState m_devices;
     EngineChoices m_choices;
     QSet<QString> m_pendingContainers; ///< paths whose listing is still out
