@@ -23,6 +23,7 @@ struct WindowInspector
     static InstrumentState &instruments(PlayerGuiWindow &window) { return window.m_instruments; }
     static SignalState &signal(PlayerGuiWindow &window) { return window.m_signal; }
     static DeviceState &devices(PlayerGuiWindow &window) { return window.m_devices; }
+    static PhoneRemoteState &remote(PlayerGuiWindow &window) { return window.m_remote; }
 };
 
 class WindowTest : public testing::Test

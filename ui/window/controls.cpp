@@ -1,6 +1,7 @@
 // What the window's controls set going.
 #include "ui/window/player_gui_window.h"
 
+#include "net/remote_controls.h"
 #include "output/engine_controls.h"
 #include "playback/playlist_widget.h"
 #include "ui/dock_bar.h"
@@ -35,6 +36,7 @@ void PlayerGuiWindow::connectControls()
 
     connect(m_ui.analyze, &QPushButton::clicked, this, &PlayerGuiWindow::analyzeTrack);
 
+    connect(m_ui.remote, &RemoteControls::switched, this, &PlayerGuiWindow::switchRemote);
     connect(m_ui.engine, &EngineControls::changed, this, &PlayerGuiWindow::saveParams);
     connect(m_ui.engine, &EngineControls::pcmFilterChosen, this, [this] {
         m_pcmFilterExplicit = true;

@@ -1,6 +1,7 @@
 // How the window is put together.
 #include "ui/window/player_gui_window.h"
 
+#include "net/remote_controls.h"
 #include "output/engine_controls.h"
 #include "playback/playlist_widget.h"
 #include "ui/display_panel.h"
@@ -10,8 +11,11 @@
 #include "ui/progress_row.h"
 #include "ui/style_sheet.h"
 
+#include <QCheckBox>
+#include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSpinBox>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -161,6 +165,9 @@ QWidget *PlayerGuiWindow::buildCentre()
     scroller->setFocusPolicy(Qt::NoFocus);
     scroller->hide();
     rows->addWidget(scroller, 2);
+    rows->addWidget(m_ui.remote = new RemoteControls(centre));
+    m_ui.remote->hide();
+    connect(m_ui.engineSwitch, &QToolButton::toggled, m_ui.remote, &QWidget::setVisible);
     connect(m_ui.engineSwitch, &QToolButton::toggled, scroller, [this, scroller](bool open) {
         scroller->setVisible(open);
         if (open && height() < bothPanelsHeight)
@@ -230,7 +237,10 @@ void PlayerGuiWindow::orderTabs()
         setTabOrder(order.at(i - 1), order.at(i));
     // The engine's settings keep their own order, behind the switch that opens them.
     setTabOrder(m_ui.engineSwitch, m_ui.engine->outputPath);
-    setTabOrder(m_ui.engine->extDecoder, m_ui.device);
+    setTabOrder(m_ui.engine->extDecoder, m_ui.remote->enable);
+    setTabOrder(m_ui.remote->enable, m_ui.remote->port);
+    setTabOrder(m_ui.remote->port, m_ui.remote->addresses);
+    setTabOrder(m_ui.remote->addresses, m_ui.device);
 }
 
 void PlayerGuiWindow::resizeEvent(QResizeEvent *event)

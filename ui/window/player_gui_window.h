@@ -7,6 +7,7 @@
 #include "engine/engine_line_state.h"
 #include "engine/link_state.h"
 #include "engine/progress_display.h"
+#include "net/phone_remote_state.h"
 #include "output/device_state.h"
 #include "playback/playback_state.h"
 #include "ui/instrument_state.h"
@@ -18,6 +19,9 @@
 #include <exception>
 
 class QSettings;
+struct RemoteCommand;
+struct RemoteLibrary;
+struct RemoteState;
 struct SessionEndVerdict;
 
 /// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
@@ -81,6 +85,17 @@ public:
     void populateDevices();
     void populateDevicesBlocking();
     QString currentDeviceName() const;
+
+    // ── the network (net/window) ──
+    /// The one test at the door of everything that talks to a network: false, with a line in the log that
+    /// names what was refused, while offline mode is on.
+    bool offlineAllows(const QString &label);
+    /// Puts the stored switch and port of the phone remote into force.
+    void restoreRemote();
+    /// Starts the phone remote on its port with a token made anew, or ends it. Refused in offline mode.
+    void setRemoteEnabled(bool on);
+    /// What a phone opens: a URL for each address of this machine, none while the remote is off.
+    QStringList remoteAddresses() const;
 
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
@@ -198,6 +213,14 @@ private:
     void applyDeviceProfile();
     bool effectsAudible() const;
 
+    // ── net/window ──
+    void switchRemote(bool on);
+    bool startRemote();
+    RemoteTags remoteTags(const PlaylistEntry &entry) const;
+    RemoteState remoteState() const;
+    RemoteLibrary remoteLibrary(int limit) const;
+    void runRemoteCommand(const RemoteCommand &command);
+
     const WindowOptions m_options;
     WindowWidgets m_ui;
     LogState m_log;
@@ -209,6 +232,7 @@ private:
     PreloadState m_preload;
     TrackProgressState m_progress;
     DeviceState m_devices;
+    PhoneRemoteState m_remote;
     QSet<QString> m_pendingContainers; ///< paths whose listing is still out
     bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
     bool m_volumeTouched = false;      ///< the user has moved the volume since the program started

@@ -8,6 +8,7 @@ class EngineControls;
 class LogPane;
 class PlaylistWidget;
 class ProgressRow;
+class RemoteControls;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -23,6 +24,7 @@ struct WindowWidgets
     DockBar *dock = nullptr;
     ProgressRow *progress = nullptr;
     EngineControls *engine = nullptr;
+    RemoteControls *remote = nullptr;
     QComboBox *device = nullptr; ///< the primary device
     QPushButton *refreshDevices = nullptr;
     QLabel *sourceInfo = nullptr;
