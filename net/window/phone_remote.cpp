@@ -101,7 +101,12 @@ QStringList PlayerGuiWindow::remoteAddresses() const
 {
     if (!m_remote.remoteServer)
         return {};
-    return remoteUrls(reachableAddresses(), m_remote.remotePort, m_remote.remoteServer->token());
+    return remoteUrls(reachableAddresses(), m_remote.remotePort, remoteToken());
+}
+
+QString PlayerGuiWindow::remoteToken() const
+{
+    return m_remote.remoteServer ? m_remote.remoteServer->token() : QString();
 }
 
 RemoteTags PlayerGuiWindow::remoteTags(const PlaylistEntry &) const

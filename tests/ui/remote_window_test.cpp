@@ -51,7 +51,7 @@ protected:
     }
     PhoneRemoteState &state() { return WindowInspector::remote(*m_window); }
     RemoteControls &controls() { return *m_window->widgets().remote; }
-    QString token() { return state().remoteServer->token(); }
+    QString token() { return m_window->remoteToken(); }
 
     /// Status and body.
     std::pair<int, QByteArray> fetch(const QString &target)

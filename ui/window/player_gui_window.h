@@ -96,6 +96,8 @@ public:
     void setRemoteEnabled(bool on);
     /// What a phone opens: a URL for each address of this machine, none while the remote is off.
     QStringList remoteAddresses() const;
+    /// What a phone has to bring; empty while the remote is off.
+    QString remoteToken() const;
 
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
