@@ -15,6 +15,8 @@ namespace {
 constexpr int acceptedAtOnce = 16;
 /// The rest waits in the system's queue. A shorter one would cost a crowd's late ones a second each.
 constexpr int queuedBySystem = 256;
+constexpr int sweepsADeadline = 4;
+constexpr std::chrono::milliseconds longestSweep{1000};
 
 std::string_view viewOf(const QByteArray &data)
 {
@@ -64,6 +66,9 @@ RemoteServer::RemoteServer(RemoteHost host, QObject *parent, const RemoteLimits 
     m_server = std::move(listener);
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &RemoteServer::takeTurn);
+    m_sweep.setInterval(std::min(
+        {m_limits.requestWait / sweepsADeadline, m_limits.answerWait / sweepsADeadline, longestSweep}));
+    connect(&m_sweep, &QTimer::timeout, this, &RemoteServer::endOverdue);
 }
 
 RemoteServer::~RemoteServer()
@@ -86,7 +91,7 @@ void RemoteServer::close()
     m_server->close();
     m_token.clear();
     m_pending.clear();
-    const QList<QTcpSocket *> open = m_open;
+    const QList<QTcpSocket *> open = m_open.keys();
     for (QTcpSocket *socket : open)
         socket->abort();
 }
@@ -125,29 +130,44 @@ void RemoteServer::take(QTcpSocket *socket)
 {
     if (m_open.size() >= m_limits.mostConnections)
         makeRoom();
-    m_open.append(socket);
-    m_waiting.append(socket);
+    m_open.insert(socket, {QDeadlineTimer(m_limits.requestWait)});
+    if (!m_sweep.isActive())
+        m_sweep.start();
     socket->setReadBufferSize(m_limits.mostRequestBytes);
     connect(socket, &QTcpSocket::disconnected, this, [this, socket] { forget(socket); });
     connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
     connect(socket, &QTcpSocket::readyRead, this, [this, socket] { handleRemoteRequest(socket); });
-    QTimer::singleShot(m_limits.requestWait, socket, [this, socket] {
-        if (m_waiting.contains(socket))
-            socket->abort();
-    });
     m_turn.start();
 }
 
 void RemoteServer::makeRoom()
 {
-    QTcpSocket *oldest = m_waiting.isEmpty() ? m_open.first() : m_waiting.first();
-    oldest->abort();
+    // Who has sent nothing goes first, and of these who has waited longest.
+    const auto rank = [](const Connection &connection) {
+        return std::pair(!connection.waiting, connection.end.deadlineNSecs());
+    };
+    auto oldest = m_open.cbegin();
+    for (auto each = m_open.cbegin(); each != m_open.cend(); ++each)
+        if (rank(each.value()) < rank(oldest.value()))
+            oldest = each;
+    oldest.key()->abort();
+}
+
+void RemoteServer::endOverdue()
+{
+    QList<QTcpSocket *> overdue;
+    for (auto each = m_open.cbegin(); each != m_open.cend(); ++each)
+        if (each.value().end.hasExpired())
+            overdue.append(each.key());
+    for (QTcpSocket *socket : overdue)
+        socket->abort();
 }
 
 void RemoteServer::forget(QTcpSocket *socket)
 {
-    m_open.removeOne(socket);
-    m_waiting.removeOne(socket);
+    m_open.remove(socket);
+    if (m_open.isEmpty())
+        m_sweep.stop();
     std::erase_if(m_pending, [socket](const Pending &pending) { return pending.socket == socket; });
 }
 
@@ -155,14 +175,14 @@ void RemoteServer::handleRemoteRequest(QTcpSocket *socket)
 {
     const QByteArray data = socket->readAll();
     // One request a connection: what comes behind it is read so that the connection can end, and is dropped.
-    if (!m_waiting.contains(socket))
+    const auto found = m_open.find(socket);
+    if (found == m_open.end() || !found->waiting)
         return;
     // A request in more than one piece is lost. This keeps a connection's memory at one read, and a browser
     // on the same network sends one segment.
     if (!isRemoteRequest(viewOf(data)))
         return;
-    m_waiting.removeOne(socket);
-    QTimer::singleShot(m_limits.answerWait, socket, [socket] { socket->abort(); });
+    *found = {QDeadlineTimer(m_limits.answerWait), false};
     m_turn.start();
     if (m_pending.empty() && m_spent < m_limits.turn)
         answer(socket, data);

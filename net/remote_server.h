@@ -4,6 +4,8 @@
 
 #include "net/remote_answer.h"
 
+#include <QDeadlineTimer>
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 
@@ -52,6 +54,11 @@ public:
     qsizetype connectionCount() const { return m_open.size(); }
 
 private:
+    struct Connection
+    {
+        QDeadlineTimer end;  ///< it is ended then, whatever it does
+        bool waiting = true; ///< has sent no request yet
+    };
     struct Pending
     {
         QTcpSocket *socket;
@@ -61,6 +68,7 @@ private:
     void takeTurn();
     void take(QTcpSocket *socket);
     void makeRoom();
+    void endOverdue();
     void handleRemoteRequest(QTcpSocket *socket);
     void answer(QTcpSocket *socket, const QByteArray &data);
     void forget(QTcpSocket *socket);
@@ -70,8 +78,8 @@ private:
     std::unique_ptr<QTcpServer> m_server;
     QTimer m_turn;                       ///< fires when the thread's other events have had theirs
     std::chrono::nanoseconds m_spent{0}; ///< on answers, since the last turn
+    QTimer m_sweep;                      ///< one for all deadlines; runs while a connection is open
     std::string m_token;
-    QList<QTcpSocket *> m_open;    ///< children of m_server
-    QList<QTcpSocket *> m_waiting; ///< of these, those without a request, oldest first
-    std::deque<Pending> m_pending; ///< read and not yet answered
+    QHash<QTcpSocket *, Connection> m_open; ///< children of m_server
+    std::deque<Pending> m_pending;          ///< read and not yet answered
 };

@@ -2,20 +2,12 @@
 #include "net/remote_server.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
-#include <arpa/inet.h>
-#include <atomic>
-#include <cerrno>
-#include <cstdio>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <poll.h>
 #include <sys/socket.h>
-#include <thread>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -25,7 +17,6 @@ using testing::StartsWith;
 namespace {
 
 constexpr int patienceMs = 20'000;
-constexpr int tickMs = 20;
 
 /// A client of the plainest kind, on the loopback.
 class Client
@@ -231,8 +222,9 @@ TEST_F(RemoteServers, WhoDoesNotTakeItsAnswerIsEnded)
     client.socket().setReadBufferSize(1);
     client.send("GET /library?t=" + m_server->token().toLatin1() + " HTTP/1.1\r\n\r\n");
     EXPECT_TRUE(QTest::qWaitFor([&] { return client.socket().bytesAvailable() > 0; }, patienceMs));
-    EXPECT_EQ(m_server->connectionCount(), 1);
     expectAllGone();
+    client.socket().setReadBufferSize(0);
+    EXPECT_LT(client.answer().size(), std::size_t{32} << 20);
 }
 
 TEST_F(RemoteServers, AFullServerMakesRoomForWhoAsks)
@@ -285,86 +277,6 @@ TEST_F(RemoteServers, ADialogBehindACommandDoesNotHoldUpOthers)
     make();
     m_whileCommand = [this] { EXPECT_THAT(ask(u"/hello"_s), HasSubstr("needToken")); };
     EXPECT_THAT(ask(withToken(u"/cmd"_s) + u"&do=play"_s), StartsWith("HTTP/1.1 200 "));
-}
-
-namespace {
-
-/// Connects all, then asks with all, then reads all; the number that got a whole answer.
-int askAtOnce(quint16 port, int count, const std::string &request, const std::string &wanted)
-{
-    std::vector<int> sockets;
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_port = htons(port);
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    for (int i = 0; i < count; ++i) {
-        const int socket = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-        if (::connect(socket, reinterpret_cast<sockaddr *>(&address), sizeof address) != 0 &&
-            errno != EINPROGRESS) {
-            ::close(socket);
-            continue;
-        }
-        sockets.push_back(socket);
-    }
-    for (const int socket : sockets) {
-        pollfd writable{socket, POLLOUT, 0};
-        ::poll(&writable, 1, patienceMs);
-        static_cast<void>(::send(socket, request.data(), request.size(), MSG_NOSIGNAL));
-    }
-    int answered = 0;
-    for (const int socket : sockets) {
-        std::string answer;
-        char piece[65536];
-        for (;;) {
-            pollfd readable{socket, POLLIN, 0};
-            if (::poll(&readable, 1, patienceMs) <= 0)
-                break;
-            const ssize_t got = ::recv(socket, piece, sizeof piece, 0);
-            if (got <= 0)
-                break;
-            answer.append(piece, static_cast<std::size_t>(got));
-        }
-        answered += answer.find(wanted) != std::string::npos ? 1 : 0;
-        ::close(socket);
-    }
-    return answered;
-}
-
-} // namespace
-
-TEST_F(RemoteServers, TwoHundredAtOnceAreAllAnswered)
-{
-    make();
-    constexpr int crowd = 200;
-    m_library.total = 1000;
-    for (int i = 0; i < 1000; ++i)
-        m_library.items.push_back(
-            {"A title of a usual length, number " + std::to_string(i), "An artist", false});
-    for (const auto &[path, wanted] : {std::pair<std::string, std::string>{"/state", "\"total\":0}"},
-                                       {"/library", "\"current\":false}]}"}}) {
-        QElapsedTimer since;
-        qint64 longestNs = 0;
-        QTimer tick;
-        tick.setTimerType(Qt::PreciseTimer);
-        QObject::connect(&tick, &QTimer::timeout, [&] {
-            longestNs = std::max(longestNs, since.nsecsElapsed() - tickMs * 1'000'000LL);
-            since.start();
-        });
-        const std::string request =
-            "GET " + path + "?n=1000&t=" + m_server->token().toStdString() + " HTTP/1.1\r\n\r\n";
-        std::atomic<int> answered{-1};
-        std::thread clients(
-            [&, port = m_server->port()] { answered = askAtOnce(port, crowd, request, wanted); });
-        since.start();
-        tick.start(tickMs);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return answered >= 0; }, 3 * patienceMs));
-        clients.join();
-        EXPECT_EQ(answered, crowd) << path;
-        std::printf(
-            "%d connections at once for %s: the longest wait between two ticks of %d ms was %.1f ms\n", crowd,
-            path.c_str(), tickMs, static_cast<double>(longestNs) * 1e-6);
-        expectAllGone();
-    }
 }
 
 int main(int argc, char **argv)
