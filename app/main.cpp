@@ -47,6 +47,7 @@ int runWindow(const QStringList &arguments)
     PlayerGuiWindow window(options);
     startup::addAboutBlock(window);
     startup::showWindow(window);
+    startup::startServices(window);
     startup::startHeartbeat();
     startup::startStackWatch();
     takeHookScreenshot(window, hooks);

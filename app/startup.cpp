@@ -137,6 +137,11 @@ void showWindow(PlayerGuiWindow &window)
     });
 }
 
+void startServices(PlayerGuiWindow &window)
+{
+    window.restoreRemote();
+}
+
 void startHeartbeat()
 {
     heartbeat::start();

@@ -27,6 +27,8 @@ LanguageChoice installTranslator();
 void setWindowIcon();
 void addAboutBlock(PlayerGuiWindow &window);
 void showWindow(PlayerGuiWindow &window);
+/// What is switched on by the stored choices and serves others.
+void startServices(PlayerGuiWindow &window);
 void startHeartbeat();
 void startStackWatch();
 void startUpdateCheck(PlayerGuiWindow &window);

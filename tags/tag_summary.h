@@ -24,6 +24,12 @@ class TagSummaryCache
 public:
     /// Reads the file on the first call for a path; a file that cannot be read is kept as such too.
     TagSummary tagSummaryFor(const QString &path);
+    /// What was read of a path before, or null; reads nothing. Valid until the next change of the cache.
+    const TagSummary *kept(const QString &path) const
+    {
+        const auto found = m_summaries.constFind(path);
+        return found == m_summaries.cend() ? nullptr : &*found;
+    }
     /// To be called after the tags of a file were written.
     void drop(const QString &path) { m_summaries.remove(path); }
     void clear() { m_summaries.clear(); }

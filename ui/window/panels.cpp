@@ -1,6 +1,7 @@
 // What opens: the settings, the tools, the engine's controls.
 #include "ui/window/player_gui_window.h"
 
+#include "net/remote_controls.h"
 #include "output/engine_controls.h"
 #include "ui/dock_bar.h"
 #include "ui/log_pane.h"
@@ -10,28 +11,43 @@
 
 using namespace Qt::StringLiterals;
 
+void PlayerGuiWindow::buildSetup()
+{
+    if (m_ui.setup)
+        return;
+    m_ui.setup = new SetupDialog(this);
+    m_ui.engine = new EngineControls(m_ui.setup);
+    m_ui.setup->addSection(tr("引擎设置"), m_ui.engine);
+    m_ui.sleep = new SleepControls(m_ui.setup);
+    m_ui.setup->addSection(tr("睡眠定时"), m_ui.sleep);
+    m_ui.remote = new RemoteControls(m_ui.setup);
+    m_ui.setup->addSection(tr("手机遥控"), m_ui.remote);
+
+    fillChannelDevices();
+    showChoices();
+    connect(m_ui.engine, &EngineControls::changed, this, [this] { applyChoices(m_ui.engine->choices()); });
+    connect(m_ui.sleep, &SleepControls::chosen, this, &PlayerGuiWindow::setSleepTimer);
+    connect(this, &PlayerGuiWindow::sleepTimerShown, m_ui.sleep, &SleepControls::showTimer);
+    showPlayModes();
+    connect(m_ui.remote, &RemoteControls::switched, this, &PlayerGuiWindow::switchRemote);
+    showRemote();
+}
+
 EngineControls &PlayerGuiWindow::engineControls()
 {
-    if (!m_ui.engine) {
-        m_ui.setup = new SetupDialog(this);
-        m_ui.engine = new EngineControls(m_ui.setup);
-        m_ui.setup->addSection(tr("引擎设置"), m_ui.engine);
-        m_ui.sleep = new SleepControls(m_ui.setup);
-        m_ui.setup->addSection(tr("睡眠定时"), m_ui.sleep);
-        connect(m_ui.sleep, &SleepControls::chosen, this, &PlayerGuiWindow::setSleepTimer);
-        connect(this, &PlayerGuiWindow::sleepTimerShown, m_ui.sleep, &SleepControls::showTimer);
-        showPlayModes();
-        fillChannelDevices();
-        m_ui.engine->showChoices(m_choices);
-        connect(m_ui.engine, &EngineControls::changed, this,
-                [this] { applyChoices(m_ui.engine->choices()); });
-    }
+    buildSetup();
     return *m_ui.engine;
+}
+
+RemoteControls &PlayerGuiWindow::remoteControls()
+{
+    buildSetup();
+    return *m_ui.remote;
 }
 
 void PlayerGuiWindow::openSetup()
 {
-    engineControls();
+    buildSetup();
     m_ui.setup->show();
     m_ui.setup->raise();
     m_ui.setup->activateWindow();

@@ -7,6 +7,7 @@
 #include "engine/engine_line_state.h"
 #include "engine/link_state.h"
 #include "engine/progress_display.h"
+#include "net/phone_remote_state.h"
 #include "output/device_state.h"
 #include "output/engine_choices.h"
 #include "playback/chain_view_state.h"
@@ -30,6 +31,9 @@ class ToolsMenu;
 enum class Tool;
 struct ComboItem;
 class SystemScheme;
+struct RemoteCommand;
+struct RemoteLibrary;
+struct RemoteState;
 struct SessionEndVerdict;
 
 /// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
@@ -62,6 +66,7 @@ public:
     const EngineChoices &choices() const { return m_choices; }
     /// The controls of those choices, built at the first call.
     EngineControls &engineControls();
+    RemoteControls &remoteControls();
     void openSetup();
 
     // ── the link to the engine (engine/window) ──
@@ -142,6 +147,18 @@ public:
     void useCoverAccent(const QPixmap &cover);
     /// The accent of the settings.
     void loadUserAccent();
+    // ── the network (net/window) ──
+    /// The one test at the door of everything that talks to a network: false, with a line in the log that
+    /// names what was refused, while offline mode is on.
+    bool offlineAllows(const QString &label);
+    /// Puts the stored switch and port of the phone remote into force.
+    void restoreRemote();
+    /// Starts the phone remote on its port with a token made anew, or ends it. Refused in offline mode.
+    void setRemoteEnabled(bool on);
+    /// What a phone opens: a URL for each address of this machine, none while the remote is off.
+    QStringList remoteAddresses() const;
+    /// What a phone has to bring; empty while the remote is off.
+    QString remoteToken() const;
 
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
@@ -206,6 +223,8 @@ private:
     void applyAreaPlan();
     void restorePlace();
     void openLog(bool open);
+    void buildSetup();
+    void showRemote();
     void openTools();
     void useTool(Tool tool);
     void clearLog();
@@ -331,6 +350,14 @@ private:
     void applyDeviceProfile();
     bool effectsAudible() const;
 
+    // ── net/window ──
+    void switchRemote(bool on);
+    bool startRemote();
+    RemoteTags remoteTags(const PlaylistEntry &entry) const;
+    RemoteState remoteState() const;
+    RemoteLibrary remoteLibrary(int limit) const;
+    void runRemoteCommand(const RemoteCommand &command);
+
     const WindowOptions m_options;
     WindowWidgets m_ui;
     LogState m_log;
@@ -348,6 +375,7 @@ private:
     TagSummaryCache m_tagSummaries;
     DeviceState m_devices;
     EngineChoices m_choices;
+    PhoneRemoteState m_remote;
     QSet<QString> m_pendingContainers; ///< paths whose listing is still out
     /// What stands open above the window.
     enum class ToolPanel

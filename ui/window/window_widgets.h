@@ -12,6 +12,7 @@ class LibraryPanel;
 class LogPane;
 class PlaylistWidget;
 class ProgressRow;
+class RemoteControls;
 class QComboBox;
 class QLabel;
 class QPushButton;
@@ -48,4 +49,5 @@ struct WindowWidgets
     SetupDialog *setup = nullptr;
     EngineControls *engine = nullptr;
     SleepControls *sleep = nullptr;
+    RemoteControls *remote = nullptr;
 };

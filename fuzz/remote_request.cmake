@@ -1,0 +1,1 @@
+kelp_fuzz(remote_request QT SOURCES fuzz_remote_request.cpp LINK net_logic)

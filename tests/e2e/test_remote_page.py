@@ -1,0 +1,172 @@
+"""The phone's page in a real browser, with the whole player behind it."""
+import os
+import signal
+import unittest
+
+import support
+from browser import PHONE, TABLET, Browser, need_browser
+from remote import RemotePlayer, make_album
+from support import Stage, wait_until
+
+TITLES = ["潮汐", "A title <b>with</b> &amp; marks", "海带森林"] + [f"Track {number}" for number in range(4, 41)]
+# Where the pictures are kept for whoever wants to look at them.
+PICTURES = os.environ.get("KELP_PICTURES")
+
+
+class RemotePage(unittest.TestCase):
+    def setUp(self):
+        need_browser()
+        self.stage = self.enterContext(Stage())
+        self.stage.sound_server()
+        self.sheet = make_album(self.stage, TITLES, 20)
+
+    def start(self, screen, **options):
+        remote = RemotePlayer(self.stage, self.sheet, **options)
+        browser = self.enterContext(Browser(self.stage, screen))
+        browser.open(remote.url("/"))
+        browser.wait("document.querySelectorAll('#lib button').length===40", "the list")
+        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "the state")
+        return remote, browser
+
+    def picture(self, browser, name):
+        path = os.path.join(PICTURES or self.stage.root, name + ".png")
+        browser.picture(path)
+        self.assertGreater(os.path.getsize(path), 10_000)
+
+    def small_targets(self, browser):
+        return browser.run("""return [...document.querySelectorAll('button,input')].filter(e=>{
+            const r=e.getBoundingClientRect();return r.width<44||r.height<44}).map(e=>e.id||e.textContent)""")
+
+    def test_a_phone_drives_the_player(self):
+        remote, browser = self.start(PHONE)
+        self.assertEqual(browser.run("return document.title"), "Kelp Player")
+        self.assertIn("潮汐", browser.text("#t"))
+        self.assertEqual(browser.text("#v"), "80")
+        self.assertEqual(browser.text("#lib li.cur span"), browser.text("#lib li:nth-child(1) span"))
+        self.assertIn("A title <b>with</b> &amp; marks", browser.text("#lib li:nth-child(2) span"))
+        self.assertEqual(browser.run("return document.querySelectorAll('#lib b').length"), 0, "a title is no markup")
+        self.picture(browser, "phone")
+
+        browser.click("#toggle")
+        browser.wait("document.querySelector('#t').textContent.startsWith('已暂停')", "the pause")
+        self.assertEqual(browser.text("#word"), "播放")
+        browser.click("#play")
+        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "going on")
+        browser.click("#next")
+        browser.wait("document.querySelector('#lib li:nth-child(2)').classList.contains('cur')", "the next track")
+        browser.click("#prev")
+        browser.wait("document.querySelector('#lib li:nth-child(1)').classList.contains('cur')", "the previous track")
+        browser.run("const r=document.querySelector('#r');r.value=25;r.dispatchEvent(new Event('input'));r.dispatchEvent(new Event('change'))")
+        remote.player.wait_log(r"vol 25")
+        browser.wait("document.querySelector('#v').textContent==='25'", "the volume")
+
+        # Far down the list: it stays where it is while the page goes on polling.
+        browser.run("document.querySelector('#lib').scrollTop=900")
+        place = browser.run("return document.querySelector('#lib').scrollTop")
+        self.assertGreater(place, 800)
+        browser.run("window.first=document.querySelector('#lib li')")
+        browser.click("#next")
+        browser.wait("document.querySelector('#lib li:nth-child(2)').classList.contains('cur')", "the next track")
+        self.assertEqual(browser.run("return document.querySelector('#lib').scrollTop"), place)
+        self.assertTrue(browser.run("return window.first===document.querySelector('#lib li')"), "rows are kept")
+        browser.click("#lib li:nth-child(20) button")
+        browser.wait("document.querySelector('#lib li:nth-child(20)').classList.contains('cur')", "the chosen track")
+        self.assertIn("Track 20", browser.text("#t"))
+        browser.click("#stop")
+        browser.wait("document.querySelector('#t').textContent.startsWith('已停止')", "the stop")
+        self.assertEqual(self.small_targets(browser), [])
+        self.assertEqual(browser.run("return document.documentElement.scrollWidth<=innerWidth"), True, "nothing sticks out")
+        self.assertEqual(browser.errors(), [])
+
+    def test_loss_and_return(self):
+        remote, browser = self.start(PHONE)
+        # A player that hangs looks to the phone like one that has gone away.
+        remote.player.process.send_signal(signal.SIGSTOP)
+        try:
+            browser.wait("document.querySelector('#t').textContent.startsWith('连接已断开')", "the loss", 30)
+            self.assertTrue(browser.run("return document.body.classList.contains('off')"))
+            self.picture(browser, "phone_lost")
+        finally:
+            remote.player.process.send_signal(signal.SIGCONT)
+        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "the return", 30)
+        self.assertFalse(browser.run("return document.body.classList.contains('off')"))
+
+        remote.player.process.terminate()
+        remote.player.wait_end()
+        browser.wait("document.querySelector('#t').textContent.startsWith('连接已断开，正在重新连接')", "the loss")
+        again = RemotePlayer(self.stage, self.sheet, port=remote.port)
+        self.assertNotEqual(again.token, remote.token)
+        browser.wait("document.querySelector('#t').textContent.includes('请打开电脑上显示的新网址')", "the old token's refusal")
+        browser.open(again.url("/"))
+        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "the new token's page")
+
+    def test_the_playing_row_is_in_view_when_the_page_opens(self):
+        remote, browser = self.start(dict(PHONE, width=844, height=390))
+        browser.click("#lib li:nth-child(30) button")
+        browser.wait("document.querySelector('#lib li:nth-child(30)').classList.contains('cur')", "the chosen track")
+        browser.open(remote.url("/index.html"))
+        browser.wait("document.querySelector('#lib li.cur')", "the list")
+        seen = browser.run("""const l=document.querySelector('#lib').getBoundingClientRect(),r=document.querySelector('#lib .cur').getBoundingClientRect();
+            return r.top>=l.top&&r.bottom<=l.bottom""")
+        self.assertTrue(seen)
+        # A phone held sideways: all controls are on the screen.
+        self.picture(browser, "phone_sideways")
+        self.assertTrue(browser.run("return document.querySelector('.pad').getBoundingClientRect().bottom<=innerHeight+1"))
+        self.assertEqual(self.small_targets(browser), [])
+
+    def test_without_the_token_there_is_no_page(self):
+        remote = RemotePlayer(self.stage, self.sheet)
+        browser = self.enterContext(Browser(self.stage, PHONE))
+        browser.open(remote.base + "/")
+        self.assertIn("token required: open the URL shown on the PC", browser.text("body"))
+        self.assertEqual(browser.text("#lib"), "")
+        browser.open(remote.base + "/?t=00000000")
+        self.assertIn("token required", browser.text("body"))
+        browser.open(remote.url("/"))
+        browser.wait("document.querySelectorAll('#lib button').length===40", "the list")
+        rejected = remote.player.log().count("rejected a request")
+        # The two pages above, each with the icon that a browser wants for a page that names none.
+        self.assertLessEqual(rejected, 4)
+        browser.open(remote.url("/index.html"))
+        browser.wait("document.querySelectorAll('#lib button').length===40", "the list")
+        self.assertEqual(remote.player.log().count("rejected a request"), rejected, "the page asks for nothing without the token")
+
+    def test_a_tablet_with_keyboard_and_screen_reader(self):
+        remote, browser = self.start(TABLET)
+        self.picture(browser, "tablet")
+        sides = browser.run("""const a=document.querySelector('.pad').getBoundingClientRect(),b=document.querySelector('.list').getBoundingClientRect();
+            return [a.right<=b.left+1,b.bottom<=innerHeight+1,a.bottom<=innerHeight+1]""")
+        self.assertEqual(sides, [True, True, True], "two columns that fit")
+        self.assertEqual(self.small_targets(browser), [])
+
+        tab, enter = "\ue004", "\ue007"
+        reached = []
+        for _ in range(7):
+            browser.keys(tab)
+            reached.append(browser.run("const e=document.activeElement;return e.id||e.tagName"))
+        self.assertEqual(reached, ["prev", "next", "toggle", "stop", "play", "r", "BUTTON"])
+        self.assertNotEqual(browser.run("return getComputedStyle(document.activeElement).outlineStyle"), "none", "the focus is seen")
+        browser.keys(tab + tab + enter)
+        browser.wait("document.querySelector('#lib li:nth-child(3)').classList.contains('cur')", "the row that was entered")
+        self.assertEqual(browser.run("return document.activeElement.parentNode===document.querySelector('#lib li:nth-child(3)')"), True,
+                         "the focus stays where it was")
+        self.assertEqual(browser.run("return document.activeElement.getAttribute('aria-current')"), "true")
+
+        tree = browser.tree()
+        for expected in (("heading", "Kelp Player"), ("heading", "播放列表"), ("button", "上一首"), ("button", "下一首"),
+                         ("button", "暂停"), ("button", "停止"), ("button", "继续"), ("list", "播放列表")):
+            self.assertIn(expected, tree)
+        self.assertTrue(any(role == "slider" and name.startswith("音量") for role, name in tree), tree)
+        self.assertTrue(any(role == "status" for role, _ in tree))
+        self.assertTrue(any(role == "button" and "海带森林" in name for role, name in tree))
+        self.assertEqual(browser.run("return document.documentElement.lang"), "zh-CN")
+
+        browser.media(prefers_reduced_motion="reduce")
+        self.assertEqual(browser.run("return getComputedStyle(document.querySelector('#toggle')).transitionProperty"), "none")
+        self.assertEqual(browser.errors(), [])
+        remote.player.process.terminate()
+        wait_until(lambda: remote.player.process.poll() is not None, what="the player's end")
+
+
+if __name__ == "__main__":
+    support.main()
