@@ -6,6 +6,7 @@
 #include "net/remote_controls.h"
 #include "net/remote_server.h"
 #include "platform/settings_table.h"
+#include "playback/playlist_roles.h"
 #include "playback/playlist_widget.h"
 #include "ui/dock_bar.h"
 
@@ -109,9 +110,9 @@ QString PlayerGuiWindow::remoteToken() const
     return m_remote.remoteServer ? m_remote.remoteServer->token() : QString();
 }
 
-RemoteTags PlayerGuiWindow::remoteTags(const PlaylistEntry &) const
+RemoteTags PlayerGuiWindow::remoteTags(const QString &) const
 {
-    // The window reads no tags yet: a row is known by its text alone.
+    // The window keeps no tags of files yet: a row is known by its text alone.
     return {};
 }
 
@@ -131,7 +132,7 @@ RemoteState PlayerGuiWindow::remoteState() const
         return state;
     state.track = row;
     const PlaylistEntry entry = m_ui.playlist->entryAt(row);
-    const RemoteTags tags = remoteTags(entry);
+    const RemoteTags tags = remoteTags(entry.path);
     state.title = (tags.title.isEmpty() ? entry.text : tags.title).toStdString();
     state.artist = tags.artist.toStdString();
     state.album = tags.album.toStdString();
@@ -145,11 +146,11 @@ RemoteLibrary PlayerGuiWindow::remoteLibrary(int limit) const
     library.total = m_ui.playlist->count();
     const int playing = sessionRuns() ? m_start.playingRow : -1;
     for (int row = 0; row < library.total && std::ssize(library.items) < limit; ++row) {
-        if (m_ui.playlist->item(row)->isHidden())
+        const QListWidgetItem &item = *m_ui.playlist->item(row);
+        if (item.isHidden())
             continue;
-        const PlaylistEntry entry = m_ui.playlist->entryAt(row);
-        library.items.push_back(
-            {entry.text.toStdString(), remoteTags(entry).artist.toStdString(), row == playing});
+        const RemoteTags tags = remoteTags(item.data(playlist_role::path).toString());
+        library.items.push_back({item.text().toStdString(), tags.artist.toStdString(), row == playing});
     }
     return library;
 }

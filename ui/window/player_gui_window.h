@@ -218,7 +218,8 @@ private:
     // ── net/window ──
     void switchRemote(bool on);
     bool startRemote();
-    RemoteTags remoteTags(const PlaylistEntry &entry) const;
+    /// What is known of the file without reading it: /library asks for a thousand at once.
+    RemoteTags remoteTags(const QString &path) const;
     RemoteState remoteState() const;
     RemoteLibrary remoteLibrary(int limit) const;
     void runRemoteCommand(const RemoteCommand &command);
