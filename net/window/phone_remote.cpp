@@ -6,6 +6,7 @@
 #include "net/remote_controls.h"
 #include "net/remote_server.h"
 #include "platform/settings_table.h"
+#include "playback/playlist_roles.h"
 #include "playback/playlist_widget.h"
 #include "ui/dock_bar.h"
 
@@ -121,14 +122,14 @@ QString PlayerGuiWindow::remoteToken() const
     return m_remote.remoteServer ? m_remote.remoteServer->token() : QString();
 }
 
-RemoteTags PlayerGuiWindow::remoteTags(const PlaylistEntry &entry) const
+RemoteTags PlayerGuiWindow::remoteTags(const QString &path) const
 {
     // A request reads no file: what has been shown once is known.
-    const TagSummary *summary = m_tagSummaries.kept(entry.path);
+    const TagSummary *summary = m_tagSummaries.kept(path);
     if (!summary)
         return {};
     // Where a file names no artist its folder groups it; a phone has no use for a folder.
-    const bool isFolder = summary->artist == QFileInfo(entry.path).absolutePath();
+    const bool isFolder = summary->artist == QFileInfo(path).absolutePath();
     return {summary->title, isFolder ? QString() : summary->artist, summary->album};
 }
 
@@ -148,7 +149,7 @@ RemoteState PlayerGuiWindow::remoteState() const
         return state;
     state.track = row;
     const PlaylistEntry entry = m_ui.playlist->entryAt(row);
-    const RemoteTags tags = remoteTags(entry);
+    const RemoteTags tags = remoteTags(entry.path);
     state.title = (tags.title.isEmpty() ? entry.text : tags.title).toStdString();
     state.artist = tags.artist.toStdString();
     state.album = tags.album.toStdString();
@@ -162,11 +163,11 @@ RemoteLibrary PlayerGuiWindow::remoteLibrary(int limit) const
     library.total = m_ui.playlist->count();
     const int playing = sessionRuns() ? m_start.playingRow : -1;
     for (int row = 0; row < library.total && std::ssize(library.items) < limit; ++row) {
-        if (m_ui.playlist->item(row)->isHidden())
+        const QListWidgetItem &item = *m_ui.playlist->item(row);
+        if (item.isHidden())
             continue;
-        const PlaylistEntry entry = m_ui.playlist->entryAt(row);
-        library.items.push_back(
-            {entry.text.toStdString(), remoteTags(entry).artist.toStdString(), row == playing});
+        const RemoteTags tags = remoteTags(item.data(playlist_role::path).toString());
+        library.items.push_back({item.text().toStdString(), tags.artist.toStdString(), row == playing});
     }
     return library;
 }

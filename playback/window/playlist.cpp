@@ -59,10 +59,10 @@ void PlayerGuiWindow::refreshNowPlaying(int row)
             facts.summary = m_tagSummaries.tagSummaryFor(facts.entry.path);
         facts.disc = discNumberFromPath(QFileInfo(facts.entry.path).absoluteFilePath().toStdString());
     }
-    showNowPlaying(facts.row, nowPlayingLabels(facts));
+    showNowPlaying(nowPlayingLabels(facts));
 }
 
-void PlayerGuiWindow::showNowPlaying(int row, const NowPlayingLabels &labels)
+void PlayerGuiWindow::showNowPlaying(const NowPlayingLabels &labels)
 {
     const QString meta = labels.disc.isEmpty() ? labels.track : labels.track + u" · "_s + labels.disc;
     m_ui.display->showTrack({meta, labels.format, labels.title, labels.artistLine, labels.albumLine});

@@ -291,7 +291,7 @@ private:
     void showTrackOf(int row);
     /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from.
     void refreshNowPlaying(int row = -1);
-    void showNowPlaying(int row, const NowPlayingLabels &labels);
+    void showNowPlaying(const NowPlayingLabels &labels);
     void refreshStartButton();
     void refreshNavButtons();
     void resetTrackState(double startSec);
@@ -353,7 +353,8 @@ private:
     // ── net/window ──
     void switchRemote(bool on);
     bool startRemote();
-    RemoteTags remoteTags(const PlaylistEntry &entry) const;
+    /// What is known of the file without reading it: /library asks for a thousand at once.
+    RemoteTags remoteTags(const QString &path) const;
     RemoteState remoteState() const;
     RemoteLibrary remoteLibrary(int limit) const;
     void runRemoteCommand(const RemoteCommand &command);
