@@ -5,7 +5,6 @@
 #include "playback/playlist_widget.h"
 #include "ui/dock_bar.h"
 
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QShortcut>
@@ -28,10 +27,8 @@ void PlayerGuiWindow::connectControls()
     connect(m_ui.playlist, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { startPlayback(m_ui.playlist->row(item)); });
     connect(m_ui.playlist, &QListWidget::currentRowChanged, this, &PlayerGuiWindow::refreshNavButtons);
-    connect(m_ui.importFiles, &QPushButton::clicked, this, [this] {
-        const QStringList paths = QFileDialog::getOpenFileNames(this, tr("导入音频文件"));
-        addFiles(paths);
-    });
+    connect(m_ui.importFiles, &QPushButton::clicked, this, &PlayerGuiWindow::chooseFiles);
+    connectPlaylist();
 
     connect(m_ui.analyze, &QPushButton::clicked, this, &PlayerGuiWindow::analyzeTrack);
 

@@ -43,6 +43,7 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
 PlayerGuiWindow::~PlayerGuiWindow()
 {
     killProc(true);
+    settleHistory();
     // The session's threads call sinks that post to this window: it ends while the window is whole.
     m_link.session.reset();
     if (m_link.mailbox)
@@ -51,6 +52,6 @@ PlayerGuiWindow::~PlayerGuiWindow()
 
 void PlayerGuiWindow::startUpdateCheck(bool) {}
 
-void PlayerGuiWindow::restorePlaylist() {}
+void PlayerGuiWindow::applyLibraryFilter() {}
 
 void PlayerGuiWindow::runRigReport() {}

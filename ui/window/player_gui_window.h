@@ -9,15 +9,18 @@
 #include "engine/progress_display.h"
 #include "output/device_state.h"
 #include "playback/playback_state.h"
+#include "playback/playlist_state.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
 
 #include <QMainWindow>
-#include <QSet>
 #include <exception>
 
+class HistoryStore;
+class QMenu;
 class QSettings;
+struct AddOperation;
 struct SessionEndVerdict;
 
 /// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
@@ -69,13 +72,26 @@ public:
     void togglePause();
     bool moveRow(int from, int to);
     void stepRow(int delta);
-    /// Appends one plain file; the row's number.
+    /// Appends one plain file, listed already or not; the row's number.
     int appendFile(const QString &path);
-    /// Appends files; a sheet or an image is spread into its tracks when the engine has listed them.
-    void addFiles(const QStringList &paths);
+    /// Appends what is new of files and folders; a sheet or an image is spread into its tracks when the engine
+    /// has listed them.
+    /// \param done called once, when everything is in the list; may be empty
+    void addPaths(const QStringList &paths, const std::function<void()> &done = {});
     /// \param path a sheet or an image, absolute
     /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
     void expandContainerAsync(const QString &path, const std::function<void(int count)> &done);
+    void removeSelectedRows();
+    void clearPlaylist();
+    /// Moves the selected rows to the top or to the bottom, in the order in which they stand.
+    void moveSelectedRows(bool toTop);
+    void undoPlaylist();
+    void redoPlaylist();
+    void savePlaylist();
+    void restorePlaylist();
+    /// Asks for files or for a folder to add.
+    void chooseFiles();
+    void chooseFolder();
 
     // ── devices (output/window) ──
     void populateDevices();
@@ -84,7 +100,7 @@ public:
 
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
-    void restorePlaylist();
+    void applyLibraryFilter();
     void runRigReport();
 
     // ── what hooks and the self-check ask ──
@@ -108,6 +124,8 @@ public Q_SLOTS:
 protected:
     void closeEvent(QCloseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     friend struct LineActions;     // what is done about each effect of a line
@@ -189,7 +207,26 @@ private:
     void segmentChanged(int number);
     void commitPlayStat();
 
-    int addListedTracks(const QString &path, const PlayerProbeResult &result);
+    void connectPlaylist();
+    void addPlaylistActions();
+    void fillPlaylistMenu(QMenu &menu);
+    void showFilesOfSelection();
+    void showRowProperties(int row);
+    void showMessageFor(const QString &text, int forMs);
+    void expandContainer(const QString &path, quint64 group, const std::function<void(int count)> &done);
+    int addListedTracks(const QString &path, quint64 group, const PlayerProbeResult &result);
+    void overlayRow(int row);
+    void finishAdding(const AddOperation &adding);
+    void recordChange(PlaylistChange change);
+    bool applyChange(const PlaylistChange &change, QList<PlaylistEntry> &removed);
+    void changeApplied(const QString &report);
+    void forgetHistory();
+    void loadHistory(const QStringList &savedRows);
+    /// Waits until the history of the last run is there.
+    void settleHistory();
+    void noteDragKey();
+    void orderChanged();
+    void followRows(const PlaylistChange &change);
 
     // ── output/window ──
     void beginDeviceListing();
@@ -209,7 +246,8 @@ private:
     PreloadState m_preload;
     TrackProgressState m_progress;
     DeviceState m_devices;
-    QSet<QString> m_pendingContainers; ///< paths whose listing is still out
+    PlaylistState m_list;
+    HistoryStore *m_historyStore = nullptr; ///< a child of the window, made with the list's actions
     bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
     bool m_volumeTouched = false;      ///< the user has moved the volume since the program started
     bool m_closing = false;            ///< killProc has run on the way out

@@ -1,0 +1,304 @@
+// What a long playlist costs, beside a bare list of the toolkit that takes the same rows in the same run. The
+// window is a real one on no display, with a session that plays nothing. Nothing here fails on a time.
+//
+// usage: playlist_bench [ROWS …]     1000, 20000 and 200000 without a number
+
+#include "app/settings_store.h"
+#include "playback/playlist_widget.h"
+#include "tests/ui/fake_session.h"
+#include "ui/window/player_gui_window.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <cstdio>
+#include <fcntl.h>
+#include <functional>
+#include <malloc.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int filesPerFolder = 1000;
+constexpr int quickRounds = 5;
+constexpr int stepRounds = 41;
+
+double millisecondsOf(const std::function<void()> &work)
+{
+    QElapsedTimer clock;
+    clock.start();
+    work();
+    return static_cast<double>(clock.nsecsElapsed()) / 1e6;
+}
+
+double middle(QList<double> values)
+{
+    std::sort(values.begin(), values.end());
+    return values.at(values.size() / 2);
+}
+
+double medianOf(int rounds, const std::function<void()> &work)
+{
+    QList<double> took;
+    for (int i = 0; i < rounds; ++i)
+        took.append(millisecondsOf(work));
+    return middle(took);
+}
+
+double heldMegabytes()
+{
+    const struct mallinfo2 info = mallinfo2();
+    return static_cast<double>(info.uordblks + info.hblkhd) / 1e6;
+}
+
+/// Empty files with names as long as real ones.
+QStringList makeFiles(const QString &root, int count)
+{
+    QStringList paths;
+    for (int i = 0; i < count; ++i) {
+        const QString folder =
+            root + u"/Some Artist of Note/An Album of %1"_s.arg(i / filesPerFolder, 3, 10, QChar(u'0'));
+        if (i % filesPerFolder == 0)
+            QDir().mkpath(folder);
+        paths.append(folder + u"/%1 - A Title of Usual Length.flac"_s.arg(i, 6, 10, QChar(u'0')));
+        ::close(::open(QFile::encodeName(paths.last()).constData(), O_CREAT | O_WRONLY | O_CLOEXEC, 0600));
+    }
+    return paths;
+}
+
+/// What lays a list out and paints it.
+void present(QListWidget &list)
+{
+    list.doItemsLayout();
+    QCoreApplication::processEvents();
+}
+
+void fillBare(QListWidget &list, const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        auto *item = new QListWidgetItem(path.sliced(path.lastIndexOf(u'/') + 1), &list);
+        item->setToolTip(path);
+        item->setData(Qt::UserRole, path);
+    }
+    present(list);
+}
+
+void row(const char *what, double took, double bare, const char *note)
+{
+    std::printf("  %-44s %10.2f ms", what, took);
+    if (bare > 0)
+        std::printf("   %7.2f of %s (%.2f ms)", took / bare, note, bare);
+    std::printf("\n");
+}
+
+struct Figures
+{
+    double add = 0.;
+    double again = 0.;
+    double restore = 0.;
+    double save = 0.;
+    double selectAll = 0.;
+    double next = 0.;
+};
+
+class Bench
+{
+public:
+    Bench()
+    {
+        qputenv("KELP_GUI_LOG", QFile::encodeName(m_root.filePath(u"gui.log"_s)));
+        qputenv("KELP_ENGINE_LOG", QFile::encodeName(m_root.filePath(u"engine.log"_s)));
+        qputenv("KELP_PLAYER_BIN", "/bin/true");
+    }
+
+    Figures measure(int rows)
+    {
+        const QStringList paths = makeFiles(m_root.filePath(u"music%1"_s.arg(rows)), rows);
+        std::printf("%d rows\n", rows);
+        Figures took;
+        useSettings(u"set%1"_s.arg(rows));
+        measureBare(paths);
+        auto window = makeWindow();
+        const double before = heldMegabytes();
+        const double addAll = millisecondsOf([&] { window->addPaths(paths); });
+        PlaylistWidget &list = *window->widgets().playlist;
+        const double paint = millisecondsOf([&] { present(list); });
+        const double held = heldMegabytes() - before;
+        took.save = medianOf(quickRounds, [&] { window->savePlaylist(); });
+        took.add = addAll - took.save + paint;
+        row("adding paths, without saving", took.add, m_bareAdd, "a bare list");
+        row("  that and saving", addAll + paint, 0, "");
+        took.again = medianOf(quickRounds, [&] { window->addPaths(paths); }) - took.save;
+        row("the same paths again, without saving", took.again, m_bareAdd, "a bare list's adding");
+        row("savePlaylist", took.save, settingsWrite(list.savedRows()), "QSettings' own write");
+        took.selectAll = millisecondsOf([&] {
+            list.selectAll();
+            QCoreApplication::processEvents();
+        });
+        row("select all", took.selectAll, m_bareSelect, "a bare list");
+        took.next = stepTime(*window);
+        row("next track, key to load line", took.next, 0, "");
+        std::printf("  %-44s %10.0f bytes a row, a bare list %.0f\n", "memory (with the list that undo keeps)",
+                    held * 1e6 / rows, m_bareHeld * 1e6 / rows);
+        const double clear = millisecondsOf([&] { window->clearPlaylist(); });
+        const double undo = millisecondsOf([&] { window->undoPlaylist(); });
+        row("clear, with saving", clear, 0, "");
+        row("undo of that, with saving", undo, 0, "");
+        window.reset();
+
+        // A copy under another name has to be read anew.
+        const QString stored = SettingsStore().fileName();
+        useSettings(u"copy%1"_s.arg(rows));
+        auto fresh = makeWindow();
+        fresh.reset();
+        const QString target = SettingsStore().fileName();
+        useSettings(u"again%1"_s.arg(rows));
+        const QString last = SettingsStore().fileName();
+        QDir().mkpath(QFileInfo(last).path());
+        QFile::copy(stored, last);
+        QFile::copy(stored, target + u".plain"_s);
+        const double read = millisecondsOf([&] {
+            QSettings plain(target + u".plain"_s, QSettings::IniFormat);
+            QListWidget bare;
+            for (const QString &text : plain.value("playlist"_L1).toStringList()) {
+                auto *item = new QListWidgetItem(text.section(QChar(0x1f), 0, 0), &bare);
+                item->setToolTip(text.section(QChar(0x1f), 1, 1));
+                item->setData(Qt::UserRole, text.section(QChar(0x1f), 1, 1));
+            }
+            bare.show();
+            present(bare);
+        });
+        const double start = millisecondsOf([&] {
+            fresh = makeWindow();
+            present(*fresh->widgets().playlist);
+        });
+        took.restore = start - m_emptyStart;
+        row("restore at start", took.restore, read, "QSettings' read into a bare list");
+        return took;
+    }
+
+    void measureEmptyStart()
+    {
+        useSettings(u"empty"_s);
+        makeWindow().reset();
+        m_emptyStart = medianOf(quickRounds, [this] { makeWindow().reset(); });
+        std::printf("a window with an empty list: %.2f ms\n", m_emptyStart);
+    }
+
+private:
+    void useSettings(const QString &name)
+    {
+        qputenv("KELP_SETTINGS_DIR", QFile::encodeName(m_root.filePath(name)));
+        applySettingsDirOverride();
+    }
+
+    std::unique_ptr<PlayerGuiWindow> makeWindow()
+    {
+        WindowOptions options;
+        options.asksBeforeClosing = false;
+        options.makeSession = [this](QObject *, const SessionOptions &) {
+            return std::make_unique<FakeSession>(m_engine);
+        };
+        options.probe = [](const QString &, const QStringList &, int, const ProbeLog &) {
+            return PlayerProbeResult{0, {}};
+        };
+        auto window = std::make_unique<PlayerGuiWindow>(options);
+        window->show();
+        QCoreApplication::processEvents();
+        return window;
+    }
+
+    void measureBare(const QStringList &paths)
+    {
+        const double before = heldMegabytes();
+        QListWidget bare;
+        bare.setSelectionMode(QListWidget::ExtendedSelection);
+        bare.resize(300, 600);
+        bare.show();
+        QCoreApplication::processEvents();
+        m_bareAdd = millisecondsOf([&] { fillBare(bare, paths); });
+        m_bareHeld = heldMegabytes() - before;
+        m_bareSelect = millisecondsOf([&] {
+            bare.selectAll();
+            QCoreApplication::processEvents();
+        });
+    }
+
+    double settingsWrite(const QStringList &rows)
+    {
+        const QString file = m_root.filePath(u"own.ini"_s);
+        QSettings(SettingsStore().fileName(), QSettings::IniFormat).sync();
+        QFile::remove(file);
+        QFile::copy(SettingsStore().fileName(), file);
+        {
+            QSettings own(file, QSettings::IniFormat); // parsed once, as the window's is
+            own.setValue("playlistRow"_L1, 1);
+            own.sync();
+        }
+        return medianOf(quickRounds, [&] {
+            QSettings own(file, QSettings::IniFormat);
+            own.setValue("playlist"_L1, rows);
+            own.setValue("playlistRow"_L1, 0);
+            own.setValue("lastPlayed"_L1, QString());
+            own.setValue("lastPlayedKey"_L1, QString());
+            own.sync();
+        });
+    }
+
+    double stepTime(PlayerGuiWindow &window)
+    {
+        window.startPlayback(window.widgets().playlist->count() / 2);
+        QList<double> took;
+        for (int i = 0; i < stepRounds; ++i) {
+            QCoreApplication::processEvents();
+            const qsizetype lines = m_engine.lines().size();
+            took.append(millisecondsOf([&] { window.stepRow(1); }));
+            if (m_engine.lines().size() == lines)
+                std::printf("  no load line was written\n");
+        }
+        window.killProc(true);
+        return middle(took);
+    }
+
+    QTemporaryDir m_root;
+    FakeEngine m_engine;
+    double m_bareAdd = 0.;
+    double m_bareSelect = 0.;
+    double m_bareHeld = 0.;
+    double m_emptyStart = 0.;
+};
+
+void growth(const Figures &few, const Figures &many, double factor)
+{
+    std::printf("%.0f times the rows take: adding %.1f, again %.1f, saving %.1f, restoring %.1f times the time\n",
+                factor, many.add / few.add, many.again / few.again, many.save / few.save,
+                many.restore / few.restore);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QList<int> sizes;
+    for (int i = 1; i < argc; ++i)
+        sizes.append(std::atoi(argv[i]));
+    if (sizes.isEmpty())
+        sizes = {1000, 20000, 200000};
+    Bench bench;
+    bench.measureEmptyStart();
+    QList<Figures> figures;
+    for (const int rows : sizes) {
+        figures.append(bench.measure(rows));
+        const qsizetype last = figures.size() - 1;
+        if (last > 0)
+            growth(figures.at(last - 1), figures.at(last), static_cast<double>(rows) / sizes.at(last - 1));
+    }
+    return 0;
+}
