@@ -61,9 +61,9 @@ void PlaylistWidget::putMarks(const Marks &marks)
     verticalScrollBar()->setValue(marks.scroll);
 }
 
-void PlaylistWidget::rebuild(const QList<QListWidgetItem *> &items, int currentRow)
+void PlaylistWidget::rebuild(const QList<QListWidgetItem *> &items)
 {
-    Marks marks = takeMarks();
+    const Marks marks = takeMarks();
     reset();
     {
         const QSignalBlocker unseen(model());
@@ -73,8 +73,6 @@ void PlaylistWidget::rebuild(const QList<QListWidgetItem *> &items, int currentR
             addItem(each);
     }
     reset();
-    if (currentRow >= 0)
-        marks.current = item(currentRow);
     putMarks(marks);
 }
 
@@ -99,7 +97,7 @@ void PlaylistWidget::appendItems(const QList<QListWidgetItem *> &items)
         all.append(items);
         for (qsizetype i = first; i < all.size(); ++i)
             m_index.add(*static_cast<PlaylistItem *>(all.at(i)));
-        rebuild(all, -1);
+        rebuild(all);
         return;
     }
     {
@@ -166,7 +164,7 @@ void PlaylistWidget::insertEntries(const RowRuns &rows, const QList<PlaylistEntr
     }
     while (old < count())
         all.append(item(old++));
-    rebuild(all, -1);
+    rebuild(all);
 }
 
 QList<PlaylistEntry> PlaylistWidget::removeEntries(const RowRuns &rows)
@@ -182,12 +180,21 @@ QList<PlaylistEntry> PlaylistWidget::removeEntries(const RowRuns &rows)
         clear();
         return removed;
     }
+    const bool currentGoes = currentRow() >= 0 && rowAfterRemove(rows, currentRow()) < 0;
+    takeOut(rows, gone);
+    if (currentGoes)
+        setCurrentRow(std::min(rows.first().first, count() - 1));
+    return removed;
+}
+
+void PlaylistWidget::takeOut(const RowRuns &rows, int gone)
+{
     if (gone <= mostSingleChanges) {
         for (auto run = rows.rbegin(); run != rows.rend(); ++run) {
             for (int row = run->first + run->count - 1; row >= run->first; --row)
                 delete takeItem(row);
         }
-        return removed;
+        return;
     }
     QList<QListWidgetItem *> kept;
     QList<QListWidgetItem *> dropped;
@@ -208,10 +215,8 @@ QList<PlaylistEntry> PlaylistWidget::removeEntries(const RowRuns &rows)
         if (m_highlighted == each)
             m_highlighted = nullptr;
     }
-    clearSelection();
-    rebuild(kept, std::min<int>(rows.first().first, static_cast<int>(kept.size()) - 1));
+    rebuild(kept);
     qDeleteAll(dropped);
-    return removed;
 }
 
 void PlaylistWidget::arrange(const RowRuns &order)
@@ -224,7 +229,7 @@ void PlaylistWidget::arrange(const RowRuns &order)
         for (int row = run.first; row < run.first + run.count; ++row)
             arranged.append(item(row));
     }
-    rebuild(arranged, -1);
+    rebuild(arranged);
     m_orderChange = order;
 }
 

@@ -84,7 +84,8 @@ private:
     struct Marks; // what a rebuilt view has lost
 
     void appendItems(const QList<QListWidgetItem *> &items);
-    void rebuild(const QList<QListWidgetItem *> &items, int currentRow);
+    void takeOut(const RowRuns &rows, int gone);
+    void rebuild(const QList<QListWidgetItem *> &items);
     Marks takeMarks() const;
     void putMarks(const Marks &marks);
     int dropRow(const QDropEvent &event) const;

@@ -26,6 +26,7 @@ protected:
     }
     QImage picture()
     {
+        m_list.doItemsLayout();
         QImage image(m_list.viewport()->size(), QImage::Format_RGB32);
         m_list.viewport()->render(&image);
         return image;
