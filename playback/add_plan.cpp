@@ -12,9 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::array supported = {".dsf"_L1,  ".dff"_L1, ".wsd"_L1,  ".iso"_L1,  ".dts"_L1,  ".wav"_L1,
-                                  ".w64"_L1,  ".aif"_L1, ".aifc"_L1, ".aiff"_L1, ".flac"_L1, ".cue"_L1,
-                                  ".m4a"_L1,  ".mp4"_L1, ".alac"_L1, ".tta"_L1,  ".wv"_L1,   ".ape"_L1};
+constexpr std::array supported = {".dsf"_L1, ".dff"_L1, ".wsd"_L1,  ".iso"_L1,  ".dts"_L1,  ".wav"_L1,
+                                  ".w64"_L1, ".aif"_L1, ".aifc"_L1, ".aiff"_L1, ".flac"_L1, ".cue"_L1,
+                                  ".m4a"_L1, ".mp4"_L1, ".alac"_L1, ".tta"_L1,  ".wv"_L1,   ".ape"_L1};
 constexpr std::array undecodable = {".mp3"_L1, ".aac"_L1, ".ogg"_L1};
 
 template<class Table>

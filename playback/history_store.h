@@ -9,8 +9,8 @@
 #include <functional>
 #include <memory>
 
-/// One file, one thread for it. Calls come from the GUI thread, and so do the answers; the destructor waits for
-/// what is still being written.
+/// One file, one thread for it. Calls come from the GUI thread, and so do the answers; the destructor waits
+/// for what is still being written.
 class HistoryStore final : public QObject
 {
     Q_OBJECT
@@ -27,8 +27,8 @@ public:
 
     /// Reads the history that belongs to a saved list. Answers at once where there is no file.
     void load(const QStringList &savedRows, std::function<void(const Loaded &)> done);
-    /// Writes a history; of several that wait only the last is written. The old file stays whole until the new
-    /// one is complete.
+    /// Writes a history; of several that wait only the last is written. The old file stays whole until the
+    /// new one is complete.
     void save(const PlaylistHistory &history, const QStringList &savedRows);
     /// Called with a sentence when the file cannot be written.
     std::function<void(const QString &complaint)> onFailure;

@@ -14,6 +14,7 @@ constexpr int sidePadding = 12;
 constexpr int tagGap = 8;
 constexpr int barWidth = 2;
 constexpr int tagPixels = 11;
+constexpr qsizetype mostTagWidths = 100;
 constexpr double tagTracking = 0.08; // of its size
 
 /// A part of the row's rectangle, counted from the leading edge.
@@ -57,6 +58,19 @@ QSize PlaylistDelegate::sizeHint(const QStyleOptionViewItem &, const QModelIndex
     return {0, rowHeight};
 }
 
+int PlaylistDelegate::widthOf(const QString &tag) const
+{
+    if (tag.isEmpty())
+        return 0;
+    const auto known = m_tagWidths.constFind(tag);
+    if (known != m_tagWidths.constEnd())
+        return *known;
+    // There are few formats; names that are none must not fill the memory.
+    if (m_tagWidths.size() >= mostTagWidths)
+        m_tagWidths.clear();
+    return *m_tagWidths.insert(tag, QFontMetrics(m_tagFont).horizontalAdvance(tag));
+}
+
 void PlaylistDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                              const QModelIndex &index) const
 {
@@ -76,13 +90,13 @@ void PlaylistDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
         painter->fillRect(part(option, 0, barWidth), amber);
 
     const QString tag = formatTag(index.data(playlist_role::path).toString());
-    const int tagWidth = tag.isEmpty() ? 0 : QFontMetrics(m_tagFont).horizontalAdvance(tag);
+    const int tagWidth = widthOf(tag);
     const int inner = option.rect.width() - 2 * sidePadding;
     const int tagSpace = tag.isEmpty() ? 0 : tagWidth + tagGap;
 
     // The interface decides the side; the text runs as its own script does.
-    const Qt::Alignment leading = QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute |
-                                  Qt::AlignVCenter;
+    const Qt::Alignment leading =
+        QStyle::visualAlignment(option.direction, Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter;
     QFont font = option.font;
     font.setWeight(playing ? QFont::Bold : QFont::Normal);
     painter->setFont(font);

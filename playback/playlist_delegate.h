@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QStyledItemDelegate>
 
 /// The colours of the rows; the defaults are those of the dark look.
@@ -12,7 +13,8 @@ struct PlaylistColours
     QColor text{0xCF, 0xC9, 0xBF};
     QColor textRaised{0xED, 0xEA, 0xE3}; ///< of a hovered or selected row
     QColor tag{0x8A, 0x85, 0x7C};
-    QColor tagRaised{0xB9, 0xB3, 0xA8}; ///< on a selected row or on the playing one, where the other would not read
+    QColor tagRaised{0xB9, 0xB3,
+                     0xA8}; ///< on a selected row or on the playing one, where the other would not read
     QColor hover{0x18, 0x18, 0x1E};
     QColor selected{0x1F, 0x1F, 0x26};
     QColor playingPlate{0xC9, 0xA9, 0x6E, 33}; ///< a wash in the dark look, a dark plate in the light one
@@ -22,11 +24,12 @@ struct PlaylistColours
     QColor focus{0x2C, 0x2C, 0x35}; ///< around a current row that is not selected
 };
 
-/// The rows of the light look: the playing row is printed in reverse, since its amber cannot be read on white.
+/// The rows of the light look: the playing row is printed in reverse, since its amber cannot be read on
+/// white.
 PlaylistColours lightPlaylistColours();
 
-/// Rows of one height: text elided at its end, the file's format behind it, the playing row amber with a bar at
-/// its leading edge. Mirrors with the view.
+/// Rows of one height: text elided at its end, the file's format behind it, the playing row amber with a bar
+/// at its leading edge. Mirrors with the view.
 class PlaylistDelegate final : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -38,9 +41,13 @@ public:
 
     void setColours(const PlaylistColours &colours) { m_colours = colours; }
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
 
 private:
+    int widthOf(const QString &tag) const;
+
     PlaylistColours m_colours;
     QFont m_tagFont;
+    mutable QHash<QString, int> m_tagWidths; ///< in pixels
 };

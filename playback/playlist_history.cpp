@@ -10,7 +10,8 @@ bool continues(const PlaylistChange &last, const PlaylistChange &next)
     if (next.group == 0 || last.group != next.group || last.kind != PlaylistChange::Kind::Insert ||
         next.kind != PlaylistChange::Kind::Insert)
         return false;
-    return next.runs.size() == 1 && last.runs.last().first + last.runs.last().count == next.runs.first().first;
+    return next.runs.size() == 1 &&
+           last.runs.last().first + last.runs.last().count == next.runs.first().first;
 }
 
 void replaceEntries(PlaylistChange &change, const QList<PlaylistEntry> &entries)

@@ -125,8 +125,8 @@ quint64 listFingerprint(const QStringList &savedRows)
     for (const QString &row : savedRows) {
         // Titles change with the tags, and the list stays the same.
         const QStringView key = QStringView(row).sliced(row.indexOf(separator) + 1);
-        state =
-            mixedBytes(state, reinterpret_cast<const char *>(key.data()), key.size() * qsizetype(sizeof(QChar)));
+        state = mixedBytes(state, reinterpret_cast<const char *>(key.data()),
+                           key.size() * qsizetype(sizeof(QChar)));
     }
     return state;
 }
@@ -179,8 +179,8 @@ std::optional<StoredHistory> parseHistory(const QByteArray &bytes)
     constexpr quint32 most = PlaylistHistory::mostChanges;
     QList<PlaylistChange> undoChanges;
     QList<PlaylistChange> redoChanges;
-    if (in.status() != QDataStream::Ok || undo > most || redo > most ||
-        !readChanges(in, undo, undoChanges) || !readChanges(in, redo, redoChanges) || !in.atEnd())
+    if (in.status() != QDataStream::Ok || undo > most || redo > most || !readChanges(in, undo, undoChanges) ||
+        !readChanges(in, redo, redoChanges) || !in.atEnd())
         return std::nullopt;
     stored.history = PlaylistHistory::fromChanges(std::move(undoChanges), std::move(redoChanges));
     return stored;

@@ -18,10 +18,12 @@ struct StoredHistory
     quint64 fingerprint = 0;
 };
 
-/// A number that tells two saved lists apart by their tracks and the order of these, whatever their titles are.
+/// A number that tells two saved lists apart by their tracks and the order of these, whatever their titles
+/// are.
 quint64 listFingerprint(const QStringList &savedRows);
 
-/// Own form: a line of identity, a checksum, then big-endian numbers and UTF-16 texts, each behind its length.
+/// Own form: a line of identity, a checksum, then big-endian numbers and UTF-16 texts, each behind its
+/// length.
 QByteArray historyBytes(const StoredHistory &stored);
 /// None when the bytes are not wholly what historyBytes() makes.
 std::optional<StoredHistory> parseHistory(const QByteArray &bytes);

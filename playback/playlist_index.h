@@ -7,8 +7,8 @@
 
 class PlaylistItem;
 
-/// Kept beside the list and true through every change of it: rows enter and leave with the list, and tell of a
-/// changed path themselves. Rows of one path are chained in no order. GUI thread.
+/// Kept beside the list and true through every change of it: rows enter and leave with the list, and tell of
+/// a changed path themselves. Rows of one path are chained in no order. GUI thread.
 class PlaylistIndex
 {
 public:

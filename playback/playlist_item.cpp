@@ -117,6 +117,7 @@ void PlaylistItem::setData(int role, const QVariant &value)
         QListWidgetItem::setData(role, value);
         return;
     }
+    m_saved = QString();
     tellChanged(role);
 }
 
@@ -142,9 +143,10 @@ PlaylistEntry PlaylistItem::entry() const
 
 QString PlaylistItem::saved() const
 {
-    if (m_container)
-        return savedRow(entry());
-    return savedFileRow(m_text.isNull() ? fileNameOf(m_path) : QStringView(m_text), m_path);
+    if (m_saved.isNull())
+        m_saved = m_container ? savedRow(entry())
+                              : savedFileRow(m_text.isNull() ? fileNameOf(m_path) : m_text, m_path);
+    return m_saved;
 }
 
 bool PlaylistItem::countsAsListed() const

@@ -56,7 +56,8 @@ private:
 
     QString m_text; ///< null: the file's name
     QString m_path;
-    QString m_toolTip; ///< null: the path
+    QString m_toolTip;       ///< null: the path
+    mutable QString m_saved; ///< saved(), once asked for; the settings hold the same text and share it
     std::unique_ptr<Container> m_container; ///< null for a plain file
     PlaylistIndex *m_index = nullptr;       ///< of the list that holds the row
     PlaylistItem *m_nextOfPath = nullptr;   ///< rows of one path are chained

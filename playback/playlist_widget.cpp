@@ -121,8 +121,8 @@ RowRuns PlaylistWidget::selectedRuns() const
     std::sort(runs.begin(), runs.end(), [](const RowRun &a, const RowRun &b) { return a.first < b.first; });
     RowRuns merged;
     for (const RowRun &run : std::as_const(runs)) {
-        const int from = merged.isEmpty() ? run.first
-                                          : std::max(run.first, merged.last().first + merged.last().count);
+        const int from =
+            merged.isEmpty() ? run.first : std::max(run.first, merged.last().first + merged.last().count);
         const int rows = run.first + run.count - from;
         if (rows < 1)
             continue;

@@ -34,14 +34,16 @@ public:
     void appendEntries(const QList<PlaylistEntry> &entries);
     /// A plain row a path, with the file's name as its text.
     void appendFiles(const QStringList &paths);
-    /// \param rows where the entries are to stand afterwards; as many as there are entries, and a set of rows of
+    /// \param rows where the entries are to stand afterwards; as many as there are entries, and a set of rows
+    /// of
     ///             the list that comes of it
     void insertEntries(const RowRuns &rows, const QList<PlaylistEntry> &entries);
     /// Deletes a set of rows of this list and returns what they were.
     QList<PlaylistEntry> removeEntries(const RowRuns &rows);
     /// \param order an order of exactly the rows of this list
     void arrange(const RowRuns &order);
-    /// Takes a row out and puts it in at \p to; it becomes the current row and is scrolled to. Both rows exist.
+    /// Takes a row out and puts it in at \p to; it becomes the current row and is scrolled to. Both rows
+    /// exist.
     void moveEntry(int from, int to);
     /// The change of order that the last drag, arrange() or moveEntry() made, once; none when there was none.
     std::optional<RowRuns> takeOrderChange();

@@ -47,9 +47,9 @@ QString rowProperties(const PlaylistEntry &entry, int row, int count)
     if (!entry.cuePath.isEmpty() && !entry.isStream())
         lines += text(QT_TRANSLATE_NOOP("RowProperties", "CUE 表: %1")).arg(entry.cuePath);
     if (entry.endSec > entry.startSec)
-        lines += text(QT_TRANSLATE_NOOP("RowProperties", "时间: %1 s → %2 s (长 %3 s)"))
-                     .arg(seconds(entry.startSec), seconds(entry.endSec),
-                          seconds(entry.endSec - entry.startSec));
+        lines +=
+            text(QT_TRANSLATE_NOOP("RowProperties", "时间: %1 s → %2 s (长 %3 s)"))
+                .arg(seconds(entry.startSec), seconds(entry.endSec), seconds(entry.endSec - entry.startSec));
     return lines.join(u'\n');
 }
 

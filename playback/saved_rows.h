@@ -8,8 +8,8 @@
 #include <QStringView>
 #include <optional>
 
-/// The text of a row: text, path, sheet, track, start, end, image, joined by U+001F. The times are written with
-/// 17 significant digits, so that they come back as they were.
+/// The text of a row: text, path, sheet, track, start, end, image, joined by U+001F. The times are written
+/// with 17 significant digits, so that they come back as they were.
 QString savedRow(const PlaylistEntry &entry);
 /// The same for a plain file, which is what most rows are.
 QString savedFileRow(QStringView text, QStringView path);

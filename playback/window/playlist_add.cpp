@@ -67,16 +67,16 @@ void PlayerGuiWindow::addPaths(const QStringList &paths, const std::function<voi
     }
     const PlaylistIndex &index = m_ui.playlist->index();
     const AddPlan plan = planAdd(
-        collected.paths,
-        {[&index](const QString &path) { return index.isListed(path); },
-         [&index](const QString &path) { return index.hasPath(path); },
-         [this](const QString &path) { return m_list.pendingContainers.contains(path); }});
+        collected.paths, {[&index](const QString &path) { return index.isListed(path); },
+                          [&index](const QString &path) { return index.hasPath(path); },
+                          [this](const QString &path) { return m_list.pendingContainers.contains(path); }});
     const quint64 group = ++m_list.lastAddGroup;
     if (!plan.files.isEmpty()) {
         const int first = m_ui.playlist->count();
         adding->added = static_cast<int>(plan.files.size());
         m_ui.playlist->appendFiles(plan.files);
-        recordChange({PlaylistChange::Kind::Insert, {{first, adding->added}}, fileEntries(plan.files), group});
+        recordChange(
+            {PlaylistChange::Kind::Insert, {{first, adding->added}}, fileEntries(plan.files), group});
     }
     // The rows stand, and nobody wants to look at a frozen list until the last image has been read through.
     m_ui.playlist->setUpdatesEnabled(true);

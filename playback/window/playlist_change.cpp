@@ -107,8 +107,8 @@ void PlayerGuiWindow::removeSelectedRows()
 void PlayerGuiWindow::clearPlaylist()
 {
     if (const int count = m_ui.playlist->count(); count > 0)
-        recordChange({PlaylistChange::Kind::Remove, {{0, count}},
-                      m_ui.playlist->removeEntries({{0, count}}), 0});
+        recordChange(
+            {PlaylistChange::Kind::Remove, {{0, count}}, m_ui.playlist->removeEntries({{0, count}}), 0});
     // A number from the old list would point into the next one.
     m_start.playingRow = -1;
     applyLibraryFilter();
@@ -129,8 +129,8 @@ void PlayerGuiWindow::recordChange(PlaylistChange change)
 
 void PlayerGuiWindow::followRows(const PlaylistChange &change)
 {
-    for (int *row : {&m_start.lastStartedRow, &m_start.exclusiveFallbackRow, &m_progress.lastPosRow,
-                     &m_preload.row}) {
+    for (int *row :
+         {&m_start.lastStartedRow, &m_start.exclusiveFallbackRow, &m_progress.lastPosRow, &m_preload.row}) {
         if (*row >= 0)
             *row = rowAfterChange(change, *row);
     }

@@ -61,7 +61,8 @@ void PlayerGuiWindow::connectPlaylist()
 
 void PlayerGuiWindow::addPlaylistActions()
 {
-    const auto add = [](QWidget *owner, const QKeySequence &key, Qt::ShortcutContext context, const auto &act) {
+    const auto add = [](QWidget *owner, const QKeySequence &key, Qt::ShortcutContext context,
+                        const auto &act) {
         auto *action = new QAction(owner);
         action->setShortcut(key);
         action->setShortcutContext(context);

@@ -44,8 +44,8 @@ AddFacts factsOf(const QSet<QString> &listed, const QSet<QString> &rows, const Q
 
 TEST(AudioNames, EverySupportedSuffixInEitherCase)
 {
-    for (const char *suffix : {"dsf", "dff", "wsd", "iso", "dts", "wav", "w64", "aif", "aifc", "aiff", "flac", "cue",
-                               "m4a", "mp4", "alac", "tta", "wv", "ape"}) {
+    for (const char *suffix : {"dsf", "dff", "wsd", "iso", "dts", "wav", "w64", "aif", "aifc", "aiff", "flac",
+                               "cue", "m4a", "mp4", "alac", "tta", "wv", "ape"}) {
         const QString name = u"a."_s + QString::fromLatin1(suffix);
         EXPECT_EQ(audioNameKind(name), AudioNameKind::Supported) << suffix;
         EXPECT_EQ(audioNameKind(name.toUpper()), AudioNameKind::Supported) << suffix;
@@ -95,7 +95,8 @@ TEST_F(Folder, AnMp3NamedDirectlyIsTakenWithoutACount)
 
 TEST_F(Folder, WhatIsNeitherFileNorFolderIsPassedOver)
 {
-    EXPECT_TRUE(collectPaths({m_dir.filePath(u"none"_s), u""_s, u"http://x/a.flac"_s, u"/dev/null"_s}).paths.isEmpty());
+    EXPECT_TRUE(collectPaths({m_dir.filePath(u"none"_s), u""_s, u"http://x/a.flac"_s, u"/dev/null"_s})
+                    .paths.isEmpty());
 }
 
 TEST_F(Folder, ANameThatIsNoUtf8IsCounted)
@@ -130,7 +131,8 @@ TEST(AddPlan, AFileEntersOnce)
 
 TEST(AddPlan, PathsThatDifferInCaseAreTwoFiles)
 {
-    EXPECT_EQ(planAdd({u"/A.wav"_s, u"/a.wav"_s}, factsOf({u"/a.wav"_s}, {}, {})).files, QStringList{u"/A.wav"_s});
+    EXPECT_EQ(planAdd({u"/A.wav"_s, u"/a.wav"_s}, factsOf({u"/a.wav"_s}, {}, {})).files,
+              QStringList{u"/A.wav"_s});
 }
 
 TEST(AddPlan, ContainersAreToldBySuffixInEitherCase)

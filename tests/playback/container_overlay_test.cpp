@@ -40,7 +40,8 @@ TEST(ContainerOverlay, StoredTagsTakeTheRow)
 {
     const auto row = overlayContainerRow(tagged({u"Aria"_s, u"Elsbeth"_s, u"Album"_s, u"1964"_s}));
     EXPECT_EQ(row->text, u"Aria — Elsbeth"_s);
-    EXPECT_EQ(row->toolTip, u"/m/a.cue\n轨 3\n专辑: Album\n年份: 1964\n(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)"_s);
+    EXPECT_EQ(row->toolTip,
+              u"/m/a.cue\n轨 3\n专辑: Album\n年份: 1964\n(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)"_s);
 }
 
 TEST(ContainerOverlay, AnEmptyFieldFallsBackAndAnUnsetLineIsLeftOut)
@@ -66,7 +67,8 @@ TEST(RowProperties, APlainFile)
     PlaylistEntry entry;
     entry.text = u"a.flac"_s;
     entry.path = u"/m/a.flac"_s;
-    EXPECT_EQ(rowProperties(entry, 1, 7), u"显示: a.flac\n位置: 第 2/7 项\n类型: 音频文件\n格式: FLAC\n文件: /m/a.flac"_s);
+    EXPECT_EQ(rowProperties(entry, 1, 7),
+              u"显示: a.flac\n位置: 第 2/7 项\n类型: 音频文件\n格式: FLAC\n文件: /m/a.flac"_s);
 }
 
 TEST(RowProperties, ATrackOfASheetNamesTheSheetAndItsTimes)

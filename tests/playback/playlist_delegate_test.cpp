@@ -19,8 +19,8 @@ protected:
     {
         m_list.setFrameShape(QFrame::NoFrame);
         m_list.setStyleSheet(u"QListWidget { background: #0C0C0F; }"_s);
-        m_list.appendFiles({u"/m/short.flac"_s, u"/m/x"_s,
-                            u"/m/"_s + QString(300, u'W') + u".dsf"_s, u"/m/last.wav"_s});
+        m_list.appendFiles(
+            {u"/m/short.flac"_s, u"/m/x"_s, u"/m/"_s + QString(300, u'W') + u".dsf"_s, u"/m/last.wav"_s});
         m_list.resize(300, 160);
         m_list.ensurePolished();
     }
@@ -83,7 +83,8 @@ TEST_F(Looks, EverythingMirrorsFromRightToLeft)
     EXPECT_NE(image.pixelColor(0, 5), amber);
     const QRect last = rowRect(3);
     EXPECT_TRUE(paints(image, {12, last.top(), 24, 32}, m_well)) << "WAV";
-    EXPECT_FALSE(paints(image, {last.center().x() - 20, last.top(), 40, 32}, m_well)) << "the text stands right";
+    EXPECT_FALSE(paints(image, {last.center().x() - 20, last.top(), 40, 32}, m_well))
+        << "the text stands right";
 }
 
 TEST_F(Looks, ASelectedRowIsRaised)

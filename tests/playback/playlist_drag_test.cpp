@@ -22,7 +22,10 @@ public:
     void drop(QDropEvent &event) { dropEvent(&event); }
     void enter(QDragEnterEvent &event) { dragEnterEvent(&event); }
     void move(QDragMoveEvent &event) { dragMoveEvent(&event); }
-    std::unique_ptr<QMimeData> rowData() const { return std::unique_ptr<QMimeData>(mimeData(selectedItems())); }
+    std::unique_ptr<QMimeData> rowData() const
+    {
+        return std::unique_ptr<QMimeData>(mimeData(selectedItems()));
+    }
     const QObject *source = nullptr;
 
 protected:
@@ -107,7 +110,8 @@ TEST_F(PlaylistDrag, WithoutCallbacksNothingIsCalled)
 
 TEST_F(PlaylistDrag, DroppedFilesAreTaken)
 {
-    EXPECT_TRUE(dropUrls({QUrl(u"file:///m/x%20y.wav"_s), QUrl(u"http://host/a.flac"_s), QUrl(u"file:///m"_s)}));
+    EXPECT_TRUE(
+        dropUrls({QUrl(u"file:///m/x%20y.wav"_s), QUrl(u"http://host/a.flac"_s), QUrl(u"file:///m"_s)}));
     EXPECT_EQ(m_dropped, (QStringList{u"/m/x y.wav"_s, u"/m"_s})) << "what is no local file is left out";
     EXPECT_EQ(m_list.count(), 6) << "the list itself adds nothing";
 }
@@ -122,7 +126,8 @@ TEST_F(PlaylistDrag, ANameThatIsNoUtf8ArrivesMarked)
 {
     EXPECT_TRUE(dropUrls({QUrl::fromEncoded("file:///m/%FF.wav")}));
     ASSERT_EQ(m_dropped.size(), 1);
-    EXPECT_TRUE(m_dropped.first().contains(QChar::ReplacementCharacter) || m_dropped.first().contains(u"%FF"_s))
+    EXPECT_TRUE(m_dropped.first().contains(QChar::ReplacementCharacter) ||
+                m_dropped.first().contains(u"%FF"_s))
         << qPrintable(m_dropped.first());
 }
 

@@ -297,7 +297,8 @@ TEST(PlaylistWidget, RowsThatLeaveInAnyWayLeaveTheIndex)
 TEST(PlaylistWidget, TheModelKeepsItsPromisesForSingleRows)
 {
     PlaylistWidget list;
-    const QAbstractItemModelTester tester(list.model(), QAbstractItemModelTester::FailureReportingMode::Fatal);
+    const QAbstractItemModelTester tester(list.model(),
+                                          QAbstractItemModelTester::FailureReportingMode::Fatal);
     list.appendFiles(paths(0, 5));
     list.moveEntry(0, 3);
     list.removeEntries({{1, 2}});
@@ -374,5 +375,6 @@ TEST(PlaylistWidget, RowsAreOfOneHeight)
     list.showRow(500);
     EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(500))));
     list.removeEntries({{900, 50}});
-    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(500)))) << "the view stays where it is";
+    EXPECT_TRUE(list.viewport()->rect().contains(list.visualItemRect(list.item(500))))
+        << "the view stays where it is";
 }

@@ -38,7 +38,8 @@ TEST(SavedRows, SixFieldsAreNoRow)
 {
     EXPECT_FALSE(parseSavedRow(u"a\u001f/a\u001f\u001f0\u001f0\u001f0"_s));
     EXPECT_FALSE(parseSavedRow(u""_s));
-    EXPECT_TRUE(parseSavedRow(u"a\u001f/a\u001f\u001f0\u001f0\u001f0\u001f\u001feighth"_s)) << "at least seven";
+    EXPECT_TRUE(parseSavedRow(u"a\u001f/a\u001f\u001f0\u001f0\u001f0\u001f\u001feighth"_s))
+        << "at least seven";
 }
 
 TEST(SavedRows, ARowNeedsAPath)

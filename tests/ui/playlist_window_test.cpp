@@ -131,7 +131,8 @@ TEST_F(Playlist, ASheetWaitsForItsProbeAndDoneComesLast)
 {
     const QStringList files = make({u"x.flac"_s, u"a.cue"_s, u"y.flac"_s});
     m_probe = [files](const QStringList &) {
-        return PlayerProbeResult{0, u"TRACK\t3\t0\t60\t\t\t%1\nTRACK\t4\t60\t90\tEins\tWer\t%1\n"_s.arg(files.last())};
+        return PlayerProbeResult{
+            0, u"TRACK\t3\t0\t60\t\t\t%1\nTRACK\t4\t60\t90\tEins\tWer\t%1\n"_s.arg(files.last())};
     };
     m_window.reset();
     makeWindow();
@@ -143,7 +144,8 @@ TEST_F(Playlist, ASheetWaitsForItsProbeAndDoneComesLast)
     ASSERT_EQ(list()->count(), 4);
     EXPECT_EQ(list()->item(2)->text(), u"03. y.flac"_s);
     EXPECT_EQ(list()->item(3)->text(), u"04. Eins — Wer"_s);
-    EXPECT_EQ(list()->item(3)->toolTip(), files.at(1) + u"\n轨 4\n(标签来自容器自带的信息; 本地库里没有额外的标签)"_s);
+    EXPECT_EQ(list()->item(3)->toolTip(),
+              files.at(1) + u"\n轨 4\n(标签来自容器自带的信息; 本地库里没有额外的标签)"_s);
     EXPECT_TRUE(logHas(u"已添加 4 首 (列表共 4 首)"_s));
     EXPECT_EQ(saved().size(), 4);
 
@@ -273,7 +275,8 @@ TEST_F(Playlist, AnEmptyListIsRestoredToNothing)
 
 TEST_F(Playlist, OddNamesSurviveTheSettings)
 {
-    m_window->addPaths(make({u"@At.flac"_s, u"a,b;c \"q\" \\ %1.flac"_s, u"武満徹 — أم.flac"_s, u"line\nbreak.flac"_s}));
+    m_window->addPaths(
+        make({u"@At.flac"_s, u"a,b;c \"q\" \\ %1.flac"_s, u"武満徹 — أم.flac"_s, u"line\nbreak.flac"_s}));
     const QStringList before = shown();
     restart();
     EXPECT_EQ(shown(), before);
@@ -326,6 +329,8 @@ TEST_F(Playlist, DeleteRemovesWhatIsSelectedAndUndoBringsItBack)
 {
     abc();
     m_window->show();
+    m_window->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get(), 20000));
     list()->setFocus();
     QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(list(), Qt::Key_Delete);
@@ -508,8 +513,8 @@ TEST_F(Playlist, TheMenuOffersWhatCanBeDone)
     abc();
     list()->setCurrentRow(1);
     QMap<QString, bool> full = openMenu();
-    for (const QString &name : {u"播放"_s, u"移除"_s, u"在文件管理器中显示"_s, u"移到最前"_s, u"移到最后"_s, u"属性"_s,
-                                u"全选"_s, u"撤销"_s, u"清空列表"_s})
+    for (const QString &name : {u"播放"_s, u"移除"_s, u"在文件管理器中显示"_s, u"移到最前"_s, u"移到最后"_s,
+                                u"属性"_s, u"全选"_s, u"撤销"_s, u"清空列表"_s})
         EXPECT_TRUE(full.value(name)) << qPrintable(name);
     EXPECT_FALSE(full.value(u"重做"_s));
     for (QAction *action : m_window->findChildren<QMenu *>().last()->actions()) {

@@ -74,9 +74,8 @@ public:
     void stepRow(int delta);
     /// Appends one plain file, listed already or not; the row's number.
     int appendFile(const QString &path);
-    /// Appends what is new of files and folders; a sheet or an image is spread into its tracks when the engine
-    /// has listed them.
-    /// \param done called once, when everything is in the list; may be empty
+    /// Appends what is new of files and folders; a sheet or an image is spread into its tracks when the
+    /// engine has listed them. \param done called once, when everything is in the list; may be empty
     void addPaths(const QStringList &paths, const std::function<void()> &done = {});
     /// \param path a sheet or an image, absolute
     /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
@@ -248,7 +247,7 @@ private:
     DeviceState m_devices;
     PlaylistState m_list;
     HistoryStore *m_historyStore = nullptr; ///< a child of the window, made with the list's actions
-    bool m_pcmFilterExplicit = false;  ///< the user has taken a decode filter by hand
-    bool m_volumeTouched = false;      ///< the user has moved the volume since the program started
-    bool m_closing = false;            ///< killProc has run on the way out
+    bool m_pcmFilterExplicit = false;       ///< the user has taken a decode filter by hand
+    bool m_volumeTouched = false;           ///< the user has moved the volume since the program started
+    bool m_closing = false;                 ///< killProc has run on the way out
 };
