@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Figures of the whole program, each beside a baseline of the same run. Nothing here fails on a time.
 
-usage: bench/program.py [start] [idle] [engine] [latency] [instruments]      all of them without a name
+usage: bench/program.py [start] [list] [idle] [engine] [latency] [instruments]      all of them without a name
 """
 import os
 import shutil
@@ -58,6 +58,29 @@ def bench_start(rounds=21):
             if took:
                 middle = statistics.median(took)
                 row(f"start to first painted window, {name}", middle, "ms", f"KelpPlayer is {ours / middle:.2f} of it")
+
+
+def bench_list(rows=20000, rounds=7):
+    """The start with a long saved playlist, beside the start with an empty one."""
+    with Stage() as stage:
+        bare_display(stage)
+        stage.bus()
+        music = stage.folder("music")
+        paths = [os.path.join(music, f"{number:05d} - A Title of Usual Length.flac") for number in range(rows)]
+        for path in paths:
+            open(path, "wb").close()
+        program = os.path.join(BUILD, "bench", "first_window")
+        took = {}
+        for name, saved in (("an empty list", []), (f"{rows} saved rows", paths)):
+            folder = os.path.join(stage.env["KELP_SETTINGS_DIR"], "KELP")
+            os.makedirs(folder, exist_ok=True)
+            with open(os.path.join(folder, "KelpPlayer.ini"), "w", encoding="utf-8") as file:
+                texts = (r"\x1f".join([os.path.basename(path), path, "", "0", "0", "0", ""]) for path in saved)
+                file.write("[General]\nplaylist=" + ", ".join(f'"{text}"' for text in texts) + "\n")
+            times = [float(subprocess.run([program, PROGRAM], env=stage.env, capture_output=True, text=True, check=True).stdout.split()[-1])
+                     for _ in range(rounds + 1)]
+            took[name] = statistics.median(times[1:])
+            row(f"start to first painted window, {name}", took[name], "ms", f"{took[name] / took['an empty list']:.2f} of an empty one's")
 
 
 def cpu_seconds(pid):
@@ -155,7 +178,7 @@ def bench_latency(rounds=40):
 
 
 def main():
-    chosen = sys.argv[1:] or ["start", "idle", "engine", "latency", "instruments"]
+    chosen = sys.argv[1:] or ["start", "list", "idle", "engine", "latency", "instruments"]
     for name in chosen:
         globals()["bench_" + name]()
 

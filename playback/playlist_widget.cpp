@@ -1,11 +1,20 @@
 #include "playback/playlist_widget.h"
 
+#include "playback/playlist_delegate.h"
+#include "playback/playlist_item.h"
 #include "playback/playlist_roles.h"
+
+#include <algorithm>
+#include <utility>
 
 namespace {
 
 constexpr int leastHeight = 110;
-constexpr QColor playingColour(245, 166, 35);
+
+PlaylistItem *ownItem(QListWidgetItem *item)
+{
+    return dynamic_cast<PlaylistItem *>(item);
+}
 
 } // namespace
 
@@ -16,27 +25,56 @@ PlaylistWidget::PlaylistWidget(QWidget *parent)
     setAlternatingRowColors(false);
     setMinimumHeight(leastHeight);
     setUniformItemSizes(true);
+    setItemDelegate(new PlaylistDelegate(this));
     setTextElideMode(Qt::ElideRight);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setDragDropMode(InternalMove);
+    setDefaultDropAction(Qt::MoveAction);
+    setDragEnabled(true);
+    setDropIndicatorShown(true);
+    viewport()->setAcceptDrops(true);
+    viewport()->setAttribute(Qt::WA_Hover); // rows show what the pointer is on
+    connect(model(), &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_index.clear();
+        m_highlighted = nullptr;
+    });
 }
 
-void PlaylistWidget::appendEntry(const PlaylistEntry &entry, const QString &toolTip)
+PlaylistWidget::~PlaylistWidget()
 {
-    auto *item = new QListWidgetItem(entry.text, this);
-    item->setToolTip(toolTip.isEmpty() ? entry.path : toolTip);
-    item->setData(playlist_role::path, entry.path);
-    if (!entry.isContainerTrack())
-        return;
-    item->setData(playlist_role::cuePath, entry.cuePath);
-    item->setData(playlist_role::track, entry.track);
-    item->setData(playlist_role::startSec, entry.startSec);
-    item->setData(playlist_role::endSec, entry.endSec);
-    if (!entry.isoPath.isEmpty())
-        item->setData(playlist_role::isoPath, entry.isoPath);
+    // The rows outlive this part of the object, and must not look for the index then.
+    m_index.clear();
+}
+
+void PlaylistWidget::rowsInserted(const QModelIndex &parent, int start, int end)
+{
+    for (int row = start; row <= end; ++row) {
+        if (PlaylistItem *own = ownItem(item(row)))
+            m_index.add(*own);
+    }
+    QListWidget::rowsInserted(parent, start, end);
+}
+
+void PlaylistWidget::rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end)
+{
+    for (int row = start; row <= end; ++row) {
+        // A row that is being deleted is no such row any more, and has left the index by itself.
+        PlaylistItem *own = ownItem(item(row));
+        if (own)
+            m_index.remove(*own);
+        if (static_cast<QListWidgetItem *>(m_highlighted) == item(row)) {
+            if (own)
+                own->setHighlighted(false);
+            m_highlighted = nullptr;
+        }
+    }
+    QListWidget::rowsAboutToBeRemoved(parent, start, end);
 }
 
 PlaylistEntry PlaylistWidget::entryOf(const QListWidgetItem &item)
 {
+    if (const auto *own = dynamic_cast<const PlaylistItem *>(&item))
+        return own->entry();
     return {item.text(),
             item.data(playlist_role::path).toString(),
             item.data(playlist_role::cuePath).toString(),
@@ -52,34 +90,102 @@ PlaylistEntry PlaylistWidget::entryAt(int row) const
     return found ? entryOf(*found) : PlaylistEntry();
 }
 
+QList<PlaylistEntry> PlaylistWidget::entries() const
+{
+    QList<PlaylistEntry> all;
+    all.reserve(count());
+    for (int row = 0; row < count(); ++row)
+        all.append(entryOf(*item(row)));
+    return all;
+}
+
+QStringList PlaylistWidget::savedRows() const
+{
+    QStringList saved;
+    saved.reserve(count());
+    for (int row = 0; row < count(); ++row) {
+        if (const auto *own = dynamic_cast<const PlaylistItem *>(item(row)))
+            saved.append(own->saved());
+    }
+    return saved;
+}
+
+RowRuns PlaylistWidget::selectedRuns() const
+{
+    RowRuns runs;
+    const QItemSelection selection = selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection) {
+        if (range.isValid())
+            runs.append(RowRun{range.top(), range.bottom() - range.top() + 1});
+    }
+    std::sort(runs.begin(), runs.end(), [](const RowRun &a, const RowRun &b) { return a.first < b.first; });
+    RowRuns merged;
+    for (const RowRun &run : std::as_const(runs)) {
+        const int from =
+            merged.isEmpty() ? run.first : std::max(run.first, merged.last().first + merged.last().count);
+        const int rows = run.first + run.count - from;
+        if (rows < 1)
+            continue;
+        if (!merged.isEmpty() && merged.last().first + merged.last().count == from)
+            merged.last().count += rows;
+        else
+            merged.append(RowRun{from, rows});
+    }
+    return merged;
+}
+
+int PlaylistWidget::firstRowOf(const QString &path,
+                               const std::function<bool(const PlaylistItem &)> &accepts) const
+{
+    int first = -1;
+    for (const PlaylistItem *each = m_index.anyOfPath(path); each; each = PlaylistIndex::nextOfPath(*each)) {
+        if (!accepts(*each))
+            continue;
+        const int found = row(each);
+        if (first < 0 || found < first)
+            first = found;
+    }
+    return first;
+}
+
 int PlaylistWidget::rowOfKey(const QString &key) const
 {
-    for (int row = 0; row < count(); ++row) {
-        if (rowKey(entryAt(row)) == key)
-            return row;
+    constexpr QChar separator(0x1f);
+    // The path is what stands before the separator; a name may hold that character itself.
+    for (qsizetype end = key.indexOf(separator); end >= 0; end = key.indexOf(separator, end + 1)) {
+        const int found = firstRowOf(
+            key.left(end), [&key](const PlaylistItem &each) { return rowKey(each.entry()) == key; });
+        if (found >= 0)
+            return found;
     }
     return -1;
 }
 
 int PlaylistWidget::rowOfPath(const QString &path) const
 {
-    for (int row = 0; row < count(); ++row) {
-        if (item(row)->data(playlist_role::path).toString() == path)
-            return row;
-    }
-    return -1;
+    return firstRowOf(path, [](const PlaylistItem &) { return true; });
 }
 
 void PlaylistWidget::highlight(int row)
 {
-    m_highlighted = hasRow(row) ? row : -1;
-    for (int each = 0; each < count(); ++each) {
-        const bool playing = each == m_highlighted;
-        QFont rowFont = font();
-        rowFont.setWeight(playing ? QFont::Bold : QFont::Normal);
-        item(each)->setFont(rowFont);
-        item(each)->setData(Qt::ForegroundRole, playing ? QVariant(QBrush(playingColour)) : QVariant());
+    PlaylistItem *chosen = ownItem(item(row));
+    if (chosen == m_highlighted)
+        return;
+    // The view is told to repaint and not that data has changed, which would lay out every row again.
+    if (m_highlighted) {
+        m_highlighted->setHighlighted(false);
+        update(indexFromItem(m_highlighted));
     }
+    m_highlighted = chosen;
+    if (m_highlighted) {
+        m_highlighted->setHighlighted(true);
+        update(indexFromItem(m_highlighted));
+    }
+}
+
+int PlaylistWidget::highlightedRow() const
+{
+    return m_highlighted ? row(m_highlighted) : -1;
 }
 
 void PlaylistWidget::showRow(int row)

@@ -13,15 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-int PlayerGuiWindow::appendFile(const QString &path)
-{
-    PlaylistEntry entry;
-    entry.path = path;
-    entry.text = QFileInfo(path).fileName();
-    m_ui.playlist->appendEntry(entry);
-    refreshNavButtons();
-    return m_ui.playlist->count() - 1;
-}
 
 int PlayerGuiWindow::lastPlayedRow() const
 {
@@ -107,33 +98,4 @@ void PlayerGuiWindow::jumpToRow(int row)
 {
     if (m_ui.playlist->hasRow(row))
         startPlayback(row);
-}
-
-bool PlayerGuiWindow::moveRow(int from, int to)
-{
-    if (!m_ui.playlist->hasRow(from) || !m_ui.playlist->hasRow(to)) {
-        logLine(tr("移动失败: 行号越界 (from=%1 to=%2, 列表共 %3 项)")
-                    .arg(from)
-                    .arg(to)
-                    .arg(m_ui.playlist->count()),
-                true);
-        return false;
-    }
-    if (from == to)
-        return true;
-    // The playing row follows the track and not the position.
-    const QString playingKey = m_ui.playlist->hasRow(m_start.playingRow)
-                                   ? rowKey(m_ui.playlist->entryAt(m_start.playingRow))
-                                   : QString();
-    m_ui.playlist->insertItem(to, m_ui.playlist->takeItem(from));
-    m_ui.playlist->showRow(to);
-    if (const int row = playingKey.isEmpty() ? -1 : m_ui.playlist->rowOfKey(playingKey); row >= 0) {
-        if (m_start.currentRow == m_start.playingRow)
-            m_start.currentRow = row;
-        m_start.playingRow = row;
-        m_ui.playlist->highlight(row);
-    }
-    showMessage(tr("播放顺序已改: 第 %1/%2 项").arg(to + 1).arg(m_ui.playlist->count()));
-    refreshNavButtons();
-    return true;
 }

@@ -37,19 +37,22 @@ TEST_F(Probes, ASheetIsSpreadIntoItsTracks)
 {
     m_answer.text = u"CUE\tAlbum\tArtist\nTRACK\t1\t0\t60.5\tEins\tWer\t/m/a.wav\n"
                     "TRACK\t2\t60.5\t100\t\t\t/m/a.wav\n"_s;
-    m_window->addFiles({u"/m/a.cue"_s, u"/m/a.cue"_s});
+    const QString sheet = m_root.filePath(u"a.cue"_s);
+    QFile file(sheet);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    m_window->addPaths({sheet, sheet});
     ASSERT_TRUE(QTest::qWaitFor([this] { return playlist()->count() > 0; }, 20000));
     settle();
     ASSERT_EQ(playlist()->count(), 2) << "the sheet was asked for twice and listed once";
-    EXPECT_EQ(m_asked, QStringList{u"-cue-list /m/a.cue"_s});
+    EXPECT_EQ(m_asked, QStringList{u"-cue-list "_s + sheet});
     EXPECT_TRUE(logHas(u"CUE: Album — Artist"_s));
     const PlaylistEntry first = playlist()->entryAt(0);
     EXPECT_EQ(first.text, u"01. Eins — Wer"_s);
     EXPECT_EQ(first.path, u"/m/a.wav"_s);
-    EXPECT_EQ(first.cuePath, u"/m/a.cue"_s);
+    EXPECT_EQ(first.cuePath, sheet);
     EXPECT_EQ(first.track, 1);
     EXPECT_EQ(first.endSec, 60.5);
-    EXPECT_EQ(playlist()->item(0)->toolTip(), u"/m/a.wav\n0 s → 60.5 s"_s);
+    EXPECT_TRUE(playlist()->item(0)->toolTip().startsWith(sheet + u"\n轨 1\n"_s));
     EXPECT_EQ(playlist()->item(1)->text(), u"02. a.wav"_s);
 }
 

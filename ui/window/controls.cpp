@@ -11,7 +11,6 @@
 #include "ui/title_bar.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
@@ -74,9 +73,13 @@ void PlayerGuiWindow::connectList()
     connect(m_ui.playlist, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { startPlayback(m_ui.playlist->row(item)); });
     connect(m_ui.playlist, &QListWidget::currentRowChanged, this, &PlayerGuiWindow::refreshNavButtons);
-    connect(library.importFiles, &QPushButton::clicked, this,
-            [this] { addFiles(QFileDialog::getOpenFileNames(this, tr("导入音频文件"))); });
+    connect(library.importFiles, &QPushButton::clicked, this, &PlayerGuiWindow::chooseFiles);
+    connect(library.importFolder, &QPushButton::clicked, this, &PlayerGuiWindow::chooseFolder);
+    connect(library.removeRows, &QPushButton::clicked, this, &PlayerGuiWindow::removeSelectedRows);
+    connect(library.clearList, &QPushButton::clicked, this, &PlayerGuiWindow::clearPlaylist);
+    connectPlaylist();
 }
+
 
 void PlayerGuiWindow::toggleMute()
 {

@@ -6,8 +6,6 @@
 #include "ui/title_bar.h"
 #include "ui/tools_menu.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -51,22 +49,4 @@ bool PlayerGuiWindow::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::ApplicationPaletteChange && m_toolPanel == ToolPanel::Menu && m_toolsMenu)
         m_toolsMenu->close();
     return QMainWindow::eventFilter(watched, event);
-}
-
-void PlayerGuiWindow::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (event->mimeData()->hasUrls())
-        event->acceptProposedAction();
-}
-
-void PlayerGuiWindow::dropEvent(QDropEvent *event)
-{
-    QStringList paths;
-    for (const QUrl &url : event->mimeData()->urls()) {
-        if (const QString path = url.toLocalFile(); !path.isEmpty())
-            paths.append(path);
-    }
-    event->acceptProposedAction();
-    if (!paths.isEmpty())
-        addFiles(paths);
 }

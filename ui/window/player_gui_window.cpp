@@ -30,7 +30,6 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
     applyTheme();
     setMinimumSize(leastSize);
-    setAcceptDrops(true);
     qApp->installEventFilter(this);
     restorePlace();
     connectControls();
@@ -50,6 +49,7 @@ PlayerGuiWindow::~PlayerGuiWindow()
 {
     if (sessionRuns())
         killProc(true);
+    settleHistory();
     // The session's threads call sinks that post to this window: it ends while the window is whole.
     m_link.session.reset();
     if (m_link.mailbox)
@@ -58,10 +58,8 @@ PlayerGuiWindow::~PlayerGuiWindow()
 
 void PlayerGuiWindow::startUpdateCheck(bool) {}
 
-void PlayerGuiWindow::restorePlaylist() {}
+void PlayerGuiWindow::applyLibraryFilter() {}
 
 void PlayerGuiWindow::runRigReport() {}
 
 void PlayerGuiWindow::resetEffects() {}
-
-void PlayerGuiWindow::setThemeIndex(int) {}

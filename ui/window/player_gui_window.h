@@ -17,14 +17,16 @@
 #include "ui/cover_state.h"
 #include "playback/transport_state.h"
 #include "tags/tag_summary.h"
+#include "playback/playlist_state.h"
 #include "ui/instrument_state.h"
 #include "ui/window/window_options.h"
 #include "ui/window/window_widgets.h"
 
 #include <QMainWindow>
-#include <QSet>
 #include <exception>
 
+class HistoryStore;
+class QMenu;
 class QSettings;
 class QVBoxLayout;
 class ToolsMenu;
@@ -34,6 +36,7 @@ class SystemScheme;
 struct RemoteCommand;
 struct RemoteLibrary;
 struct RemoteState;
+struct AddOperation;
 struct SessionEndVerdict;
 
 /// Owns the widgets, the one current session and the timers. Its methods stand in files by topic, in the
@@ -108,13 +111,25 @@ public:
     void showPlayModes();
     bool moveRow(int from, int to);
     void stepRow(int delta);
-    /// Appends one plain file; the row's number.
+    /// Appends one plain file, listed already or not; the row's number.
     int appendFile(const QString &path);
-    /// Appends files; a sheet or an image is spread into its tracks when the engine has listed them.
-    void addFiles(const QStringList &paths);
+    /// Appends what is new of files and folders; a sheet or an image is spread into its tracks when the
+    /// engine has listed them. \param done called once, when everything is in the list; may be empty
+    void addPaths(const QStringList &paths, const std::function<void()> &done = {});
     /// \param path a sheet or an image, absolute
     /// \param done gets the number of rows that were appended, 0 after a failure; may be empty
     void expandContainerAsync(const QString &path, const std::function<void(int count)> &done);
+    void removeSelectedRows();
+    void clearPlaylist();
+    /// Moves the selected rows to the top or to the bottom, in the order in which they stand.
+    void moveSelectedRows(bool toTop);
+    void undoPlaylist();
+    void redoPlaylist();
+    void savePlaylist();
+    void restorePlaylist();
+    /// Asks for files or for a folder to add.
+    void chooseFiles();
+    void chooseFolder();
 
     // ── the window's shape (ui/window) ──
     /// The right column's width, kept in its limits and remembered.
@@ -162,7 +177,7 @@ public:
 
     // ── named places that later subsystems fill ──
     void startUpdateCheck(bool manual);
-    void restorePlaylist();
+    void applyLibraryFilter();
     void runRigReport();
     void resetEffects();
     void setThemeIndex(int index);
@@ -339,7 +354,26 @@ private:
     /// Shows all that belongs to a track as not known.
     void forgetTrackFacts();
 
-    int addListedTracks(const QString &path, const PlayerProbeResult &result);
+    void connectPlaylist();
+    void addPlaylistActions();
+    void fillPlaylistMenu(QMenu &menu);
+    void showFilesOfSelection();
+    void showRowProperties(int row);
+    void showMessageFor(const QString &text, int forMs);
+    void expandContainer(const QString &path, quint64 group, const std::function<void(int count)> &done);
+    int addListedTracks(const QString &path, quint64 group, const PlayerProbeResult &result);
+    void overlayRow(int row);
+    void finishAdding(const AddOperation &adding);
+    void recordChange(PlaylistChange change);
+    bool applyChange(const PlaylistChange &change, QList<PlaylistEntry> &removed);
+    void changeApplied(const QString &report);
+    void forgetHistory();
+    void loadHistory(const QStringList &savedRows);
+    /// Waits until the history of the last run is there.
+    void settleHistory();
+    void noteDragKey();
+    void orderChanged();
+    void followRows(const PlaylistChange &change);
 
     // ── output/window ──
     void beginDeviceListing();
@@ -377,7 +411,6 @@ private:
     DeviceState m_devices;
     EngineChoices m_choices;
     PhoneRemoteState m_remote;
-    QSet<QString> m_pendingContainers; ///< paths whose listing is still out
     /// What stands open above the window.
     enum class ToolPanel
     {
@@ -393,4 +426,6 @@ private:
     bool m_analysisRuns = false;
     bool m_volumeTouched = false; ///< the user has moved the volume since the program started
     bool m_closing = false;       ///< killProc has run on the way out
+    PlaylistState m_list;
+    HistoryStore *m_historyStore = nullptr; ///< a child of the window, made with the list's actions
 };

@@ -98,3 +98,9 @@ void PlayerGuiWindow::useCoverAccent(const QPixmap &cover)
     }
     logLine(tr("强调色跟随封面: %1").arg(accent.name().toUpper()));
 }
+
+void PlayerGuiWindow::setThemeIndex(int index)
+{
+    writeUserSetting(settings::theme, index);
+    changeTheme();
+}

@@ -1,0 +1,1 @@
+kelp_fuzz(playlist_history SOURCES fuzz_playlist_history.cpp LINK playback_logic)
