@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="en_US" sourcelanguage="zh_CN">
 <context>
+    <name>AbLoop</name>
+    <message>
+        <source>A/B 循环: %1 点 = %2s</source>
+        <translation>A/B loop: point %1 = %2s</translation>
+    </message>
+    <message>
+        <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
+        <translation>A/B loop: point B must come after point A (A=%1s, B=%2s)</translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
+        <translation>A/B loop: marked, applies when playback starts (single-track repeat)</translation>
+    </message>
+    <message>
+        <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
+        <translation>A/B loop: %1 → %2 started (single-track repeat; clearing restores the previous play order)</translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已清除</source>
+        <translation>A/B loop: cleared</translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
+        <translation>A/B loop: cleared, play order restored to %1</translation>
+    </message>
+    <message>
+        <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
+        <translation>A/B loop: the track changed, the A/B points set for the previous track were discarded</translation>
+    </message>
+</context>
+<context>
     <name>AboutBlock</name>
     <message>
         <source>检查更新…</source>
@@ -10,6 +41,118 @@
     <message>
         <source>第三方声明与参考标准</source>
         <translation>Third-party notices and standards</translation>
+    </message>
+</context>
+<context>
+    <name>BitsLed</name>
+    <message>
+        <source>有效位数</source>
+        <translation>Effective bits</translation>
+    </message>
+    <message>
+        <source>有效位数：尚不清楚</source>
+        <translation>Effective bits: not known yet</translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>透明</source>
+        <translation>transparent</translation>
+    </message>
+    <message>
+        <source>位数减少</source>
+        <translation>fewer bits</translation>
+    </message>
+    <message>
+        <source>用尽</source>
+        <translation>used up</translation>
+    </message>
+    <message>
+        <source>%1 bit，%2</source>
+        <translation>%1 bit, %2</translation>
+    </message>
+</context>
+<context>
+    <name>ChainLamp</name>
+    <message>
+        <source>未能证明</source>
+        <translation>Not proven</translation>
+    </message>
+    <message>
+        <source>非位完美</source>
+        <translation>Not bit-perfect</translation>
+    </message>
+    <message>
+        <source>自检没有通过</source>
+        <translation>the self-check did not pass</translation>
+    </message>
+    <message>
+        <source>不是位完美或未能证明：%1</source>
+        <translation>Not bit-perfect, or not proven: %1</translation>
+    </message>
+    <message>
+        <source>尚未得知</source>
+        <translation>Not yet known</translation>
+    </message>
+    <message>
+        <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
+        <translation>The engine has not reported this track&apos;s signal chain yet, so nothing is claimed.</translation>
+    </message>
+    <message>
+        <source>位完美</source>
+        <translation>Bit-perfect</translation>
+    </message>
+</context>
+<context>
+    <name>ChainPanel</name>
+    <message>
+        <source>信号链</source>
+        <translation>CHAIN</translation>
+    </message>
+    <message>
+        <source>信号链的结论</source>
+        <translation>Verdict on the signal chain</translation>
+    </message>
+</context>
+<context>
+    <name>ChainRow</name>
+    <message>
+        <source>重采样</source>
+        <translation>Resampling</translation>
+    </message>
+    <message>
+        <source>后端</source>
+        <translation>Backend</translation>
+    </message>
+    <message>
+        <source>输出格式</source>
+        <translation>Output format</translation>
+    </message>
+    <message>
+        <source>延时</source>
+        <translation>Latency</translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation>Volume</translation>
+    </message>
+    <message>
+        <source>变速</source>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>结论</source>
+        <translation>Verdict</translation>
+    </message>
+    <message>
+        <source>链路</source>
+        <translation>Chain</translation>
+    </message>
+    <message>
+        <source>欠载</source>
+        <translation>Underruns</translation>
     </message>
 </context>
 <context>
@@ -33,6 +176,25 @@
     <message>
         <source>未知</source>
         <translation>Unknown</translation>
+    </message>
+</context>
+<context>
+    <name>CheckMarkView</name>
+    <message>
+        <source>等待中</source>
+        <translation>Waiting</translation>
+    </message>
+    <message>
+        <source>已证明</source>
+        <translation>Proved</translation>
+    </message>
+    <message>
+        <source>已证伪</source>
+        <translation>Disproved</translation>
+    </message>
+    <message>
+        <source>此处无法证明</source>
+        <translation>Not provable here</translation>
     </message>
 </context>
 <context>
@@ -86,6 +248,31 @@
     </message>
 </context>
 <context>
+    <name>ContainerOverlay</name>
+    <message>
+        <source>%1
+轨 %2</source>
+        <translation>%1
+Track %2</translation>
+    </message>
+    <message>
+        <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
+        <translation>(tags come from the container&apos;s own information; no extra tags in the local library)</translation>
+    </message>
+    <message>
+        <source>专辑: %1</source>
+        <translation>Album: %1</translation>
+    </message>
+    <message>
+        <source>年份: %1</source>
+        <translation>Year: %1</translation>
+    </message>
+    <message>
+        <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
+        <translation>(tags come from the local library — nothing was written into the ISO/CUE)</translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -117,6 +304,21 @@
     <message>
         <source>[控制] %1</source>
         <translation>[control] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CoverDisc</name>
+    <message>
+        <source>封面</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>无封面</source>
+        <translation>No cover</translation>
+    </message>
+    <message>
+        <source>有封面</source>
+        <translation>A cover is shown</translation>
     </message>
 </context>
 <context>
@@ -154,16 +356,12 @@
 <context>
     <name>DisplayPanel</name>
     <message>
-        <source>曲名</source>
-        <translation>Title</translation>
-    </message>
-    <message>
         <source>位置</source>
         <translation>Position</translation>
     </message>
     <message>
-        <source>选择曲目或导入音频</source>
-        <translation>Select a track or import audio</translation>
+        <source>总长</source>
+        <translation>Total length</translation>
     </message>
 </context>
 <context>
@@ -211,6 +409,112 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Select a track or import audio</translation>
+    </message>
+    <message>
+        <source>播放顺序</source>
+        <translation>Play order</translation>
+    </message>
+    <message>
+        <source>循环</source>
+        <translation>Repeat</translation>
+    </message>
+    <message>
+        <source>歌词</source>
+        <translation>Lyrics</translation>
+    </message>
+    <message>
+        <source>歌词还没有做好，这个按钮以后才能用</source>
+        <translation>Lyrics are not built yet; this button will work in a later version</translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation>Mute</translation>
+    </message>
+    <message>
+        <source>静音；再按一次回到原来的音量</source>
+        <translation>Mute; press again to return to the former volume</translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation>Tools</translation>
+    </message>
+    <message>
+        <source>曲库、标签、网络等工具</source>
+        <translation>Tools for the library, tags, the network and more</translation>
+    </message>
+    <message>
+        <source>播放顺序：随机</source>
+        <translation>Play order: random</translation>
+    </message>
+    <message>
+        <source>播放顺序：按列表</source>
+        <translation>Play order: sequential</translation>
+    </message>
+    <message>
+        <source>循环：单曲</source>
+        <translation>Repeat: this track</translation>
+    </message>
+    <message>
+        <source>循环：整个列表</source>
+        <translation>Repeat: the whole list</translation>
+    </message>
+    <message>
+        <source>循环：关闭</source>
+        <translation>Repeat: off</translation>
+    </message>
+</context>
+<context>
+    <name>DspBar</name>
+    <message>
+        <source>实时</source>
+        <translation>Live</translation>
+    </message>
+    <message>
+        <source>混响</source>
+        <translation>Reverb</translation>
+    </message>
+    <message>
+        <source>音调</source>
+        <translation>Tone</translation>
+    </message>
+    <message>
+        <source>平衡</source>
+        <translation>Balance</translation>
+    </message>
+    <message>
+        <source>空间</source>
+        <translation>Spatial</translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation>Denoise</translation>
+    </message>
+    <message>
+        <source>均衡器</source>
+        <translation>Equalizer</translation>
+    </message>
+    <message>
+        <source>这一页效果还没有做好，以后的版本才有</source>
+        <translation>This effect page is not built yet; it comes in a later version</translation>
+    </message>
+    <message>
+        <source>效果正作用在听到的声音上</source>
+        <translation>Effects act on what is heard now</translation>
+    </message>
+    <message>
+        <source>现在没有效果作用在声音上</source>
+        <translation>No effect acts on the sound now</translation>
+    </message>
+</context>
+<context>
+    <name>DspTab</name>
+    <message>
+        <source>效果已开</source>
+        <translation>The effect is on</translation>
+    </message>
+    <message>
+        <source>效果已关</source>
+        <translation>The effect is off</translation>
     </message>
 </context>
 <context>
@@ -639,10 +943,138 @@
     </message>
 </context>
 <context>
+    <name>HistoryStore</name>
+    <message>
+        <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
+        <translation>The playlist&apos;s undo history is damaged and cannot be used, so it starts empty: %1</translation>
+    </message>
+    <message>
+        <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
+        <translation>The playlist&apos;s undo history does not fit the saved list, so it starts empty: %1</translation>
+    </message>
+    <message>
+        <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
+        <translation>The playlist&apos;s undo history cannot be written, so there will be nothing to undo after a restart: %1 (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentPanel</name>
+    <message>
+        <source>左声道电平</source>
+        <translation>Left level</translation>
+    </message>
+    <message>
+        <source>右声道电平</source>
+        <translation>Right level</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>SPECTRUM</translation>
+    </message>
+    <message>
+        <source>波形</source>
+        <translation>SCOPE</translation>
+    </message>
+</context>
+<context>
+    <name>LibraryPanel</name>
+    <message>
+        <source>搜索标题 / 艺术家</source>
+        <translation>Search title / artist</translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation>Search</translation>
+    </message>
+    <message>
+        <source>显示的 / 全部</source>
+        <translation>Shown / all</translation>
+    </message>
+    <message>
+        <source>搜索和筛选还没有做好，以后的版本才有</source>
+        <translation>Searching and filtering are not built yet; they come in a later version</translation>
+    </message>
+    <message>
+        <source>曲库 · TITLE</source>
+        <translation>LIBRARY · TITLE</translation>
+    </message>
+    <message>
+        <source>正在播放的 / 全部</source>
+        <translation>Playing / all</translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation>All</translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation>Images</translation>
+    </message>
+    <message>
+        <source>全部艺术家</source>
+        <translation>All artists</translation>
+    </message>
+    <message>
+        <source>按艺术家筛选</source>
+        <translation>Filter by artist</translation>
+    </message>
+    <message>
+        <source>全部专辑</source>
+        <translation>All albums</translation>
+    </message>
+    <message>
+        <source>按专辑筛选</source>
+        <translation>Filter by album</translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation>Adds audio files to the end of the list</translation>
+    </message>
+    <message>
+        <source>文件夹</source>
+        <translation>Folder</translation>
+    </message>
+    <message>
+        <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
+        <translation>Adds the audio files of a folder to the end of the list; subfolders are not entered</translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>把选中的曲目从列表移除；文件不动</source>
+        <translation>Removes the selected tracks from the list; the files stay</translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation>Clear</translation>
+    </message>
+    <message>
+        <source>清空列表；文件不动，可以撤销</source>
+        <translation>Empties the list; the files stay, and it can be undone</translation>
+    </message>
+</context>
+<context>
     <name>LogPane</name>
     <message>
         <source>日志</source>
         <translation>Log</translation>
+    </message>
+</context>
+<context>
+    <name>MiniCover</name>
+    <message>
+        <source>封面</source>
+        <translation>Cover</translation>
+    </message>
+    <message>
+        <source>在列表里显示正在播放的曲目</source>
+        <translation>Show the playing track in the list</translation>
     </message>
 </context>
 <context>
@@ -662,6 +1094,47 @@
     <message>
         <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
         <translation>  check in this order: (1) which step the line above is -- decode / device / exclusive; (2) play the same file from the command line; (3) look for WASAPI / OPENED / 0x8889000A in the log. The session is not rebuilt automatically.</translation>
+    </message>
+</context>
+<context>
+    <name>NowPlaying</name>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Select a track or import audio</translation>
+    </message>
+</context>
+<context>
+    <name>PlayOrder</name>
+    <message>
+        <source>随机</source>
+        <translation>Random</translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation>Sequential</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation> · no repeat</translation>
+    </message>
+    <message>
+        <source> · 列表循环</source>
+        <translation> · repeat list</translation>
+    </message>
+    <message>
+        <source> · 单曲循环</source>
+        <translation> · repeat track</translation>
+    </message>
+</context>
+<context>
+    <name>PlaySpeed</name>
+    <message>
+        <source>播放速度: %1×%2</source>
+        <translation>Playback speed: %1×%2</translation>
+    </message>
+    <message>
+        <source>（播放中立即生效）</source>
+        <translation> (applied immediately while playing)</translation>
     </message>
 </context>
 <context>
@@ -745,14 +1218,6 @@
     <message>
         <source>播放列表结束（%1）</source>
         <translation>End of playlist (%1)</translation>
-    </message>
-    <message>
-        <source>顺序</source>
-        <translation>Sequential</translation>
-    </message>
-    <message>
-        <source> · 不循环</source>
-        <translation> · no repeat</translation>
     </message>
     <message>
         <source>播放列表结束</source>
@@ -859,28 +1324,12 @@ Do you really want to quit?</translation>
         <translation>Import audio files</translation>
     </message>
     <message>
-        <source>音频数据</source>
-        <translation>Audio data</translation>
-    </message>
-    <message>
         <source>播放列表</source>
         <translation>Playlist</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Import</translation>
-    </message>
-    <message>
-        <source>把音频文件加到列表末尾</source>
-        <translation>Adds audio files to the end of the list</translation>
-    </message>
-    <message>
         <source>引擎设置</source>
         <translation>Engine settings</translation>
-    </message>
-    <message>
-        <source>下次建会话时交给引擎的设置</source>
-        <translation>What the engine is told when the next session starts</translation>
     </message>
     <message>
         <source>输出设备</source>
@@ -931,12 +1380,379 @@ Do you really want to quit?</translation>
         <translation>Analyzing %1 …</translation>
     </message>
     <message>
-        <source>分析曲目</source>
-        <translation>Analyze track</translation>
+        <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
+        <translation>No PCM on this chain (DSD straight through) — no waveform</translation>
     </message>
     <message>
-        <source>测出选中曲目的速度和调性；不改动文件</source>
-        <translation>Finds the tempo and key of the selected track; the file is not changed</translation>
+        <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
+        <translation>No spectrum on this path: direct DSD output carries no PCM</translation>
+    </message>
+    <message>
+        <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
+        <translation>Signal-chain report: no playback session, so only the last report is shown.</translation>
+    </message>
+    <message>
+        <source>保存信号链报告</source>
+        <translation>Save signal-chain report</translation>
+    </message>
+    <message>
+        <source>信号链报告已保存：%1</source>
+        <translation>Signal-chain report saved: %1</translation>
+    </message>
+    <message>
+        <source>保存信号链报告失败：%1</source>
+        <translation>Saving the signal-chain report failed: %1</translation>
+    </message>
+    <message>
+        <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
+        <translation>Bit-perfect self-check: no playback session — start playback first (nothing to judge without a stream)</translation>
+    </message>
+    <message>
+        <source>位完美自检：已请引擎逐项检查</source>
+        <translation>Bit-perfect self-check: asked the engine for a per-item check</translation>
+    </message>
+    <message>
+        <source>位完美自检的结论：%1</source>
+        <translation>Bit-perfect self-check verdict: %1</translation>
+    </message>
+    <message>
+        <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
+        <translation>Restored pure defaults (all effects off / 1.0x / no crossfade / volume 100 / layout and theme reset) and started the bit-perfect self-check</translation>
+    </message>
+    <message>
+        <source>播放顺序: %1</source>
+        <translation>Play order: %1</translation>
+    </message>
+    <message>
+        <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
+        <translation>A/B loop: no track is being played, so there is nothing to mark</translation>
+    </message>
+    <message>
+        <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
+        <translation>Skipped %1 audio file(s) that this player has no decoder for (MP3/AAC/OGG)</translation>
+    </message>
+    <message>
+        <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
+        <translation>Skipped %1 file(s) whose names are no valid UTF-8 and cannot be opened</translation>
+    </message>
+    <message>
+        <source>已添加 %1 首 (列表共 %2 首)</source>
+        <translation>Added %1 track(s) (list now %2)</translation>
+    </message>
+    <message>
+        <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
+        <translation>Bulk add took %1 ms (%2 tracks, laid out once)</translation>
+    </message>
+    <message>
+        <source>没有可以添加的音频文件</source>
+        <translation>No audio files to add</translation>
+    </message>
+    <message>
+        <source>音频文件 (%1)</source>
+        <translation>Audio files (%1)</translation>
+    </message>
+    <message>
+        <source>所有文件 (*)</source>
+        <translation>All files (*)</translation>
+    </message>
+    <message>
+        <source>添加文件夹</source>
+        <translation>Add folder</translation>
+    </message>
+    <message>
+        <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
+        <translation>The playing track was removed from the list (audio keeps going, but it is no longer in the list)</translation>
+    </message>
+    <message>
+        <source>已移除 %1 首 (列表共 %2 首)</source>
+        <translation>Removed %1 track(s) (list now %2)</translation>
+    </message>
+    <message>
+        <source>播放列表已清空</source>
+        <translation>Playlist cleared</translation>
+    </message>
+    <message>
+        <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
+        <translation>This change is too large to be kept, so it cannot be undone</translation>
+    </message>
+    <message>
+        <source>没有可以撤销的改动</source>
+        <translation>There is nothing to undo</translation>
+    </message>
+    <message>
+        <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
+        <translation>The undo history does not fit the playlist; nothing was undone and the history was cleared</translation>
+    </message>
+    <message>
+        <source>没有可以重做的改动</source>
+        <translation>There is nothing to redo</translation>
+    </message>
+    <message>
+        <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
+        <translation>The redo history does not fit the playlist; nothing was redone and the history was cleared</translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>在文件管理器中显示</source>
+        <translation>Show in file manager</translation>
+    </message>
+    <message>
+        <source>移到最前</source>
+        <translation>Move to top</translation>
+    </message>
+    <message>
+        <source>移到最后</source>
+        <translation>Move to bottom</translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation>Properties</translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>添加文件夹…</source>
+        <translation>Add folder…</translation>
+    </message>
+    <message>
+        <source>清空列表</source>
+        <translation>Clear list</translation>
+    </message>
+    <message>
+        <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
+        <translation>No file manager answered, so the folder is opened instead: %1</translation>
+    </message>
+    <message>
+        <source>打不开文件夹: %1</source>
+        <translation>The folder cannot be opened: %1</translation>
+    </message>
+    <message>
+        <source>曲目属性</source>
+        <translation>Track properties</translation>
+    </message>
+    <message>
+        <source>播放列表已恢复: %1 首</source>
+        <translation>Playlist restored: %1 track(s)</translation>
+    </message>
+    <message>
+        <source>上次播放: 第 %1 首 — %2</source>
+        <translation>Last played: track %1 — %2</translation>
+    </message>
+    <message>
+        <source>上次播放: 第 %1 首</source>
+        <translation>Last played: track %1</translation>
+    </message>
+    <message>
+        <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
+        <translation>Skipped %1 track(s) while restoring the playlist (file no longer exists)</translation>
+    </message>
+    <message>
+        <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
+        <translation>Offline mode is on: refused %1 (turn offline mode off in Settings)</translation>
+    </message>
+    <message>
+        <source>手机遥控(监听端口)</source>
+        <translation>phone remote (listening port)</translation>
+    </message>
+    <message>
+        <source>手机遥控：已关闭（端口不再监听）</source>
+        <translation>Phone remote: disabled (port no longer listening)</translation>
+    </message>
+    <message>
+        <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
+        <translation>Phone remote: rejected a request without the right token (%1)</translation>
+    </message>
+    <message>
+        <source>手机遥控：无法监听端口 %1（%2）</source>
+        <translation>Phone remote: cannot listen on port %1 (%2)</translation>
+    </message>
+    <message>
+        <source>手机遥控：已打开，端口 %1，令牌 %2</source>
+        <translation>Phone remote: enabled, port %1, token %2</translation>
+    </message>
+    <message>
+        <source>手机遥控地址：%1</source>
+        <translation>Phone remote address: %1</translation>
+    </message>
+    <message>
+        <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
+        <translation>Layout: the side width %1 is out of range and was clamped to %2 px</translation>
+    </message>
+    <message>
+        <source>布局: 侧栏宽度 %1 px</source>
+        <translation>Layout: side width %1 px</translation>
+    </message>
+    <message>
+        <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
+        <translation>Layout reset (window size/position/side width)</translation>
+    </message>
+    <message>
+        <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
+        <translation>Window place: the stored record cannot be read, so the default size is used</translation>
+    </message>
+    <message>
+        <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
+        <translation>Window place: its former screen has gone, so it was moved to the middle of the primary screen</translation>
+    </message>
+    <message>
+        <source>曲库里找不到正在播放的这一首</source>
+        <translation>The track that is playing is not in the library list</translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>## 播放
+
+把文件或文件夹拖进窗口，双击一行开始播放。播放中不能跳转：位置只在曲目开始时到达。
+
+## 键盘
+
+- **空格** 播放 / 暂停
+- **Ctrl+→** 下一首，**Ctrl+←** 上一首
+- **Ctrl+↑ / Ctrl+↓** 音量
+- **Ctrl+空格** 停止，**Ctrl+O** 导入文件，**F11** 最大化 / 还原
+- **Ctrl+,** 设置
+- 列表里：**Enter** 播放，**Delete** 移除，**Ctrl+Z** 撤销，**Ctrl+Shift+Z** 重做
+
+## 位完美
+
+右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
+</source>
+        <translation>## Playing
+
+Drop files or folders onto the window and double-click a row to play it. There is no seeking while a track plays: a position is only reached at the start of a track.
+
+## Keyboard
+
+- **Space** play / pause
+- **Ctrl+→** next track, **Ctrl+←** previous track
+- **Ctrl+↑ / Ctrl+↓** volume
+- **Ctrl+Space** stop, **Ctrl+O** import files, **F11** maximise / restore
+- **Ctrl+,** settings
+- In the list: **Enter** plays, **Delete** removes, **Ctrl+Z** undoes, **Ctrl+Shift+Z** redoes
+
+## Bit-perfect
+
+The right column tells what the samples go through. Only when what the device received was read back does it say “delivery verified”. The “Bit-perfect self-check” looks at each stage.
+</translation>
+    </message>
+    <message>
+        <source>日志文件: %1</source>
+        <translation>Log file: %1</translation>
+    </message>
+    <message>
+        <source>设置文件: %1</source>
+        <translation>Settings file: %1</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>正在等待波形</source>
+        <translation>Waiting for the waveform</translation>
+    </message>
+    <message>
+        <source>示波器已关闭，没有波形</source>
+        <translation>The oscilloscope is off: no waveform</translation>
+    </message>
+    <message>
+        <source>位完美自检</source>
+        <translation>Bit-perfect self-check</translation>
+    </message>
+    <message>
+        <source>逐项检查现在的播放有没有改动样本</source>
+        <translation>Checks item by item whether the present playback changes the samples</translation>
+    </message>
+    <message>
+        <source>信号链报告…</source>
+        <translation>Signal-chain report…</translation>
+    </message>
+    <message>
+        <source>显示引擎自己对信号链的报告，可以保存</source>
+        <translation>Shows the engine&apos;s own report of the signal chain, which can be saved</translation>
+    </message>
+    <message>
+        <source>睡眠定时</source>
+        <translation>Sleep timer</translation>
+    </message>
+    <message>
+        <source>手机遥控</source>
+        <translation>Phone remote</translation>
+    </message>
+    <message>
+        <source>日志面板已清空；日志文件保留</source>
+        <translation>The log panel was cleared; the log file stays</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>主题: %1</source>
+        <translation>Theme: %1</translation>
+    </message>
+    <message>
+        <source>跟随系统（%1）</source>
+        <translation>Follow system (%1)</translation>
+    </message>
+    <message>
+        <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
+        <translation>The cover has no usable dominant colour (pure black/grey/white) ⇒ the accent colour stays as you chose it</translation>
+    </message>
+    <message>
+        <source>强调色跟随封面: %1</source>
+        <translation>Accent colour follows the cover: %1</translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation>Select a track or import audio</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistChange</name>
+    <message>
+        <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
+        <translation>The adding of %1 track(s) was undone (list now %2)</translation>
+    </message>
+    <message>
+        <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
+        <translation>%1 removed track(s) are back (list now %2)</translation>
+    </message>
+    <message>
+        <source>已恢复原来的播放顺序</source>
+        <translation>The former play order is back</translation>
+    </message>
+    <message>
+        <source>已重新添加 %1 首 (列表共 %2 首)</source>
+        <translation>%1 track(s) were added again (list now %2)</translation>
+    </message>
+    <message>
+        <source>已重新移除 %1 首 (列表共 %2 首)</source>
+        <translation>%1 track(s) were removed again (list now %2)</translation>
+    </message>
+    <message>
+        <source>已重新调整播放顺序</source>
+        <translation>The play order was changed again</translation>
     </message>
 </context>
 <context>
@@ -952,6 +1768,17 @@ Do you really want to quit?</translation>
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Seamless: %1 s before the end, preloading the next track (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDial</name>
+    <message>
+        <source>播放进度</source>
+        <translation>Progress</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation>Shows the position only: there is no seeking while a track plays</translation>
     </message>
 </context>
 <context>
@@ -980,12 +1807,333 @@ Do you really want to quit?</translation>
         <translation>Position</translation>
     </message>
     <message>
-        <source>播放进度</source>
-        <translation>Progress</translation>
+        <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
+        <translation>Start of the loop: marks the present position. With A and B set the loop begins; press again to clear it</translation>
     </message>
     <message>
-        <source>只显示进度：播放中不能跳转</source>
-        <translation>Shows the progress only: playback cannot be moved</translation>
+        <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
+        <translation>End of the loop: marks the present position. With A and B set the loop begins; press again to clear it</translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControls</name>
+    <message>
+        <source>手机遥控</source>
+        <translation>Phone remote</translation>
+    </message>
+    <message>
+        <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
+        <translation>A phone on the same Wi-Fi controls playback from its browser; while on, this PC listens on a port</translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation>Port</translation>
+    </message>
+    <message>
+        <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
+        <translation>Port that the phone remote listens on; read at the moment the switch is turned on</translation>
+    </message>
+    <message>
+        <source>手机遥控端口</source>
+        <translation>Phone remote port</translation>
+    </message>
+    <message>
+        <source>手机遥控地址</source>
+        <translation>Phone remote addresses</translation>
+    </message>
+    <message>
+        <source>本机没有局域网 IPv4 地址</source>
+        <translation>This machine has no LAN IPv4 address</translation>
+    </message>
+    <message>
+        <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
+%1</source>
+        <translation>Open in a phone browser (same Wi-Fi as the PC):
+%1</translation>
+    </message>
+    <message>
+        <source>手机遥控：已关闭</source>
+        <translation>Phone remote: disabled</translation>
+    </message>
+</context>
+<context>
+    <name>ReportDialog</name>
+    <message>
+        <source>信号链报告</source>
+        <translation>Signal-chain report</translation>
+    </message>
+    <message>
+        <source>再取一次</source>
+        <translation>Ask again</translation>
+    </message>
+    <message>
+        <source>保存报告…</source>
+        <translation>Save report…</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>RowProperties</name>
+    <message>
+        <source>类型: 网络电台</source>
+        <translation>Kind: network station</translation>
+    </message>
+    <message>
+        <source>类型: CUE 分轨, 第 %1 轨</source>
+        <translation>Kind: track %1 of a CUE sheet</translation>
+    </message>
+    <message>
+        <source>类型: SACD 镜像, 第 %1 轨</source>
+        <translation>Kind: track %1 of an SACD image</translation>
+    </message>
+    <message>
+        <source>类型: 容器里的第 %1 轨</source>
+        <translation>Kind: track %1 of a container</translation>
+    </message>
+    <message>
+        <source>类型: 音频文件</source>
+        <translation>Kind: audio file</translation>
+    </message>
+    <message>
+        <source>显示: %1</source>
+        <translation>Shown as: %1</translation>
+    </message>
+    <message>
+        <source>位置: 第 %1/%2 项</source>
+        <translation>Place: item %1/%2</translation>
+    </message>
+    <message>
+        <source>格式: %1</source>
+        <translation>Format: %1</translation>
+    </message>
+    <message>
+        <source>文件: %1</source>
+        <translation>File: %1</translation>
+    </message>
+    <message>
+        <source>CUE 表: %1</source>
+        <translation>CUE sheet: %1</translation>
+    </message>
+    <message>
+        <source>时间: %1 s → %2 s (长 %3 s)</source>
+        <translation>Time: %1 s → %2 s (%3 s long)</translation>
+    </message>
+</context>
+<context>
+    <name>ScopeView</name>
+    <message>
+        <source>示波器</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>未播放，没有波形</source>
+        <translation>Nothing is playing: no waveform</translation>
+    </message>
+    <message>
+        <source>最大振幅: 左 %1%, 右 %2%</source>
+        <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
+        <translation>Largest amplitude: left %1%, right %2%</translation>
+    </message>
+</context>
+<context>
+    <name>SegmentMeter</name>
+    <message>
+        <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
+        <translation>Peak output of this channel (dBFS): the engine reports 20 times per second at 0.01 dB resolution with a −120 dB floor (below that it shows −∞ dB); at 0 dBFS it stays red for 1.5 s (clipping candidate)</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>源是否无损</source>
+        <translation>Is the source lossless?</translation>
+    </message>
+    <message>
+        <source>正在等待引擎回答。</source>
+        <translation>Waiting for the engine&apos;s answer.</translation>
+    </message>
+    <message>
+        <source>源是无损的</source>
+        <translation>The source is lossless</translation>
+    </message>
+    <message>
+        <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
+        <translation>The coding gives back every sample that went into it; nothing was discarded.</translation>
+    </message>
+    <message>
+        <source>源不是无损的</source>
+        <translation>The source is not lossless</translation>
+    </message>
+    <message>
+        <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
+        <translation>The file no longer holds all of the original samples, and no later stage can bring them back.</translation>
+    </message>
+    <message>
+        <source>源是否无损无从得知</source>
+        <translation>Whether the source is lossless is not known</translation>
+    </message>
+    <message>
+        <source>引擎没有给出能证明的依据；这不算通过。</source>
+        <translation>The engine gave nothing that would prove it; this does not count as a pass.</translation>
+    </message>
+    <message>
+        <source>通路有没有改动</source>
+        <translation>Is the path unchanged?</translation>
+    </message>
+    <message>
+        <source>通路没有改动</source>
+        <translation>The path is unchanged</translation>
+    </message>
+    <message>
+        <source>从文件到设备之间，没有任何环节改动过采样。</source>
+        <translation>No stage between the file and the device altered a sample.</translation>
+    </message>
+    <message>
+        <source>通路有改动</source>
+        <translation>The path is changed</translation>
+    </message>
+    <message>
+        <source>从文件到设备之间，有环节改动了采样。</source>
+        <translation>A stage between the file and the device alters samples.</translation>
+    </message>
+    <message>
+        <source>通路有没有改动无从得知</source>
+        <translation>Whether the path is unchanged is not known</translation>
+    </message>
+    <message>
+        <source>交付是否核实</source>
+        <translation>Is the delivery verified?</translation>
+    </message>
+    <message>
+        <source>交付已核实</source>
+        <translation>The delivery is verified</translation>
+    </message>
+    <message>
+        <source>设备按要求打开，读回的格式与送出的一致。</source>
+        <translation>The device was opened as asked, and the format read back from it equals what was sent.</translation>
+    </message>
+    <message>
+        <source>交付有出入</source>
+        <translation>The delivery differs</translation>
+    </message>
+    <message>
+        <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
+        <translation>What reached the device is not what was sent, or another stage stands on the way.</translation>
+    </message>
+    <message>
+        <source>交付无法核实</source>
+        <translation>The delivery cannot be verified</translation>
+    </message>
+    <message>
+        <source>设备实际以什么格式运行读不回来；这不算通过。</source>
+        <translation>What the device really runs at cannot be read back; this does not count as a pass.</translation>
+    </message>
+    <message>
+        <source>最先破坏位完美的环节：%1。</source>
+        <translation>The first stage that broke it: %1.</translation>
+    </message>
+    <message>
+        <source>最先无法证明的环节：%1。</source>
+        <translation>The first stage that cannot be proven: %1.</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>结论：位完美 ✓  </source>
+        <translation>Verdict: bit-perfect ✓  </translation>
+    </message>
+    <message>
+        <source>结论：非位完美 ✗  </source>
+        <translation>Verdict: not bit-perfect ✗  </translation>
+    </message>
+    <message>
+        <source>位完美自检</source>
+        <translation>Bit-perfect self-check</translation>
+    </message>
+    <message>
+        <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
+        <translation>The engine checks the chain that is playing stage by stage: source, decoding, resampling, effects, speed, volume, fades, peak guard, depth, mixer, what is read back from the device, and underruns. It judges by what each stage really does now, never by a setting; what cannot be proven does not count as a pass.</translation>
+    </message>
+    <message>
+        <source>逐项检查的结果</source>
+        <translation>Results, item by item</translation>
+    </message>
+    <message>
+        <source>保存报告…</source>
+        <translation>Save report…</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>检查中…</source>
+        <translation>Checking…</translation>
+    </message>
+    <message>
+        <source>位完美自检 — %1</source>
+        <translation>Bit-perfect self-check — %1</translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation>passed</translation>
+    </message>
+    <message>
+        <source>未通过</source>
+        <translation>failed</translation>
+    </message>
+</context>
+<context>
+    <name>SetupDialog</name>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation>Close</translation>
+    </message>
+</context>
+<context>
+    <name>SleepControls</name>
+    <message>
+        <source>关闭</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>%1 分钟后</source>
+        <translation>After %1 minutes</translation>
+    </message>
+    <message>
+        <source>睡眠定时</source>
+        <translation>Sleep timer</translation>
+    </message>
+    <message>
+        <source>到时间后用十秒淡出，然后停止</source>
+        <translation>Fades out over ten seconds when the time has come, then stops</translation>
+    </message>
+</context>
+<context>
+    <name>SleepTimer</name>
+    <message>
+        <source>睡眠定时: 关</source>
+        <translation>Sleep timer: off</translation>
+    </message>
+    <message>
+        <source>睡眠定时: %1 分钟</source>
+        <translation>Sleep timer: %1 min</translation>
+    </message>
+    <message>
+        <source>睡眠定时: 开始淡出(10 秒后停止)</source>
+        <translation>Sleep timer: fading out (stopping in 10 seconds)</translation>
+    </message>
+    <message>
+        <source>睡眠定时: 已淡出并停止播放</source>
+        <translation>Sleep timer: faded out and stopped</translation>
     </message>
 </context>
 <context>
@@ -1005,6 +2153,18 @@ Do you really want to quit?</translation>
     <message>
         <source>%1 声道</source>
         <translation>%1 ch</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumView</name>
+    <message>
+        <source>频谱</source>
+        <translation>Spectrum</translation>
+    </message>
+    <message>
+        <source>最强频段: 左 %1, 右 %2, 共 %3</source>
+        <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
+        <translation>Loudest band: left %1, right %2, of %3</translation>
     </message>
 </context>
 <context>
@@ -1040,6 +2200,120 @@ To run several on purpose set KELP_GUI_ALLOW_MULTI=1</translation>
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Startup metrics: UI ready %1, memory %2 (measured values only)</translation>
+    </message>
+</context>
+<context>
+    <name>TitleBar</name>
+    <message>
+        <source>打开设置(Setup Menu)</source>
+        <translation>Open settings (Setup Menu)</translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation>Settings</translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation>Minimise</translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation>Maximise</translation>
+    </message>
+    <message>
+        <source>关闭窗口</source>
+        <translation>Close the window</translation>
+    </message>
+    <message>
+        <source>%1：亮</source>
+        <translation>%1: on</translation>
+    </message>
+    <message>
+        <source>%1：灭</source>
+        <translation>%1: off</translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation>Restore</translation>
+    </message>
+</context>
+<context>
+    <name>ToolsMenu</name>
+    <message>
+        <source>扫描曲库文件夹(增量)</source>
+        <translation>Scan library folders (incremental)</translation>
+    </message>
+    <message>
+        <source>查找重复曲目</source>
+        <translation>Find duplicates</translation>
+    </message>
+    <message>
+        <source>批量编辑标签</source>
+        <translation>Batch tag edit</translation>
+    </message>
+    <message>
+        <source>智能播放列表</source>
+        <translation>Smart playlists</translation>
+    </message>
+    <message>
+        <source>年度报告</source>
+        <translation>Year report</translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation>Track analysis</translation>
+    </message>
+    <message>
+        <source>DSP 顺序</source>
+        <translation>DSP order</translation>
+    </message>
+    <message>
+        <source>指纹比对</source>
+        <translation>Fingerprint compare</translation>
+    </message>
+    <message>
+        <source>在线补全标签</source>
+        <translation>Online tag fill</translation>
+    </message>
+    <message>
+        <source>网络曲库</source>
+        <translation>Network library</translation>
+    </message>
+    <message>
+        <source>手机同步</source>
+        <translation>Phone sync</translation>
+    </message>
+    <message>
+        <source>插件</source>
+        <translation>Plugins</translation>
+    </message>
+    <message>
+        <source>电台/网络/接力</source>
+        <translation>Stations/network/handoff</translation>
+    </message>
+    <message>
+        <source>车载模式</source>
+        <translation>Car mode</translation>
+    </message>
+    <message>
+        <source>网络挂载</source>
+        <translation>Network mounts</translation>
+    </message>
+    <message>
+        <source>校验曲库</source>
+        <translation>Verify library</translation>
+    </message>
+    <message>
+        <source>清空日志</source>
+        <translation>Clear log</translation>
+    </message>
+    <message>
+        <source>帮助…</source>
+        <translation>Help…</translation>
+    </message>
+    <message>
+        <source>这个功能还没有做好，以后的版本才有</source>
+        <translation>This feature is not built yet; it comes in a later version</translation>
     </message>
 </context>
 <context>
@@ -1104,6 +2378,32 @@ Key: %2</translation>
     <message>
         <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
         <translation>The player did not finish its teardown within %1 s; an in-process session cannot be force-killed (wait for it to finish; escape hatch: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+<context>
+    <name>ValueCards</name>
+    <message>
+        <source>码率</source>
+        <translation>BITRATE</translation>
+    </message>
+    <message>
+        <source>采样率</source>
+        <translation>SAMPLE RATE</translation>
+    </message>
+    <message>
+        <source>声道</source>
+        <translation>CHANNELS</translation>
+    </message>
+    <message>
+        <source>播放次数</source>
+        <translation>PLAY COUNT</translation>
+    </message>
+</context>
+<context>
+    <name>WarningCount</name>
+    <message>
+        <source>信号链有 %1 条警告</source>
+        <translation>Warnings in the signal chain: %1</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,37 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ru_RU" sourcelanguage="zh_CN">
 <context>
+    <name>AbLoop</name>
+    <message>
+        <source>A/B 循环: %1 点 = %2s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已清除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AboutBlock</name>
     <message>
         <source>检查更新…</source>
@@ -10,6 +41,118 @@
     <message>
         <source>第三方声明与参考标准</source>
         <translation>Уведомления третьих сторон и стандарты</translation>
+    </message>
+</context>
+<context>
+    <name>BitsLed</name>
+    <message>
+        <source>有效位数</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>有效位数：尚不清楚</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未知</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>透明</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位数减少</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用尽</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 bit，%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ChainLamp</name>
+    <message>
+        <source>未能证明</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>非位完美</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>自检没有通过</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>不是位完美或未能证明：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>尚未得知</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美</source>
+        <translation type="unfinished">Bit-perfect</translation>
+    </message>
+</context>
+<context>
+    <name>ChainPanel</name>
+    <message>
+        <source>信号链</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>信号链的结论</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ChainRow</name>
+    <message>
+        <source>重采样</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>后端</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>输出格式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>延时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音量</source>
+        <translation type="unfinished">Громкость</translation>
+    </message>
+    <message>
+        <source>变速</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>结论</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>链路</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>欠载</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -33,6 +176,25 @@
     <message>
         <source>未知</source>
         <translation>Неизвестно</translation>
+    </message>
+</context>
+<context>
+    <name>CheckMarkView</name>
+    <message>
+        <source>等待中</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已证明</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已证伪</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>此处无法证明</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -86,6 +248,30 @@
     </message>
 </context>
 <context>
+    <name>ContainerOverlay</name>
+    <message>
+        <source>%1
+轨 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>专辑: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>年份: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ControlClosure</name>
     <message>
         <source>[控制] 闭合: 已下发 %1 条命令, 但本次运行没有引擎会话日志 —— 两端无法对账</source>
@@ -117,6 +303,21 @@
     <message>
         <source>[控制] %1</source>
         <translation>[управление] %1</translation>
+    </message>
+</context>
+<context>
+    <name>CoverDisc</name>
+    <message>
+        <source>封面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>无封面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>有封面</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -154,16 +355,12 @@
 <context>
     <name>DisplayPanel</name>
     <message>
-        <source>曲名</source>
-        <translation>Название</translation>
-    </message>
-    <message>
         <source>位置</source>
         <translation>Позиция</translation>
     </message>
     <message>
-        <source>选择曲目或导入音频</source>
-        <translation>Выберите трек или импортируйте аудио</translation>
+        <source>总长</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -211,6 +408,112 @@
     <message>
         <source>选择曲目或导入音频</source>
         <translation>Выберите трек или импортируйте аудио</translation>
+    </message>
+    <message>
+        <source>播放顺序</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>歌词</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>歌词还没有做好，这个按钮以后才能用</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静音</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>静音；再按一次回到原来的音量</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>工具</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲库、标签、网络等工具</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放顺序：随机</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放顺序：按列表</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环：单曲</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环：整个列表</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>循环：关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DspBar</name>
+    <message>
+        <source>实时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>混响</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音调</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>平衡</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>空间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>降噪</source>
+        <translation type="unfinished">Шумоподавление</translation>
+    </message>
+    <message>
+        <source>均衡器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>这一页效果还没有做好，以后的版本才有</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>效果正作用在听到的声音上</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>现在没有效果作用在声音上</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>DspTab</name>
+    <message>
+        <source>效果已开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>效果已关</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -639,10 +942,138 @@
     </message>
 </context>
 <context>
+    <name>HistoryStore</name>
+    <message>
+        <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>InstrumentPanel</name>
+    <message>
+        <source>左声道电平</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>右声道电平</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>波形</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LibraryPanel</name>
+    <message>
+        <source>搜索标题 / 艺术家</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示的 / 全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>搜索和筛选还没有做好，以后的版本才有</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲库 · TITLE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在播放的 / 全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>镜像</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部艺术家</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按艺术家筛选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全部专辑</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>按专辑筛选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>导入</source>
+        <translation type="unfinished">Импорт</translation>
+    </message>
+    <message>
+        <source>把音频文件加到列表末尾</source>
+        <translation type="unfinished">Добавить аудиофайлы в конец списка</translation>
+    </message>
+    <message>
+        <source>文件夹</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>把选中的曲目从列表移除；文件不动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清空列表；文件不动，可以撤销</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LogPane</name>
     <message>
         <source>日志</source>
         <translation>Журнал</translation>
+    </message>
+</context>
+<context>
+    <name>MiniCover</name>
+    <message>
+        <source>封面</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>在列表里显示正在播放的曲目</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -662,6 +1093,47 @@
     <message>
         <source>  按顺序查: (1) 上面那行停在哪一步 —— 解码 / 设备 / 独占；(2) 用命令行播同一个文件；(3) 在日志里找 WASAPI / OPENED / 0x8889000A。会话不会自动重建。</source>
         <translation>  Проверьте по порядку: (1) на чём остановилась строка выше — декодирование / устройство / монопольный доступ; (2) воспроизведите тот же файл из командной строки; (3) найдите в журнале WASAPI / OPENED / 0x8889000A. Сеанс сам не пересоздаётся.</translation>
+    </message>
+</context>
+<context>
+    <name>NowPlaying</name>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation type="unfinished">Выберите трек или импортируйте аудио</translation>
+    </message>
+</context>
+<context>
+    <name>PlayOrder</name>
+    <message>
+        <source>随机</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>顺序</source>
+        <translation type="unfinished">по порядку</translation>
+    </message>
+    <message>
+        <source> · 不循环</source>
+        <translation type="unfinished"> · без повтора</translation>
+    </message>
+    <message>
+        <source> · 列表循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> · 单曲循环</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>PlaySpeed</name>
+    <message>
+        <source>播放速度: %1×%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>（播放中立即生效）</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -745,14 +1217,6 @@
     <message>
         <source>播放列表结束（%1）</source>
         <translation>Конец списка воспроизведения (%1)</translation>
-    </message>
-    <message>
-        <source>顺序</source>
-        <translation>по порядку</translation>
-    </message>
-    <message>
-        <source> · 不循环</source>
-        <translation> · без повтора</translation>
     </message>
     <message>
         <source>播放列表结束</source>
@@ -859,28 +1323,12 @@
         <translation>Импорт аудиофайлов</translation>
     </message>
     <message>
-        <source>音频数据</source>
-        <translation>Аудиоданные</translation>
-    </message>
-    <message>
         <source>播放列表</source>
         <translation>Список воспроизведения</translation>
     </message>
     <message>
-        <source>导入</source>
-        <translation>Импорт</translation>
-    </message>
-    <message>
-        <source>把音频文件加到列表末尾</source>
-        <translation>Добавить аудиофайлы в конец списка</translation>
-    </message>
-    <message>
         <source>引擎设置</source>
         <translation>Настройки движка</translation>
-    </message>
-    <message>
-        <source>下次建会话时交给引擎的设置</source>
-        <translation>Настройки, которые движок получит в следующем сеансе</translation>
     </message>
     <message>
         <source>输出设备</source>
@@ -931,12 +1379,363 @@
         <translation>Анализ %1 …</translation>
     </message>
     <message>
-        <source>分析曲目</source>
-        <translation>Анализ трека</translation>
+        <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>测出选中曲目的速度和调性；不改动文件</source>
-        <translation>Определяет темп и тональность выбранного трека; файл не изменяется</translation>
+        <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存信号链报告</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>信号链报告已保存：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存信号链报告失败：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检：已请引擎逐项检查</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检的结论：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放顺序: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已添加 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有可以添加的音频文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>音频文件 (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>所有文件 (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>添加文件夹</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已移除 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放列表已清空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有可以撤销的改动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有可以重做的改动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移除</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>在文件管理器中显示</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移到最前</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>移到最后</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>属性</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>全选</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>撤销</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>重做</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>添加文件夹…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清空列表</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>打不开文件夹: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲目属性</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放列表已恢复: %1 首</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上次播放: 第 %1 首 — %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>上次播放: 第 %1 首</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控(监听端口)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控：已关闭（端口不再监听）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控：无法监听端口 %1（%2）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控：已打开，端口 %1，令牌 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控地址：%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>布局: 侧栏宽度 %1 px</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲库里找不到正在播放的这一首</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>帮助</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>## 播放
+
+把文件或文件夹拖进窗口，双击一行开始播放。播放中不能跳转：位置只在曲目开始时到达。
+
+## 键盘
+
+- **空格** 播放 / 暂停
+- **Ctrl+→** 下一首，**Ctrl+←** 上一首
+- **Ctrl+↑ / Ctrl+↓** 音量
+- **Ctrl+空格** 停止，**Ctrl+O** 导入文件，**F11** 最大化 / 还原
+- **Ctrl+,** 设置
+- 列表里：**Enter** 播放，**Delete** 移除，**Ctrl+Z** 撤销，**Ctrl+Shift+Z** 重做
+
+## 位完美
+
+右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>日志文件: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置文件: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished">Выкл.</translation>
+    </message>
+    <message>
+        <source>正在等待波形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>示波器已关闭，没有波形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>逐项检查现在的播放有没有改动样本</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>信号链报告…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示引擎自己对信号链的报告，可以保存</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠定时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>日志面板已清空；日志文件保留</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>主题: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>跟随系统（%1）</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>强调色跟随封面: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>选择曲目或导入音频</source>
+        <translation type="unfinished">Выберите трек или импортируйте аудио</translation>
+    </message>
+</context>
+<context>
+    <name>PlaylistChange</name>
+    <message>
+        <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已恢复原来的播放顺序</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已重新添加 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已重新移除 %1 首 (列表共 %2 首)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>已重新调整播放顺序</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -952,6 +1751,17 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Без пауз: за %1 s до конца предзагружен следующий трек (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressDial</name>
+    <message>
+        <source>播放进度</source>
+        <translation type="unfinished">Ход воспроизведения</translation>
+    </message>
+    <message>
+        <source>只显示进度：播放中不能跳转</source>
+        <translation type="unfinished">Только показывает ход: перемотка при воспроизведении невозможна</translation>
     </message>
 </context>
 <context>
@@ -980,12 +1790,332 @@
         <translation>Позиция</translation>
     </message>
     <message>
-        <source>播放进度</source>
-        <translation>Ход воспроизведения</translation>
+        <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>只显示进度：播放中不能跳转</source>
-        <translation>Только показывает ход: перемотка при воспроизведении невозможна</translation>
+        <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>RemoteControls</name>
+    <message>
+        <source>手机遥控</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>端口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控端口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控地址</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>本机没有局域网 IPv4 地址</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
+%1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机遥控：已关闭</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ReportDialog</name>
+    <message>
+        <source>信号链报告</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>再取一次</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存报告…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished">Выкл.</translation>
+    </message>
+</context>
+<context>
+    <name>RowProperties</name>
+    <message>
+        <source>类型: 网络电台</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型: CUE 分轨, 第 %1 轨</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型: SACD 镜像, 第 %1 轨</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型: 容器里的第 %1 轨</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>类型: 音频文件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>显示: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位置: 第 %1/%2 项</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>格式: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CUE 表: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>时间: %1 s → %2 s (长 %3 s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ScopeView</name>
+    <message>
+        <source>示波器</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>未播放，没有波形</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最大振幅: 左 %1%, 右 %2%</source>
+        <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SegmentMeter</name>
+    <message>
+        <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>源是否无损</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>正在等待引擎回答。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>源是无损的</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>源不是无损的</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>源是否无损无从得知</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>引擎没有给出能证明的依据；这不算通过。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>通路有没有改动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>通路没有改动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从文件到设备之间，没有任何环节改动过采样。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>通路有改动</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>从文件到设备之间，有环节改动了采样。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>通路有没有改动无从得知</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>交付是否核实</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>交付已核实</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备按要求打开，读回的格式与送出的一致。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>交付有出入</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>交付无法核实</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设备实际以什么格式运行读不回来；这不算通过。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最先破坏位完美的环节：%1。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最先无法证明的环节：%1。</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>结论：位完美 ✓  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>结论：非位完美 ✗  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>逐项检查的结果</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>保存报告…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished">Выкл.</translation>
+    </message>
+    <message>
+        <source>检查中…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>位完美自检 — %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>通过</source>
+        <translation type="unfinished">сошлось</translation>
+    </message>
+    <message>
+        <source>未通过</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SetupDialog</name>
+    <message>
+        <source>设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished">Выкл.</translation>
+    </message>
+</context>
+<context>
+    <name>SleepControls</name>
+    <message>
+        <source>关闭</source>
+        <translation type="unfinished">Выкл.</translation>
+    </message>
+    <message>
+        <source>%1 分钟后</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠定时</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>到时间后用十秒淡出，然后停止</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SleepTimer</name>
+    <message>
+        <source>睡眠定时: 关</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠定时: %1 分钟</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠定时: 开始淡出(10 秒后停止)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>睡眠定时: 已淡出并停止播放</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1005,6 +2135,18 @@
     <message>
         <source>%1 声道</source>
         <translation>%1 кан.</translation>
+    </message>
+</context>
+<context>
+    <name>SpectrumView</name>
+    <message>
+        <source>频谱</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最强频段: 左 %1, 右 %2, 共 %3</source>
+        <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1040,6 +2182,120 @@
     <message>
         <source>启动指标：界面就绪 %1，内存 %2（只列实测值）</source>
         <translation>Показатели запуска: интерфейс готов за %1, память %2 (только измеренное)</translation>
+    </message>
+</context>
+<context>
+    <name>TitleBar</name>
+    <message>
+        <source>打开设置(Setup Menu)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>设置</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最小化</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>最大化</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>关闭窗口</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1：亮</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1：灭</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>还原</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ToolsMenu</name>
+    <message>
+        <source>扫描曲库文件夹(增量)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>查找重复曲目</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>批量编辑标签</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>智能播放列表</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>年度报告</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>曲目分析</source>
+        <translation type="unfinished">Анализ трека</translation>
+    </message>
+    <message>
+        <source>DSP 顺序</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>指纹比对</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>在线补全标签</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>网络曲库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>手机同步</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>插件</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>电台/网络/接力</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>车载模式</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>网络挂载</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>校验曲库</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>清空日志</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>帮助…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>这个功能还没有做好，以后的版本才有</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1104,6 +2360,32 @@
     <message>
         <source>播放器在 %1 秒内没有收尾完成；进程内会话无法强杀（请等它收尾；逃生口: KELP_GUI_INPROC=0）</source>
         <translation>Проигрыватель не завершился за %1 с; сеанс внутри процесса нельзя завершить силой (подождите; обход: KELP_GUI_INPROC=0)</translation>
+    </message>
+</context>
+<context>
+    <name>ValueCards</name>
+    <message>
+        <source>码率</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>采样率</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>声道</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>播放次数</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WarningCount</name>
+    <message>
+        <source>信号链有 %1 条警告</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
