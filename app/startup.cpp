@@ -8,6 +8,7 @@
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
 #include "platform/single_instance.h"
+#include "ui/style_sheet.h"
 #include "ui/theme.h"
 #include "ui/window/player_gui_window.h"
 
@@ -93,6 +94,8 @@ void setPaletteAndIdentity()
 {
     QApplication::setPalette(theme::applicationPalette());
     QApplication::setStyle(u"Fusion"_s);
+    // The application's, so that dialogs have it too, and before any widget could take another.
+    QApplication::setFont(interfaceFont());
     QCoreApplication::setApplicationName(u"KelpPlayer"_s);
     QCoreApplication::setOrganizationName(u"KELP"_s);
 }

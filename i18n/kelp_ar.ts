@@ -5,31 +5,31 @@
     <name>AbLoop</name>
     <message>
         <source>A/B 循环: %1 点 = %2s</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: النقطة %1 = %2s</translation>
     </message>
     <message>
         <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: يجب أن تأتي النقطة B بعد النقطة A ‏(A=%1s, B=%2s)</translation>
     </message>
     <message>
         <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: وُضعت العلامات، ويسري عند بدء التشغيل (تكرار المقطع)</translation>
     </message>
     <message>
         <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: بدأ من %1 إلى %2 (تكرار المقطع؛ الإلغاء يعيد ترتيب التشغيل السابق)</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: أُلغي</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: أُلغي، وعاد ترتيب التشغيل إلى %1</translation>
     </message>
     <message>
         <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: تغيّر المقطع، فأُهملت نقطتا A/B المحددتان للمقطع السابق</translation>
     </message>
 </context>
 <context>
@@ -47,112 +47,112 @@
     <name>BitsLed</name>
     <message>
         <source>有效位数</source>
-        <translation type="unfinished"></translation>
+        <translation>البتات الفعّالة</translation>
     </message>
     <message>
         <source>有效位数：尚不清楚</source>
-        <translation type="unfinished"></translation>
+        <translation>البتات الفعّالة: غير معروفة بعد</translation>
     </message>
     <message>
         <source>未知</source>
-        <translation type="unfinished">غير معروف</translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>透明</source>
-        <translation type="unfinished"></translation>
+        <translation>شفافة</translation>
     </message>
     <message>
         <source>位数减少</source>
-        <translation type="unfinished"></translation>
+        <translation>بتات أقل</translation>
     </message>
     <message>
         <source>用尽</source>
-        <translation type="unfinished"></translation>
+        <translation>استُنفدت</translation>
     </message>
     <message>
         <source>%1 bit，%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 بت، %2</translation>
     </message>
 </context>
 <context>
     <name>ChainLamp</name>
     <message>
         <source>未能证明</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مُثبت</translation>
     </message>
     <message>
         <source>非位完美</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس مطابقًا بتًّا ببت</translation>
     </message>
     <message>
         <source>自检没有通过</source>
-        <translation type="unfinished"></translation>
+        <translation>لم ينجح الفحص الذاتي</translation>
     </message>
     <message>
         <source>不是位完美或未能证明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس مطابقًا بتًّا ببت أو غير مُثبت: %1</translation>
     </message>
     <message>
         <source>尚未得知</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف بعد</translation>
     </message>
     <message>
         <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يبلّغ المحرك بعد عن سلسلة إشارة هذا المقطع، لذا لا يُجزم بشيء.</translation>
     </message>
     <message>
         <source>位完美</source>
-        <translation type="unfinished">مطابق بتًّا ببت</translation>
+        <translation>مطابق بتًّا ببت</translation>
     </message>
 </context>
 <context>
     <name>ChainPanel</name>
     <message>
         <source>信号链</source>
-        <translation type="unfinished"></translation>
+        <translation>السلسلة</translation>
     </message>
     <message>
         <source>信号链的结论</source>
-        <translation type="unfinished"></translation>
+        <translation>الحكم على سلسلة الإشارة</translation>
     </message>
 </context>
 <context>
     <name>ChainRow</name>
     <message>
         <source>重采样</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة أخذ العينات</translation>
     </message>
     <message>
         <source>后端</source>
-        <translation type="unfinished"></translation>
+        <translation>الواجهة الخلفية</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>صيغة الإخراج</translation>
     </message>
     <message>
         <source>延时</source>
-        <translation type="unfinished"></translation>
+        <translation>التأخير</translation>
     </message>
     <message>
         <source>音量</source>
-        <translation type="unfinished">مستوى الصوت</translation>
+        <translation>مستوى الصوت</translation>
     </message>
     <message>
         <source>变速</source>
-        <translation type="unfinished"></translation>
+        <translation>السرعة</translation>
     </message>
     <message>
         <source>结论</source>
-        <translation type="unfinished"></translation>
+        <translation>الحكم</translation>
     </message>
     <message>
         <source>链路</source>
-        <translation type="unfinished"></translation>
+        <translation>السلسلة</translation>
     </message>
     <message>
         <source>欠载</source>
-        <translation type="unfinished"></translation>
+        <translation>نفاد المخزن المؤقت</translation>
     </message>
 </context>
 <context>
@@ -182,19 +182,19 @@
     <name>CheckMarkView</name>
     <message>
         <source>等待中</source>
-        <translation type="unfinished"></translation>
+        <translation>في الانتظار</translation>
     </message>
     <message>
         <source>已证明</source>
-        <translation type="unfinished"></translation>
+        <translation>أُثبت</translation>
     </message>
     <message>
         <source>已证伪</source>
-        <translation type="unfinished"></translation>
+        <translation>دُحض</translation>
     </message>
     <message>
         <source>此处无法证明</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن إثباته هنا</translation>
     </message>
 </context>
 <context>
@@ -252,23 +252,24 @@
     <message>
         <source>%1
 轨 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+المقطع %2</translation>
     </message>
     <message>
         <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
-        <translation type="unfinished"></translation>
+        <translation>(الوسوم من معلومات الحاوية نفسها؛ لا وسوم إضافية في المكتبة المحلية)</translation>
     </message>
     <message>
         <source>专辑: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الألبوم: %1</translation>
     </message>
     <message>
         <source>年份: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>السنة: %1</translation>
     </message>
     <message>
         <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
-        <translation type="unfinished"></translation>
+        <translation>(الوسوم من المكتبة المحلية — لم يُكتب شيء في ISO/CUE)</translation>
     </message>
 </context>
 <context>
@@ -309,15 +310,15 @@
     <name>CoverDisc</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>الغلاف</translation>
     </message>
     <message>
         <source>无封面</source>
-        <translation type="unfinished"></translation>
+        <translation>لا غلاف</translation>
     </message>
     <message>
         <source>有封面</source>
-        <translation type="unfinished"></translation>
+        <translation>الغلاف معروض</translation>
     </message>
 </context>
 <context>
@@ -360,7 +361,7 @@
     </message>
     <message>
         <source>总长</source>
-        <translation type="unfinished"></translation>
+        <translation>الطول الكلي</translation>
     </message>
 </context>
 <context>
@@ -411,109 +412,109 @@
     </message>
     <message>
         <source>播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب التشغيل</translation>
     </message>
     <message>
         <source>循环</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار</translation>
     </message>
     <message>
         <source>歌词</source>
-        <translation type="unfinished"></translation>
+        <translation>الكلمات</translation>
     </message>
     <message>
         <source>歌词还没有做好，这个按钮以后才能用</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُنجز الكلمات بعد؛ سيعمل هذا الزر في إصدار لاحق</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت</translation>
     </message>
     <message>
         <source>静音；再按一次回到原来的音量</source>
-        <translation type="unfinished"></translation>
+        <translation>كتم الصوت؛ اضغط مرة أخرى للعودة إلى المستوى السابق</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>الأدوات</translation>
     </message>
     <message>
         <source>曲库、标签、网络等工具</source>
-        <translation type="unfinished"></translation>
+        <translation>أدوات المكتبة والوسوم والشبكة وغيرها</translation>
     </message>
     <message>
         <source>播放顺序：随机</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب التشغيل: عشوائي</translation>
     </message>
     <message>
         <source>播放顺序：按列表</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب التشغيل: حسب القائمة</translation>
     </message>
     <message>
         <source>循环：单曲</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار: هذا المقطع</translation>
     </message>
     <message>
         <source>循环：整个列表</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار: القائمة كلها</translation>
     </message>
     <message>
         <source>循环：关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>التكرار: معطّل</translation>
     </message>
 </context>
 <context>
     <name>DspBar</name>
     <message>
         <source>实时</source>
-        <translation type="unfinished"></translation>
+        <translation>آني</translation>
     </message>
     <message>
         <source>混响</source>
-        <translation type="unfinished"></translation>
+        <translation>الصدى</translation>
     </message>
     <message>
         <source>音调</source>
-        <translation type="unfinished"></translation>
+        <translation>النغمة</translation>
     </message>
     <message>
         <source>平衡</source>
-        <translation type="unfinished"></translation>
+        <translation>التوازن</translation>
     </message>
     <message>
         <source>空间</source>
-        <translation type="unfinished"></translation>
+        <translation>المكاني</translation>
     </message>
     <message>
         <source>降噪</source>
-        <translation type="unfinished">خفض الضجيج</translation>
+        <translation>خفض الضجيج</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>المعادل</translation>
     </message>
     <message>
         <source>这一页效果还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُنجز صفحة هذا المؤثر بعد؛ ستأتي في إصدار لاحق</translation>
     </message>
     <message>
         <source>效果正作用在听到的声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>المؤثرات تعمل على ما يُسمع الآن</translation>
     </message>
     <message>
         <source>现在没有效果作用在声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>لا مؤثر يعمل على الصوت الآن</translation>
     </message>
 </context>
 <context>
     <name>DspTab</name>
     <message>
         <source>效果已开</source>
-        <translation type="unfinished"></translation>
+        <translation>المؤثر مفعّل</translation>
     </message>
     <message>
         <source>效果已关</source>
-        <translation type="unfinished"></translation>
+        <translation>المؤثر معطّل</translation>
     </message>
 </context>
 <context>
@@ -945,117 +946,117 @@
     <name>HistoryStore</name>
     <message>
         <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل التراجع لقائمة التشغيل تالف ولا يمكن استخدامه، لذا يبدأ فارغًا: %1</translation>
     </message>
     <message>
         <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل التراجع لا يطابق قائمة التشغيل المحفوظة، لذا يبدأ فارغًا: %1</translation>
     </message>
     <message>
         <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت كتابة سجل التراجع لقائمة التشغيل، فلن يمكن التراجع عن شيء بعد إعادة التشغيل: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>InstrumentPanel</name>
     <message>
         <source>左声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>مستوى القناة اليسرى</translation>
     </message>
     <message>
         <source>右声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>مستوى القناة اليمنى</translation>
     </message>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>الطيف</translation>
     </message>
     <message>
         <source>波形</source>
-        <translation type="unfinished"></translation>
+        <translation>الموجة</translation>
     </message>
 </context>
 <context>
     <name>LibraryPanel</name>
     <message>
         <source>搜索标题 / 艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>ابحث عن عنوان / فنان</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث</translation>
     </message>
     <message>
         <source>显示的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>المعروض / الكل</translation>
     </message>
     <message>
         <source>搜索和筛选还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُنجز البحث والتصفية بعد؛ سيأتيان في إصدار لاحق</translation>
     </message>
     <message>
         <source>曲库 · TITLE</source>
-        <translation type="unfinished"></translation>
+        <translation>المكتبة · العنوان</translation>
     </message>
     <message>
         <source>正在播放的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد التشغيل / الكل</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>صور الأقراص</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الفنانين</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>تصفية حسب الفنان</translation>
     </message>
     <message>
         <source>全部专辑</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الألبومات</translation>
     </message>
     <message>
         <source>按专辑筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>تصفية حسب الألبوم</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished">استيراد</translation>
+        <translation>استيراد</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
-        <translation type="unfinished">إضافة ملفات صوتية إلى آخر القائمة</translation>
+        <translation>إضافة ملفات صوتية إلى آخر القائمة</translation>
     </message>
     <message>
         <source>文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد</translation>
     </message>
     <message>
         <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة الملفات الصوتية من مجلد إلى آخر القائمة؛ دون دخول المجلدات الفرعية</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>把选中的曲目从列表移除；文件不动</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة المقاطع المختارة من القائمة؛ تبقى الملفات</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح</translation>
     </message>
     <message>
         <source>清空列表；文件不动，可以撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>تفريغ القائمة؛ تبقى الملفات، ويمكن التراجع</translation>
     </message>
 </context>
 <context>
@@ -1069,11 +1070,11 @@
     <name>MiniCover</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>الغلاف</translation>
     </message>
     <message>
         <source>在列表里显示正在播放的曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار المقطع الجاري في القائمة</translation>
     </message>
 </context>
 <context>
@@ -1099,41 +1100,41 @@
     <name>NowPlaying</name>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">اختر مقطعًا أو استورد ملفات صوتية</translation>
+        <translation>اختر مقطعًا أو استورد ملفات صوتية</translation>
     </message>
 </context>
 <context>
     <name>PlayOrder</name>
     <message>
         <source>随机</source>
-        <translation type="unfinished"></translation>
+        <translation>عشوائي</translation>
     </message>
     <message>
         <source>顺序</source>
-        <translation type="unfinished">بالترتيب</translation>
+        <translation>بالترتيب</translation>
     </message>
     <message>
         <source> · 不循环</source>
-        <translation type="unfinished"> · بلا تكرار</translation>
+        <translation> · بلا تكرار</translation>
     </message>
     <message>
         <source> · 列表循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · تكرار القائمة</translation>
     </message>
     <message>
         <source> · 单曲循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · تكرار المقطع</translation>
     </message>
 </context>
 <context>
     <name>PlaySpeed</name>
     <message>
         <source>播放速度: %1×%2</source>
-        <translation type="unfinished"></translation>
+        <translation>سرعة التشغيل: ‎%1×‎%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
-        <translation type="unfinished"></translation>
+        <source> （播放中立即生效）</source>
+        <translation> (تسري فورًا أثناء التشغيل)</translation>
     </message>
 </context>
 <context>
@@ -1380,239 +1381,239 @@
     </message>
     <message>
         <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>لا PCM في هذه السلسلة (DSD مباشر) — لا موجة</translation>
     </message>
     <message>
         <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>لا طيف على هذا المسار: إخراج DSD المباشر لا يحمل PCM</translation>
     </message>
     <message>
         <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير سلسلة الإشارة: لا توجد جلسة تشغيل، فيُعرض آخر تقرير فقط.</translation>
     </message>
     <message>
         <source>保存信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ تقرير سلسلة الإشارة</translation>
     </message>
     <message>
         <source>信号链报告已保存：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>حُفظ تقرير سلسلة الإشارة: %1</translation>
     </message>
     <message>
         <source>保存信号链报告失败：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر حفظ تقرير سلسلة الإشارة: %1</translation>
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الذاتي للمطابقة بتًّا ببت: لا توجد جلسة تشغيل — ابدأ التشغيل أولًا (لا شيء يُحكم عليه دون دفق صوتي)</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الذاتي للمطابقة بتًّا ببت: طُلب من المحرك الفحص بندًا بندًا</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>حكم الفحص الذاتي للمطابقة بتًّا ببت: %1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>استُعيدت الإعدادات النقية (كل المؤثرات معطّلة / 1.0x / بلا تلاشٍ متقاطع / مستوى الصوت 100 / أُعيد ضبط التخطيط والسمة) وبدأ الفحص الذاتي للمطابقة بتًّا ببت</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب التشغيل: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
-        <translation type="unfinished"></translation>
+        <translation>تكرار A/B: لا مقطع قيد التشغيل، فلا شيء يُعلَّم</translation>
     </message>
     <message>
         <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات صوتية جرى تخطيها: %1 — لا يملك هذا المشغّل مفكك ترميز لها (MP3/AAC/OGG)</translation>
     </message>
     <message>
         <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات جرى تخطيها: %1 — أسماؤها ليست UTF-8 صحيحة ولا يمكن فتحها</translation>
     </message>
     <message>
         <source>已添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>المقاطع المضافة: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
-        <translation type="unfinished"></translation>
+        <translation>استغرقت الإضافة المجمّعة %1 ms (عدد المقاطع: %2، برصف واحد)</translation>
     </message>
     <message>
         <source>没有可以添加的音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>لا ملفات صوتية لإضافتها</translation>
     </message>
     <message>
         <source>音频文件 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ملفات صوتية (%1)</translation>
     </message>
     <message>
         <source>所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>كل الملفات (*)</translation>
     </message>
     <message>
         <source>添加文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مجلد</translation>
     </message>
     <message>
         <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيل المقطع الجاري من القائمة (يستمر الصوت، لكنه لم يعد في القائمة)</translation>
     </message>
     <message>
         <source>已移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>المقاطع المُزالة: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>播放列表已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>مُسحت قائمة التشغيل</translation>
     </message>
     <message>
         <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>هذا التغيير أكبر من أن يُحفظ، لذا لا يمكن التراجع عنه</translation>
     </message>
     <message>
         <source>没有可以撤销的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء للتراجع عنه</translation>
     </message>
     <message>
         <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل التراجع لا يطابق قائمة التشغيل؛ لم يُتراجع عن شيء ومُسح السجل</translation>
     </message>
     <message>
         <source>没有可以重做的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء لإعادته</translation>
     </message>
     <message>
         <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>سجل الإعادة لا يطابق قائمة التشغيل؛ لم يُعَد شيء ومُسح السجل</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة</translation>
     </message>
     <message>
         <source>在文件管理器中显示</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار في مدير الملفات</translation>
     </message>
     <message>
         <source>移到最前</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل إلى الأعلى</translation>
     </message>
     <message>
         <source>移到最后</source>
-        <translation type="unfinished"></translation>
+        <translation>نقل إلى الأسفل</translation>
     </message>
     <message>
         <source>属性</source>
-        <translation type="unfinished"></translation>
+        <translation>الخصائص</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديد الكل</translation>
     </message>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>تراجع</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة</translation>
     </message>
     <message>
         <source>添加文件夹…</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة مجلد…</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح القائمة</translation>
     </message>
     <message>
         <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يستجب أي مدير ملفات، ففُتح المجلد بدلًا من ذلك: %1</translation>
     </message>
     <message>
         <source>打不开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح المجلد: %1</translation>
     </message>
     <message>
         <source>曲目属性</source>
-        <translation type="unfinished"></translation>
+        <translation>خصائص المقطع</translation>
     </message>
     <message>
         <source>播放列表已恢复: %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>استُعيدت قائمة التشغيل، عدد المقاطع: %1</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر تشغيل: المقطع %1 — %2</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر تشغيل: المقطع %1</translation>
     </message>
     <message>
         <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
-        <translation type="unfinished"></translation>
+        <translation>مقاطع جرى تخطيها عند استعادة قائمة التشغيل: %1 (الملف لم يعد موجودًا)</translation>
     </message>
     <message>
         <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع عدم الاتصال مفعّل، رُفض: %1 (يمكن تعطيله من الإعدادات)</translation>
     </message>
     <message>
         <source>手机遥控(监听端口)</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف (منفذ الاستماع)</translation>
     </message>
     <message>
         <source>手机遥控：已关闭（端口不再监听）</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف: معطّل (لم يعد المنفذ قيد الاستماع)</translation>
     </message>
     <message>
         <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف: رُفض طلب بلا رمز صحيح (%1)</translation>
     </message>
     <message>
         <source>手机遥控：无法监听端口 %1（%2）</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف: تعذّر الاستماع على المنفذ %1 (%2)</translation>
     </message>
     <message>
         <source>手机遥控：已打开，端口 %1，令牌 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف: مفعّل، المنفذ %1، الرمز %2</translation>
     </message>
     <message>
         <source>手机遥控地址：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان التحكم من الهاتف: %1</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>التخطيط: عرض الجانب %1 خارج النطاق وحُدّ إلى %2 px</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>التخطيط: عرض الجانب %1 px</translation>
     </message>
     <message>
         <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
-        <translation type="unfinished"></translation>
+        <translation>أُعيد ضبط التخطيط (حجم النافذة/موضعها/عرض الجانب)</translation>
     </message>
     <message>
         <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع النافذة: تعذّرت قراءة المحفوظ، فاستُخدم الحجم الافتراضي</translation>
     </message>
     <message>
         <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
-        <translation type="unfinished"></translation>
+        <translation>موضع النافذة: لم تعد شاشتها السابقة موجودة، فنُقلت إلى وسط الشاشة الرئيسية</translation>
     </message>
     <message>
         <source>曲库里找不到正在播放的这一首</source>
-        <translation type="unfinished"></translation>
+        <translation>المقطع الجاري ليس في قائمة المكتبة</translation>
     </message>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>المساعدة</translation>
     </message>
     <message>
         <source>## 播放
@@ -1632,110 +1633,126 @@
 
 右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
 </source>
-        <translation type="unfinished"></translation>
+        <translation>## التشغيل
+
+أفلت ملفات أو مجلدات على النافذة وانقر صفًا نقرًا مزدوجًا لتشغيله. لا يمكن الانتقال أثناء التشغيل: لا يُبلغ موضع معيّن إلا عند بداية المقطع.
+
+## لوحة المفاتيح
+
+- **المسافة** تشغيل / إيقاف مؤقت
+- **‎Ctrl+→‎** المقطع التالي، **‎Ctrl+←‎** المقطع السابق
+- **‎Ctrl+↑ / Ctrl+↓‎** مستوى الصوت
+- **Ctrl+المسافة** إيقاف، **Ctrl+O** استيراد ملفات، **F11** تكبير / استعادة
+- **‎Ctrl+,‎** الإعدادات
+- في القائمة: **Enter** يشغّل، **Delete** يزيل، **Ctrl+Z** يتراجع، **Ctrl+Shift+Z** يعيد
+
+## المطابقة بتًّا ببت
+
+يبيّن عمود سلسلة الإشارة ما تمر به العينات. ولا يظهر فيه “تم التحقق من التسليم” إلا إذا قُرئ من الجهاز ما تلقّاه. أما “الفحص الذاتي للمطابقة بتًّا ببت” فيفحص كل مرحلة.
+</translation>
     </message>
     <message>
         <source>日志文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف السجل: %1</translation>
     </message>
     <message>
         <source>设置文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الإعدادات: %1</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">معطّل</translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>正在等待波形</source>
-        <translation type="unfinished"></translation>
+        <translation>في انتظار الموجة</translation>
     </message>
     <message>
         <source>示波器已关闭，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>راسم الإشارة معطّل: لا موجة</translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الذاتي للمطابقة بتًّا ببت</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
-        <translation type="unfinished"></translation>
+        <translation>يفحص بندًا بندًا هل يغيّر التشغيل الحالي العينات</translation>
     </message>
     <message>
         <source>信号链报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير سلسلة الإشارة…</translation>
     </message>
     <message>
         <source>显示引擎自己对信号链的报告，可以保存</source>
-        <translation type="unfinished"></translation>
+        <translation>يعرض تقرير المحرك نفسه عن سلسلة الإشارة، ويمكن حفظه</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم</translation>
     </message>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف</translation>
     </message>
     <message>
         <source>日志面板已清空；日志文件保留</source>
-        <translation type="unfinished"></translation>
+        <translation>مُسحت لوحة السجل؛ يبقى ملف السجل</translation>
     </message>
     <message>
         <source>浅色</source>
-        <translation type="unfinished"></translation>
+        <translation>فاتحة</translation>
     </message>
     <message>
         <source>深色</source>
-        <translation type="unfinished"></translation>
+        <translation>داكنة</translation>
     </message>
     <message>
         <source>主题: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>السمة: %1</translation>
     </message>
     <message>
         <source>跟随系统（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>حسب النظام (%1)</translation>
     </message>
     <message>
         <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يحوي الغلاف لونًا غالبًا صالحًا (أسود/رمادي/أبيض خالص) ⇒ يبقى لون التمييز كما اخترته</translation>
     </message>
     <message>
         <source>强调色跟随封面: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>لون التمييز يتبع الغلاف: %1</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">اختر مقطعًا أو استورد ملفات صوتية</translation>
+        <translation>اختر مقطعًا أو استورد ملفات صوتية</translation>
     </message>
 </context>
 <context>
     <name>PlaylistChange</name>
     <message>
         <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>أُلغيت إضافة المقاطع، عددها: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>عادت المقاطع المُزالة، عددها: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>已恢复原来的播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>عاد ترتيب التشغيل السابق</translation>
     </message>
     <message>
         <source>已重新添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>أُضيفت المقاطع من جديد، عددها: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>已重新移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>أُزيلت المقاطع من جديد، عددها: %1 (في القائمة الآن %2)</translation>
     </message>
     <message>
         <source>已重新调整播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيّر ترتيب التشغيل من جديد</translation>
     </message>
 </context>
 <context>
@@ -1757,11 +1774,11 @@
     <name>ProgressDial</name>
     <message>
         <source>播放进度</source>
-        <translation type="unfinished">تقدّم التشغيل</translation>
+        <translation>تقدّم التشغيل</translation>
     </message>
     <message>
         <source>只显示进度：播放中不能跳转</source>
-        <translation type="unfinished">يعرض التقدّم فقط: لا يمكن الانتقال أثناء التشغيل</translation>
+        <translation>يعرض التقدّم فقط: لا يمكن الانتقال أثناء التشغيل</translation>
     </message>
 </context>
 <context>
@@ -1791,331 +1808,332 @@
     </message>
     <message>
         <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>بداية التكرار: تُعلّم الموضع الحالي. عند تحديد A وB يبدأ التكرار؛ اضغط مرة أخرى لإلغائه</translation>
     </message>
     <message>
         <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>نهاية التكرار: تُعلّم الموضع الحالي. عند تحديد A وB يبدأ التكرار؛ اضغط مرة أخرى لإلغائه</translation>
     </message>
 </context>
 <context>
     <name>RemoteControls</name>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف</translation>
     </message>
     <message>
         <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
-        <translation type="unfinished"></translation>
+        <translation>يتحكم هاتف على شبكة Wi-Fi نفسها بالتشغيل من متصفحه؛ وما دام مفعّلًا يستمع هذا الحاسوب على منفذ</translation>
     </message>
     <message>
         <source>端口</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ</translation>
     </message>
     <message>
         <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
-        <translation type="unfinished"></translation>
+        <translation>المنفذ الذي يستمع عليه التحكم من الهاتف؛ يُقرأ لحظة التفعيل</translation>
     </message>
     <message>
         <source>手机遥控端口</source>
-        <translation type="unfinished"></translation>
+        <translation>منفذ التحكم من الهاتف</translation>
     </message>
     <message>
         <source>手机遥控地址</source>
-        <translation type="unfinished"></translation>
+        <translation>عناوين التحكم من الهاتف</translation>
     </message>
     <message>
         <source>本机没有局域网 IPv4 地址</source>
-        <translation type="unfinished"></translation>
+        <translation>لا عنوان IPv4 لهذا الحاسوب على الشبكة المحلية</translation>
     </message>
     <message>
         <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>افتح في متصفح الهاتف (على شبكة Wi-Fi نفسها مع الحاسوب):
+%1</translation>
     </message>
     <message>
         <source>手机遥控：已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>التحكم من الهاتف: معطّل</translation>
     </message>
 </context>
 <context>
     <name>ReportDialog</name>
     <message>
         <source>信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير سلسلة الإشارة</translation>
     </message>
     <message>
         <source>再取一次</source>
-        <translation type="unfinished"></translation>
+        <translation>اسأل ثانيةً</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ التقرير…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">معطّل</translation>
+        <translation>إغلاق</translation>
     </message>
 </context>
 <context>
     <name>RowProperties</name>
     <message>
         <source>类型: 网络电台</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع: محطة شبكية</translation>
     </message>
     <message>
         <source>类型: CUE 分轨, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع: المقطع %1 من ملف CUE</translation>
     </message>
     <message>
         <source>类型: SACD 镜像, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع: المقطع %1 من صورة SACD</translation>
     </message>
     <message>
         <source>类型: 容器里的第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع: المقطع %1 من حاوية</translation>
     </message>
     <message>
         <source>类型: 音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>النوع: ملف صوتي</translation>
     </message>
     <message>
         <source>显示: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>يُعرض باسم: %1</translation>
     </message>
     <message>
         <source>位置: 第 %1/%2 项</source>
-        <translation type="unfinished"></translation>
+        <translation>الموضع: العنصر %1/%2</translation>
     </message>
     <message>
         <source>格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الصيغة: %1</translation>
     </message>
     <message>
         <source>文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الملف: %1</translation>
     </message>
     <message>
         <source>CUE 表: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف CUE: ‏%1</translation>
     </message>
     <message>
         <source>时间: %1 s → %2 s (长 %3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>الوقت: من %1 s إلى %2 s (الطول %3 s)</translation>
     </message>
 </context>
 <context>
     <name>ScopeView</name>
     <message>
         <source>示波器</source>
-        <translation type="unfinished"></translation>
+        <translation>راسم الإشارة</translation>
     </message>
     <message>
         <source>未播放，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء قيد التشغيل: لا موجة</translation>
     </message>
     <message>
         <source>最大振幅: 左 %1%, 右 %2%</source>
         <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أكبر سعة: اليسار %1%، اليمين %2%</translation>
     </message>
 </context>
 <context>
     <name>SegmentMeter</name>
     <message>
         <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
-        <translation type="unfinished"></translation>
+        <translation>ذروة إخراج هذه القناة (dBFS): يبلّغ عنها المحرك 20 مرة في الثانية بدقة 0.01 dB وحد أدنى ‎−120 dB (وما دونه يُعرض ‎−∞ dB)؛ وعند 0 dBFS يبقى الأحمر مضاءً 1.5 s (احتمال قص)</translation>
     </message>
 </context>
 <context>
     <name>SelfCheck</name>
     <message>
         <source>源是否无损</source>
-        <translation type="unfinished"></translation>
+        <translation>هل المصدر بلا فقد؟</translation>
     </message>
     <message>
         <source>正在等待引擎回答。</source>
-        <translation type="unfinished"></translation>
+        <translation>في انتظار جواب المحرك.</translation>
     </message>
     <message>
         <source>源是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>المصدر بلا فقد</translation>
     </message>
     <message>
         <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
-        <translation type="unfinished"></translation>
+        <translation>يعيد الترميز كل عينة دخلته؛ لم يُهمل شيء.</translation>
     </message>
     <message>
         <source>源不是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>المصدر ليس بلا فقد</translation>
     </message>
     <message>
         <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يعد الملف يحوي كل العينات الأصلية، ولا يمكن لأي مرحلة لاحقة أن تعيدها.</translation>
     </message>
     <message>
         <source>源是否无损无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُعرف هل المصدر بلا فقد</translation>
     </message>
     <message>
         <source>引擎没有给出能证明的依据；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يقدّم المحرك ما يثبت ذلك؛ ولا يُحسب هذا نجاحًا.</translation>
     </message>
     <message>
         <source>通路有没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>هل المسار دون تغيير؟</translation>
     </message>
     <message>
         <source>通路没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>المسار دون تغيير</translation>
     </message>
     <message>
         <source>从文件到设备之间，没有任何环节改动过采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تغيّر أي مرحلة بين الملف والجهاز عينة واحدة.</translation>
     </message>
     <message>
         <source>通路有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>المسار متغيّر</translation>
     </message>
     <message>
         <source>从文件到设备之间，有环节改动了采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>مرحلة بين الملف والجهاز تغيّر العينات.</translation>
     </message>
     <message>
         <source>通路有没有改动无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يُعرف هل المسار دون تغيير</translation>
     </message>
     <message>
         <source>交付是否核实</source>
-        <translation type="unfinished"></translation>
+        <translation>هل تم التحقق من التسليم؟</translation>
     </message>
     <message>
         <source>交付已核实</source>
-        <translation type="unfinished"></translation>
+        <translation>تم التحقق من التسليم</translation>
     </message>
     <message>
         <source>设备按要求打开，读回的格式与送出的一致。</source>
-        <translation type="unfinished"></translation>
+        <translation>فُتح الجهاز كما طُلب، والصيغة المقروءة منه تطابق ما أُرسل.</translation>
     </message>
     <message>
         <source>交付有出入</source>
-        <translation type="unfinished"></translation>
+        <translation>التسليم مختلف</translation>
     </message>
     <message>
         <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
-        <translation type="unfinished"></translation>
+        <translation>ما وصل إلى الجهاز ليس ما أُرسل، أو تقف مرحلة أخرى في الطريق.</translation>
     </message>
     <message>
         <source>交付无法核实</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن التحقق من التسليم</translation>
     </message>
     <message>
         <source>设备实际以什么格式运行读不回来；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يمكن أن تُقرأ من الجهاز الصيغة التي يعمل بها فعلًا؛ ولا يُحسب هذا نجاحًا.</translation>
     </message>
     <message>
         <source>最先破坏位完美的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>أول مرحلة أخلّت بالمطابقة: %1.</translation>
     </message>
     <message>
         <source>最先无法证明的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>أول مرحلة لا يمكن إثباتها: %1.</translation>
     </message>
 </context>
 <context>
     <name>SelfCheckDialog</name>
     <message>
         <source>结论：位完美 ✓  </source>
-        <translation type="unfinished"></translation>
+        <translation>الحكم: مطابق بتًّا ببت ✓  </translation>
     </message>
     <message>
         <source>结论：非位完美 ✗  </source>
-        <translation type="unfinished"></translation>
+        <translation>الحكم: ليس مطابقًا بتًّا ببت ✗  </translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الذاتي للمطابقة بتًّا ببت</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>يفحص المحرك السلسلة الجاري تشغيلها مرحلةً مرحلة: المصدر وفك الترميز وإعادة أخذ العينات والمؤثرات والسرعة ومستوى الصوت والتلاشي وحماية الذروة وعمق البت والخلّاط وما يُقرأ من الجهاز ونفاد المخزن المؤقت. ويحكم بما تفعله كل مرحلة الآن فعلًا، لا بأي إعداد؛ وما لا يمكن إثباته لا يُحسب نجاحًا.</translation>
     </message>
     <message>
         <source>逐项检查的结果</source>
-        <translation type="unfinished"></translation>
+        <translation>النتائج بندًا بندًا</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ التقرير…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">معطّل</translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>检查中…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الفحص…</translation>
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الفحص الذاتي للمطابقة بتًّا ببت — %1</translation>
     </message>
     <message>
         <source>通过</source>
-        <translation type="unfinished">مطابق</translation>
+        <translation>نجح</translation>
     </message>
     <message>
         <source>未通过</source>
-        <translation type="unfinished"></translation>
+        <translation>لم ينجح</translation>
     </message>
 </context>
 <context>
     <name>SetupDialog</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">معطّل</translation>
+        <translation>إغلاق</translation>
     </message>
 </context>
 <context>
     <name>SleepControls</name>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">معطّل</translation>
+        <translation>معطّل</translation>
     </message>
     <message>
         <source>%1 分钟后</source>
-        <translation type="unfinished"></translation>
+        <translation>بعد %1 دقيقة</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم</translation>
     </message>
     <message>
         <source>到时间后用十秒淡出，然后停止</source>
-        <translation type="unfinished"></translation>
+        <translation>عند حلول الوقت يتلاشى الصوت خلال عشر ثوانٍ ثم يتوقف التشغيل</translation>
     </message>
 </context>
 <context>
     <name>SleepTimer</name>
     <message>
         <source>睡眠定时: 关</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم: معطّل</translation>
     </message>
     <message>
         <source>睡眠定时: %1 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم: %1 دقيقة</translation>
     </message>
     <message>
         <source>睡眠定时: 开始淡出(10 秒后停止)</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم: يتلاشى الصوت (يتوقف بعد 10 ثوانٍ)</translation>
     </message>
     <message>
         <source>睡眠定时: 已淡出并停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>مؤقت النوم: تلاشى الصوت وتوقف التشغيل</translation>
     </message>
 </context>
 <context>
@@ -2141,12 +2159,12 @@
     <name>SpectrumView</name>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>الطيف</translation>
     </message>
     <message>
         <source>最强频段: 左 %1, 右 %2, 共 %3</source>
         <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>أقوى نطاق: اليسار %1، اليمين %2، من أصل %3</translation>
     </message>
 </context>
 <context>
@@ -2188,114 +2206,114 @@
     <name>TitleBar</name>
     <message>
         <source>打开设置(Setup Menu)</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الإعدادات (Setup Menu)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>تصغير</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>تكبير</translation>
     </message>
     <message>
         <source>关闭窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق النافذة</translation>
     </message>
     <message>
         <source>%1：亮</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: مفعّل</translation>
     </message>
     <message>
         <source>%1：灭</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: معطّل</translation>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>استعادة</translation>
     </message>
 </context>
 <context>
     <name>ToolsMenu</name>
     <message>
         <source>扫描曲库文件夹(增量)</source>
-        <translation type="unfinished"></translation>
+        <translation>فحص مجلدات المكتبة (الجديد فقط)</translation>
     </message>
     <message>
         <source>查找重复曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث عن المكرر</translation>
     </message>
     <message>
         <source>批量编辑标签</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير الوسوم دفعة واحدة</translation>
     </message>
     <message>
         <source>智能播放列表</source>
-        <translation type="unfinished"></translation>
+        <translation>قوائم تشغيل ذكية</translation>
     </message>
     <message>
         <source>年度报告</source>
-        <translation type="unfinished"></translation>
+        <translation>تقرير السنة</translation>
     </message>
     <message>
         <source>曲目分析</source>
-        <translation type="unfinished">تحليل المقطع</translation>
+        <translation>تحليل المقطع</translation>
     </message>
     <message>
         <source>DSP 顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب DSP</translation>
     </message>
     <message>
         <source>指纹比对</source>
-        <translation type="unfinished"></translation>
+        <translation>مقارنة البصمات</translation>
     </message>
     <message>
         <source>在线补全标签</source>
-        <translation type="unfinished"></translation>
+        <translation>إكمال الوسوم من الإنترنت</translation>
     </message>
     <message>
         <source>网络曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>مكتبة الشبكة</translation>
     </message>
     <message>
         <source>手机同步</source>
-        <translation type="unfinished"></translation>
+        <translation>مزامنة الهاتف</translation>
     </message>
     <message>
         <source>插件</source>
-        <translation type="unfinished"></translation>
+        <translation>الإضافات</translation>
     </message>
     <message>
         <source>电台/网络/接力</source>
-        <translation type="unfinished"></translation>
+        <translation>المحطات/الشبكة/نقل التشغيل</translation>
     </message>
     <message>
         <source>车载模式</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع السيارة</translation>
     </message>
     <message>
         <source>网络挂载</source>
-        <translation type="unfinished"></translation>
+        <translation>وحدات الشبكة</translation>
     </message>
     <message>
         <source>校验曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من المكتبة</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح السجل</translation>
     </message>
     <message>
         <source>帮助…</source>
-        <translation type="unfinished"></translation>
+        <translation>المساعدة…</translation>
     </message>
     <message>
         <source>这个功能还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تُنجز هذه الميزة بعد؛ ستأتي في إصدار لاحق</translation>
     </message>
 </context>
 <context>
@@ -2366,26 +2384,26 @@
     <name>ValueCards</name>
     <message>
         <source>码率</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل البت</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation type="unfinished"></translation>
+        <translation>معدل العينات</translation>
     </message>
     <message>
         <source>声道</source>
-        <translation type="unfinished"></translation>
+        <translation>القنوات</translation>
     </message>
     <message>
         <source>播放次数</source>
-        <translation type="unfinished"></translation>
+        <translation>مرات التشغيل</translation>
     </message>
 </context>
 <context>
     <name>WarningCount</name>
     <message>
         <source>信号链有 %1 条警告</source>
-        <translation type="unfinished"></translation>
+        <translation>تحذيرات سلسلة الإشارة: %1</translation>
     </message>
 </context>
 </TS>

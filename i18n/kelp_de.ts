@@ -5,31 +5,31 @@
     <name>AbLoop</name>
     <message>
         <source>A/B 循环: %1 点 = %2s</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: Punkt %1 = %2s</translation>
     </message>
     <message>
         <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: Punkt B muss hinter Punkt A liegen (A=%1s, B=%2s)</translation>
     </message>
     <message>
         <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: markiert, wirkt ab dem Start der Wiedergabe (Titel wiederholen)</translation>
     </message>
     <message>
         <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: %1 → %2 läuft (Titel wird wiederholt; nach dem Löschen gilt wieder die vorige Reihenfolge)</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: gelöscht</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: gelöscht, Reihenfolge wieder: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: Der Titel hat gewechselt, die Punkte A/B des vorigen Titels wurden verworfen</translation>
     </message>
 </context>
 <context>
@@ -47,112 +47,112 @@
     <name>BitsLed</name>
     <message>
         <source>有效位数</source>
-        <translation type="unfinished"></translation>
+        <translation>Effektive Bits</translation>
     </message>
     <message>
         <source>有效位数：尚不清楚</source>
-        <translation type="unfinished"></translation>
+        <translation>Effektive Bits: noch nicht bekannt</translation>
     </message>
     <message>
         <source>未知</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>透明</source>
-        <translation type="unfinished"></translation>
+        <translation>transparent</translation>
     </message>
     <message>
         <source>位数减少</source>
-        <translation type="unfinished"></translation>
+        <translation>weniger Bits</translation>
     </message>
     <message>
         <source>用尽</source>
-        <translation type="unfinished"></translation>
+        <translation>aufgebraucht</translation>
     </message>
     <message>
         <source>%1 bit，%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Bit, %2</translation>
     </message>
 </context>
 <context>
     <name>ChainLamp</name>
     <message>
         <source>未能证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht nachgewiesen</translation>
     </message>
     <message>
         <source>非位完美</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht bitgenau</translation>
     </message>
     <message>
         <source>自检没有通过</source>
-        <translation type="unfinished"></translation>
+        <translation>der Selbsttest wurde nicht bestanden</translation>
     </message>
     <message>
         <source>不是位完美或未能证明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht bitgenau oder nicht nachgewiesen: %1</translation>
     </message>
     <message>
         <source>尚未得知</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht bekannt</translation>
     </message>
     <message>
         <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine hat die Signalkette dieses Titels noch nicht gemeldet, deshalb wird nichts behauptet.</translation>
     </message>
     <message>
         <source>位完美</source>
-        <translation type="unfinished">Bitgenau</translation>
+        <translation>Bitgenau</translation>
     </message>
 </context>
 <context>
     <name>ChainPanel</name>
     <message>
         <source>信号链</source>
-        <translation type="unfinished"></translation>
+        <translation>SIGNALKETTE</translation>
     </message>
     <message>
         <source>信号链的结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Urteil über die Signalkette</translation>
     </message>
 </context>
 <context>
     <name>ChainRow</name>
     <message>
         <source>重采样</source>
-        <translation type="unfinished"></translation>
+        <translation>Resampling</translation>
     </message>
     <message>
         <source>后端</source>
-        <translation type="unfinished"></translation>
+        <translation>Backend</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabeformat</translation>
     </message>
     <message>
         <source>延时</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz</translation>
     </message>
     <message>
         <source>音量</source>
-        <translation type="unfinished">Lautstärke</translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>变速</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
     </message>
     <message>
         <source>结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Urteil</translation>
     </message>
     <message>
         <source>链路</source>
-        <translation type="unfinished"></translation>
+        <translation>Kette</translation>
     </message>
     <message>
         <source>欠载</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterläufe</translation>
     </message>
 </context>
 <context>
@@ -182,19 +182,19 @@
     <name>CheckMarkView</name>
     <message>
         <source>等待中</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>已证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Nachgewiesen</translation>
     </message>
     <message>
         <source>已证伪</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerlegt</translation>
     </message>
     <message>
         <source>此处无法证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier nicht nachweisbar</translation>
     </message>
 </context>
 <context>
@@ -252,23 +252,24 @@
     <message>
         <source>%1
 轨 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Titel %2</translation>
     </message>
     <message>
         <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Tags aus den Angaben des Containers selbst; die lokale Bibliothek hat keine weiteren)</translation>
     </message>
     <message>
         <source>专辑: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Album: %1</translation>
     </message>
     <message>
         <source>年份: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahr: %1</translation>
     </message>
     <message>
         <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Tags aus der lokalen Bibliothek — in ISO/CUE wurde nichts geschrieben)</translation>
     </message>
 </context>
 <context>
@@ -309,15 +310,15 @@
     <name>CoverDisc</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover</translation>
     </message>
     <message>
         <source>无封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Cover</translation>
     </message>
     <message>
         <source>有封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover wird gezeigt</translation>
     </message>
 </context>
 <context>
@@ -360,7 +361,7 @@
     </message>
     <message>
         <source>总长</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesamtlänge</translation>
     </message>
 </context>
 <context>
@@ -411,109 +412,109 @@
     </message>
     <message>
         <source>播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge</translation>
     </message>
     <message>
         <source>循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
     </message>
     <message>
         <source>歌词</source>
-        <translation type="unfinished"></translation>
+        <translation>Liedtext</translation>
     </message>
     <message>
         <source>歌词还没有做好，这个按钮以后才能用</source>
-        <translation type="unfinished"></translation>
+        <translation>Liedtexte gibt es noch nicht; diese Taste wirkt erst in einer späteren Version</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Stumm</translation>
     </message>
     <message>
         <source>静音；再按一次回到原来的音量</source>
-        <translation type="unfinished"></translation>
+        <translation>Stummschalten; erneut drücken stellt die vorige Lautstärke wieder her</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge</translation>
     </message>
     <message>
         <source>曲库、标签、网络等工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Werkzeuge für Bibliothek, Tags, Netzwerk und mehr</translation>
     </message>
     <message>
         <source>播放顺序：随机</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge: zufällig</translation>
     </message>
     <message>
         <source>播放顺序：按列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge: der Reihe nach</translation>
     </message>
     <message>
         <source>循环：单曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: dieser Titel</translation>
     </message>
     <message>
         <source>循环：整个列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: die ganze Liste</translation>
     </message>
     <message>
         <source>循环：关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen: aus</translation>
     </message>
 </context>
 <context>
     <name>DspBar</name>
     <message>
         <source>实时</source>
-        <translation type="unfinished"></translation>
+        <translation>Live</translation>
     </message>
     <message>
         <source>混响</source>
-        <translation type="unfinished"></translation>
+        <translation>Hall</translation>
     </message>
     <message>
         <source>音调</source>
-        <translation type="unfinished"></translation>
+        <translation>Klang</translation>
     </message>
     <message>
         <source>平衡</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance</translation>
     </message>
     <message>
         <source>空间</source>
-        <translation type="unfinished"></translation>
+        <translation>Raum</translation>
     </message>
     <message>
         <source>降噪</source>
-        <translation type="unfinished">Entrauschen</translation>
+        <translation>Entrauschen</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Equalizer</translation>
     </message>
     <message>
         <source>这一页效果还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Effektseite gibt es noch nicht; sie kommt in einer späteren Version</translation>
     </message>
     <message>
         <source>效果正作用在听到的声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Effekte wirken auf das, was gerade zu hören ist</translation>
     </message>
     <message>
         <source>现在没有效果作用在声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Effekt wirkt gerade auf den Ton</translation>
     </message>
 </context>
 <context>
     <name>DspTab</name>
     <message>
         <source>效果已开</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Effekt ist an</translation>
     </message>
     <message>
         <source>效果已关</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Effekt ist aus</translation>
     </message>
 </context>
 <context>
@@ -945,117 +946,117 @@
     <name>HistoryStore</name>
     <message>
         <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückgängig-Verlauf der Wiedergabeliste ist beschädigt und unbrauchbar, er beginnt daher leer: %1</translation>
     </message>
     <message>
         <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückgängig-Verlauf der Wiedergabeliste passt nicht zur gespeicherten Liste, er beginnt daher leer: %1</translation>
     </message>
     <message>
         <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückgängig-Verlauf der Wiedergabeliste lässt sich nicht schreiben, nach einem Neustart gibt es nichts rückgängig zu machen: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>InstrumentPanel</name>
     <message>
         <source>左声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel links</translation>
     </message>
     <message>
         <source>右声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegel rechts</translation>
     </message>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>SPEKTRUM</translation>
     </message>
     <message>
         <source>波形</source>
-        <translation type="unfinished"></translation>
+        <translation>WELLENFORM</translation>
     </message>
 </context>
 <context>
     <name>LibraryPanel</name>
     <message>
         <source>搜索标题 / 艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel / Interpret suchen</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen</translation>
     </message>
     <message>
         <source>显示的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Angezeigt / alle</translation>
     </message>
     <message>
         <source>搜索和筛选还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen und Filtern gibt es noch nicht; sie kommen in einer späteren Version</translation>
     </message>
     <message>
         <source>曲库 · TITLE</source>
-        <translation type="unfinished"></translation>
+        <translation>BIBLIOTHEK · TITEL</translation>
     </message>
     <message>
         <source>正在播放的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielt / alle</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Interpreten</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Interpret filtern</translation>
     </message>
     <message>
         <source>全部专辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Alben</translation>
     </message>
     <message>
         <source>按专辑筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Album filtern</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished">Importieren</translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
-        <translation type="unfinished">Audiodateien ans Ende der Liste setzen</translation>
+        <translation>Setzt Audiodateien ans Ende der Liste</translation>
     </message>
     <message>
         <source>文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt die Audiodateien eines Ordners ans Ende der Liste; ohne Unterordner</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>把选中的曲目从列表移除；文件不动</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt die gewählten Titel aus der Liste; die Dateien bleiben</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>清空列表；文件不动，可以撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Leert die Liste; die Dateien bleiben, und es lässt sich rückgängig machen</translation>
     </message>
 </context>
 <context>
@@ -1069,11 +1070,11 @@
     <name>MiniCover</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover</translation>
     </message>
     <message>
         <source>在列表里显示正在播放的曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Den laufenden Titel in der Liste zeigen</translation>
     </message>
 </context>
 <context>
@@ -1099,41 +1100,41 @@
     <name>NowPlaying</name>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Titel wählen oder Audio importieren</translation>
+        <translation>Titel wählen oder Audio importieren</translation>
     </message>
 </context>
 <context>
     <name>PlayOrder</name>
     <message>
         <source>随机</source>
-        <translation type="unfinished"></translation>
+        <translation>zufällig</translation>
     </message>
     <message>
         <source>顺序</source>
-        <translation type="unfinished">der Reihe nach</translation>
+        <translation>der Reihe nach</translation>
     </message>
     <message>
         <source> · 不循环</source>
-        <translation type="unfinished"> · ohne Wiederholung</translation>
+        <translation> · ohne Wiederholung</translation>
     </message>
     <message>
         <source> · 列表循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · Liste wiederholen</translation>
     </message>
     <message>
         <source> · 单曲循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · Titel wiederholen</translation>
     </message>
 </context>
 <context>
     <name>PlaySpeed</name>
     <message>
         <source>播放速度: %1×%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabetempo: %1×%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
-        <translation type="unfinished"></translation>
+        <source> （播放中立即生效）</source>
+        <translation> (wirkt sofort, auch während der Wiedergabe)</translation>
     </message>
 </context>
 <context>
@@ -1380,239 +1381,239 @@ Wirklich beenden?</translation>
     </message>
     <message>
         <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein PCM in dieser Kette (DSD direkt) — keine Wellenform</translation>
     </message>
     <message>
         <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Spektrum auf diesem Weg: Direkt ausgegebenes DSD enthält kein PCM</translation>
     </message>
     <message>
         <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette: keine Wiedergabesitzung, daher nur der letzte Bericht.</translation>
     </message>
     <message>
         <source>保存信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette speichern</translation>
     </message>
     <message>
         <source>信号链报告已保存：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette gespeichert: %1</translation>
     </message>
     <message>
         <source>保存信号链报告失败：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette konnte nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitgenau-Selbsttest: keine Wiedergabesitzung — bitte zuerst die Wiedergabe starten (ohne Datenstrom gibt es nichts zu beurteilen)</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitgenau-Selbsttest: Die Engine wurde um eine Prüfung Punkt für Punkt gebeten</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Urteil des Bitgenau-Selbsttests: %1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Reine Standardwerte wiederhergestellt (alle Effekte aus / 1.0x / kein Überblenden / Lautstärke 100 / Anordnung und Farbschema zurückgesetzt) und Bitgenau-Selbsttest gestartet</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B-Schleife: Es läuft kein Titel, also gibt es nichts zu markieren</translation>
     </message>
     <message>
         <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiodateien übersprungen, für die dieser Player keinen Dekoder hat (MP3/AAC/OGG): %1</translation>
     </message>
     <message>
         <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien übersprungen, deren Name kein gültiges UTF-8 ist und die sich nicht öffnen lassen: %1</translation>
     </message>
     <message>
         <source>已添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel hinzugefügt (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen im Block dauerte %1 ms (%2 Titel, nur ein Layoutdurchgang)</translation>
     </message>
     <message>
         <source>没有可以添加的音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Audiodateien zum Hinzufügen</translation>
     </message>
     <message>
         <source>音频文件 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audiodateien (%1)</translation>
     </message>
     <message>
         <source>所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien (*)</translation>
     </message>
     <message>
         <source>添加文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen</translation>
     </message>
     <message>
         <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
-        <translation type="unfinished"></translation>
+        <translation>Der laufende Titel wurde aus der Liste entfernt (er spielt weiter, steht aber nicht mehr in der Liste)</translation>
     </message>
     <message>
         <source>已移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel entfernt (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>播放列表已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabeliste geleert</translation>
     </message>
     <message>
         <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Änderung ist zu groß, um sie festzuhalten, und lässt sich daher nicht rückgängig machen</translation>
     </message>
     <message>
         <source>没有可以撤销的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts rückgängig zu machen</translation>
     </message>
     <message>
         <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Rückgängig-Verlauf passt nicht zur Wiedergabeliste; nichts wurde rückgängig gemacht, der Verlauf wurde geleert</translation>
     </message>
     <message>
         <source>没有可以重做的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts wiederherzustellen</translation>
     </message>
     <message>
         <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Wiederherstellen-Verlauf passt nicht zur Wiedergabeliste; nichts wurde wiederhergestellt, der Verlauf wurde geleert</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>在文件管理器中显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Dateimanager zeigen</translation>
     </message>
     <message>
         <source>移到最前</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz nach oben</translation>
     </message>
     <message>
         <source>移到最后</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganz nach unten</translation>
     </message>
     <message>
         <source>属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigenschaften</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
     <message>
         <source>添加文件夹…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner hinzufügen …</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste leeren</translation>
     </message>
     <message>
         <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dateimanager hat geantwortet, stattdessen wird der Ordner geöffnet: %1</translation>
     </message>
     <message>
         <source>打不开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ordner lässt sich nicht öffnen: %1</translation>
     </message>
     <message>
         <source>曲目属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Titeleigenschaften</translation>
     </message>
     <message>
         <source>播放列表已恢复: %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiedergabeliste wiederhergestellt: %1 Titel</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gespielt: Titel %1 — %2</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Zuletzt gespielt: Titel %1</translation>
     </message>
     <message>
         <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel beim Wiederherstellen der Wiedergabeliste übersprungen (Datei nicht mehr da)</translation>
     </message>
     <message>
         <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
-        <translation type="unfinished"></translation>
+        <translation>Offline-Modus ist an: %1 abgelehnt (Offline-Modus in den Einstellungen abschaltbar)</translation>
     </message>
     <message>
         <source>手机遥控(监听端口)</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung (lauschender Port)</translation>
     </message>
     <message>
         <source>手机遥控：已关闭（端口不再监听）</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung: aus (der Port lauscht nicht mehr)</translation>
     </message>
     <message>
         <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung: Anfrage ohne gültiges Token abgewiesen (%1)</translation>
     </message>
     <message>
         <source>手机遥控：无法监听端口 %1（%2）</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung: Port %1 lässt sich nicht öffnen (%2)</translation>
     </message>
     <message>
         <source>手机遥控：已打开，端口 %1，令牌 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung: an, Port %1, Token %2</translation>
     </message>
     <message>
         <source>手机遥控地址：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse der Handy-Fernbedienung: %1</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung: Breite der Seitenspalte %1 liegt außerhalb des Bereichs und wurde auf %2 px begrenzt</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung: Breite der Seitenspalte %1 px</translation>
     </message>
     <message>
         <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
-        <translation type="unfinished"></translation>
+        <translation>Anordnung zurückgesetzt (Fenstergröße/Position/Breite der Seitenspalte)</translation>
     </message>
     <message>
         <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Fensterposition: Der gespeicherte Eintrag ist unlesbar, daher gilt die Standardgröße</translation>
     </message>
     <message>
         <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
-        <translation type="unfinished"></translation>
+        <translation>Fensterposition: Der frühere Bildschirm fehlt, das Fenster steht jetzt mitten auf dem Hauptbildschirm</translation>
     </message>
     <message>
         <source>曲库里找不到正在播放的这一首</source>
-        <translation type="unfinished"></translation>
+        <translation>Der laufende Titel steht nicht in der Bibliotheksliste</translation>
     </message>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
     </message>
     <message>
         <source>## 播放
@@ -1632,110 +1633,126 @@ Wirklich beenden?</translation>
 
 右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
 </source>
-        <translation type="unfinished"></translation>
+        <translation>## Wiedergabe
+
+Ziehen Sie Dateien oder Ordner ins Fenster und doppelklicken Sie auf eine Zeile, um sie abzuspielen. Während der Wiedergabe lässt sich nicht springen: Eine Position wird nur am Anfang eines Titels angefahren.
+
+## Tastatur
+
+- **Leertaste** Wiedergabe / Pause
+- **Strg+→** nächster Titel, **Strg+←** voriger Titel
+- **Strg+↑ / Strg+↓** Lautstärke
+- **Strg+Leertaste** Stopp, **Strg+O** Dateien importieren, **F11** maximieren / wiederherstellen
+- **Strg+,** Einstellungen
+- In der Liste: **Eingabe** spielt ab, **Entf** entfernt, **Strg+Z** macht rückgängig, **Strg+Umschalt+Z** stellt wieder her
+
+## Bitgenau
+
+Die rechte Spalte sagt, was die Samples durchlaufen. Nur wenn zurückgelesen wurde, was beim Gerät ankam, heißt es dort “Übergabe verifiziert”. Der “Bitgenau-Selbsttest” prüft jede Stufe.
+</translation>
     </message>
     <message>
         <source>日志文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolldatei: %1</translation>
     </message>
     <message>
         <source>设置文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungsdatei: %1</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>正在等待波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf die Wellenform</translation>
     </message>
     <message>
         <source>示波器已关闭，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Oszilloskop ist aus: keine Wellenform</translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitgenau-Selbsttest</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüft Punkt für Punkt, ob die laufende Wiedergabe die Samples verändert</translation>
     </message>
     <message>
         <source>信号链报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette …</translation>
     </message>
     <message>
         <source>显示引擎自己对信号链的报告，可以保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigt den Bericht der Engine selbst über die Signalkette; er lässt sich speichern</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer</translation>
     </message>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung</translation>
     </message>
     <message>
         <source>日志面板已清空；日志文件保留</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Protokollfenster wurde geleert; die Protokolldatei bleibt</translation>
     </message>
     <message>
         <source>浅色</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>深色</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>主题: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Farbschema: %1</translation>
     </message>
     <message>
         <source>跟随系统（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie das System (%1)</translation>
     </message>
     <message>
         <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Cover hat keine brauchbare Hauptfarbe (reines Schwarz/Grau/Weiß) ⇒ die Akzentfarbe bleibt, wie Sie sie gewählt haben</translation>
     </message>
     <message>
         <source>强调色跟随封面: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Akzentfarbe folgt dem Cover: %1</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Titel wählen oder Audio importieren</translation>
+        <translation>Titel wählen oder Audio importieren</translation>
     </message>
 </context>
 <context>
     <name>PlaylistChange</name>
     <message>
         <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hinzufügen rückgängig gemacht: %1 Titel (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernte Titel wieder da: %1 (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>已恢复原来的播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Die vorige Reihenfolge gilt wieder</translation>
     </message>
     <message>
         <source>已重新添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel wieder hinzugefügt (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>已重新移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel wieder entfernt (Liste jetzt: %2)</translation>
     </message>
     <message>
         <source>已重新调整播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Reihenfolge wurde erneut geändert</translation>
     </message>
 </context>
 <context>
@@ -1757,11 +1774,11 @@ Wirklich beenden?</translation>
     <name>ProgressDial</name>
     <message>
         <source>播放进度</source>
-        <translation type="unfinished">Wiedergabefortschritt</translation>
+        <translation>Wiedergabefortschritt</translation>
     </message>
     <message>
         <source>只显示进度：播放中不能跳转</source>
-        <translation type="unfinished">Zeigt nur den Fortschritt: Springen während der Wiedergabe geht nicht</translation>
+        <translation>Zeigt nur den Fortschritt: Springen während der Wiedergabe geht nicht</translation>
     </message>
 </context>
 <context>
@@ -1791,331 +1808,332 @@ Wirklich beenden?</translation>
     </message>
     <message>
         <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Anfang der Schleife: markiert die jetzige Position. Sind A und B gesetzt, beginnt die Schleife; erneut drücken löscht sie</translation>
     </message>
     <message>
         <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende der Schleife: markiert die jetzige Position. Sind A und B gesetzt, beginnt die Schleife; erneut drücken löscht sie</translation>
     </message>
 </context>
 <context>
     <name>RemoteControls</name>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung</translation>
     </message>
     <message>
         <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Handy im selben WLAN steuert die Wiedergabe über den Browser; solange das an ist, lauscht dieser Rechner auf einem Port</translation>
     </message>
     <message>
         <source>端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Port, auf dem die Handy-Fernbedienung lauscht; gelesen wird er in dem Moment, in dem der Schalter eingeschaltet wird</translation>
     </message>
     <message>
         <source>手机遥控端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Port der Handy-Fernbedienung</translation>
     </message>
     <message>
         <source>手机遥控地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen der Handy-Fernbedienung</translation>
     </message>
     <message>
         <source>本机没有局域网 IPv4 地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Rechner hat keine IPv4-Adresse im lokalen Netz</translation>
     </message>
     <message>
         <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Browser des Handys öffnen (im selben WLAN wie der Rechner):
+%1</translation>
     </message>
     <message>
         <source>手机遥控：已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Fernbedienung: aus</translation>
     </message>
 </context>
 <context>
     <name>ReportDialog</name>
     <message>
         <source>信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht zur Signalkette</translation>
     </message>
     <message>
         <source>再取一次</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut abfragen</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht speichern …</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>RowProperties</name>
     <message>
         <source>类型: 网络电台</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: Internetradio</translation>
     </message>
     <message>
         <source>类型: CUE 分轨, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: Titel %1 eines CUE-Sheets</translation>
     </message>
     <message>
         <source>类型: SACD 镜像, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: Titel %1 eines SACD-Images</translation>
     </message>
     <message>
         <source>类型: 容器里的第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: Titel %1 eines Containers</translation>
     </message>
     <message>
         <source>类型: 音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Art: Audiodatei</translation>
     </message>
     <message>
         <source>显示: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Anzeige: %1</translation>
     </message>
     <message>
         <source>位置: 第 %1/%2 项</source>
-        <translation type="unfinished"></translation>
+        <translation>Platz: Eintrag %1/%2</translation>
     </message>
     <message>
         <source>格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Format: %1</translation>
     </message>
     <message>
         <source>文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei: %1</translation>
     </message>
     <message>
         <source>CUE 表: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CUE-Sheet: %1</translation>
     </message>
     <message>
         <source>时间: %1 s → %2 s (长 %3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeit: %1 s → %2 s (Länge %3 s)</translation>
     </message>
 </context>
 <context>
     <name>ScopeView</name>
     <message>
         <source>示波器</source>
-        <translation type="unfinished"></translation>
+        <translation>Oszilloskop</translation>
     </message>
     <message>
         <source>未播放，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Wiedergabe: keine Wellenform</translation>
     </message>
     <message>
         <source>最大振幅: 左 %1%, 右 %2%</source>
         <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Größte Amplitude: links %1 %, rechts %2 %</translation>
     </message>
 </context>
 <context>
     <name>SegmentMeter</name>
     <message>
         <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
-        <translation type="unfinished"></translation>
+        <translation>Spitzenpegel dieses Kanals am Ausgang (dBFS): Die Engine meldet ihn 20-mal je Sekunde mit 0,01 dB Auflösung, Untergrenze −120 dB (darunter steht −∞ dB); bei 0 dBFS bleibt er 1,5 s rot (Verdacht auf Übersteuerung)</translation>
     </message>
 </context>
 <context>
     <name>SelfCheck</name>
     <message>
         <source>源是否无损</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist die Quelle verlustfrei?</translation>
     </message>
     <message>
         <source>正在等待引擎回答。</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf die Antwort der Engine.</translation>
     </message>
     <message>
         <source>源是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quelle ist verlustfrei</translation>
     </message>
     <message>
         <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kodierung gibt jedes Sample zurück, das hineinging; nichts wurde verworfen.</translation>
     </message>
     <message>
         <source>源不是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Quelle ist nicht verlustfrei</translation>
     </message>
     <message>
         <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält nicht mehr alle ursprünglichen Samples, und keine spätere Stufe kann sie zurückbringen.</translation>
     </message>
     <message>
         <source>源是否无损无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob die Quelle verlustfrei ist, ist nicht bekannt</translation>
     </message>
     <message>
         <source>引擎没有给出能证明的依据；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine lieferte nichts, was es nachweisen würde; das gilt nicht als bestanden.</translation>
     </message>
     <message>
         <source>通路有没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist der Weg unverändert?</translation>
     </message>
     <message>
         <source>通路没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg ist unverändert</translation>
     </message>
     <message>
         <source>从文件到设备之间，没有任何环节改动过采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Datei und Gerät hat keine Stufe ein Sample verändert.</translation>
     </message>
     <message>
         <source>通路有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Weg ist verändert</translation>
     </message>
     <message>
         <source>从文件到设备之间，有环节改动了采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Zwischen Datei und Gerät verändert eine Stufe die Samples.</translation>
     </message>
     <message>
         <source>通路有没有改动无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob der Weg unverändert ist, ist nicht bekannt</translation>
     </message>
     <message>
         <source>交付是否核实</source>
-        <translation type="unfinished"></translation>
+        <translation>Ist die Übergabe verifiziert?</translation>
     </message>
     <message>
         <source>交付已核实</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Übergabe ist verifiziert</translation>
     </message>
     <message>
         <source>设备按要求打开，读回的格式与送出的一致。</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Gerät wurde wie verlangt geöffnet, und das zurückgelesene Format gleicht dem gesendeten.</translation>
     </message>
     <message>
         <source>交付有出入</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Übergabe weicht ab</translation>
     </message>
     <message>
         <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Gerät kam nicht an, was gesendet wurde, oder eine weitere Stufe liegt auf dem Weg.</translation>
     </message>
     <message>
         <source>交付无法核实</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Übergabe lässt sich nicht verifizieren</translation>
     </message>
     <message>
         <source>设备实际以什么格式运行读不回来；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit das Gerät wirklich läuft, lässt sich nicht zurücklesen; das gilt nicht als bestanden.</translation>
     </message>
     <message>
         <source>最先破坏位完美的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Stufe, die die Bitgenauigkeit bricht: %1.</translation>
     </message>
     <message>
         <source>最先无法证明的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Erste Stufe, die sich nicht nachweisen lässt: %1.</translation>
     </message>
 </context>
 <context>
     <name>SelfCheckDialog</name>
     <message>
         <source>结论：位完美 ✓  </source>
-        <translation type="unfinished"></translation>
+        <translation>Urteil: bitgenau ✓  </translation>
     </message>
     <message>
         <source>结论：非位完美 ✗  </source>
-        <translation type="unfinished"></translation>
+        <translation>Urteil: nicht bitgenau ✗  </translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitgenau-Selbsttest</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Engine prüft die laufende Kette Stufe für Stufe: Quelle, Dekodierung, Resampling, Effekte, Tempo, Lautstärke, Blenden, Spitzenschutz, Bittiefe, Mischer, das vom Gerät Zurückgelesene und Pufferunterläufe. Sie urteilt danach, was jede Stufe jetzt wirklich tut, nie nach einer Einstellung; was sich nicht nachweisen lässt, gilt nicht als bestanden.</translation>
     </message>
     <message>
         <source>逐项检查的结果</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnisse, Punkt für Punkt</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bericht speichern …</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>检查中…</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung läuft …</translation>
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitgenau-Selbsttest — %1</translation>
     </message>
     <message>
         <source>通过</source>
-        <translation type="unfinished">bestanden</translation>
+        <translation>bestanden</translation>
     </message>
     <message>
         <source>未通过</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht bestanden</translation>
     </message>
 </context>
 <context>
     <name>SetupDialog</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
     <name>SleepControls</name>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>%1 分钟后</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach %1 Minuten</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer</translation>
     </message>
     <message>
         <source>到时间后用十秒淡出，然后停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Blendet nach Ablauf der Zeit über zehn Sekunden aus und stoppt dann</translation>
     </message>
 </context>
 <context>
     <name>SleepTimer</name>
     <message>
         <source>睡眠定时: 关</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer: aus</translation>
     </message>
     <message>
         <source>睡眠定时: %1 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer: %1 min</translation>
     </message>
     <message>
         <source>睡眠定时: 开始淡出(10 秒后停止)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer: wird ausgeblendet (Stopp in 10 Sekunden)</translation>
     </message>
     <message>
         <source>睡眠定时: 已淡出并停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Einschlaftimer: ausgeblendet und gestoppt</translation>
     </message>
 </context>
 <context>
@@ -2141,12 +2159,12 @@ Wirklich beenden?</translation>
     <name>SpectrumView</name>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>Spektrum</translation>
     </message>
     <message>
         <source>最强频段: 左 %1, 右 %2, 共 %3</source>
         <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Lautestes Band: links %1, rechts %2, von %3</translation>
     </message>
 </context>
 <context>
@@ -2188,114 +2206,114 @@ Für absichtlich mehrere bitte KELP_GUI_ALLOW_MULTI=1 setzen</translation>
     <name>TitleBar</name>
     <message>
         <source>打开设置(Setup Menu)</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen (Setup Menu)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximieren</translation>
     </message>
     <message>
         <source>关闭窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster schließen</translation>
     </message>
     <message>
         <source>%1：亮</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: an</translation>
     </message>
     <message>
         <source>%1：灭</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: aus</translation>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederherstellen</translation>
     </message>
 </context>
 <context>
     <name>ToolsMenu</name>
     <message>
         <source>扫描曲库文件夹(增量)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliotheksordner einlesen (inkrementell)</translation>
     </message>
     <message>
         <source>查找重复曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelte Titel suchen</translation>
     </message>
     <message>
         <source>批量编辑标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags im Stapel bearbeiten</translation>
     </message>
     <message>
         <source>智能播放列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Intelligente Wiedergabelisten</translation>
     </message>
     <message>
         <source>年度报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Jahresbericht</translation>
     </message>
     <message>
         <source>曲目分析</source>
-        <translation type="unfinished">Titelanalyse</translation>
+        <translation>Titelanalyse</translation>
     </message>
     <message>
         <source>DSP 顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>DSP-Reihenfolge</translation>
     </message>
     <message>
         <source>指纹比对</source>
-        <translation type="unfinished"></translation>
+        <translation>Fingerabdrücke vergleichen</translation>
     </message>
     <message>
         <source>在线补全标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Tags online ergänzen</translation>
     </message>
     <message>
         <source>网络曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerkbibliothek</translation>
     </message>
     <message>
         <source>手机同步</source>
-        <translation type="unfinished"></translation>
+        <translation>Handy-Abgleich</translation>
     </message>
     <message>
         <source>插件</source>
-        <translation type="unfinished"></translation>
+        <translation>Erweiterungen</translation>
     </message>
     <message>
         <source>电台/网络/接力</source>
-        <translation type="unfinished"></translation>
+        <translation>Sender/Netzwerk/Weitergabe</translation>
     </message>
     <message>
         <source>车载模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrzeugmodus</translation>
     </message>
     <message>
         <source>网络挂载</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzlaufwerke</translation>
     </message>
     <message>
         <source>校验曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothek prüfen</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokoll leeren</translation>
     </message>
     <message>
         <source>帮助…</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe …</translation>
     </message>
     <message>
         <source>这个功能还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Funktion gibt es noch nicht; sie kommt in einer späteren Version</translation>
     </message>
 </context>
 <context>
@@ -2366,26 +2384,26 @@ Tonart: %2</translation>
     <name>ValueCards</name>
     <message>
         <source>码率</source>
-        <translation type="unfinished"></translation>
+        <translation>BITRATE</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation type="unfinished"></translation>
+        <translation>ABTASTRATE</translation>
     </message>
     <message>
         <source>声道</source>
-        <translation type="unfinished"></translation>
+        <translation>KANÄLE</translation>
     </message>
     <message>
         <source>播放次数</source>
-        <translation type="unfinished"></translation>
+        <translation>GESPIELT</translation>
     </message>
 </context>
 <context>
     <name>WarningCount</name>
     <message>
         <source>信号链有 %1 条警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Warnungen in der Signalkette: %1</translation>
     </message>
 </context>
 </TS>

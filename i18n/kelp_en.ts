@@ -1133,7 +1133,7 @@ Track %2</translation>
         <translation>Playback speed: %1×%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
+        <source> （播放中立即生效）</source>
         <translation> (applied immediately while playing)</translation>
     </message>
 </context>

@@ -5,31 +5,31 @@
     <name>AbLoop</name>
     <message>
         <source>A/B 循环: %1 点 = %2s</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: punto %1 = %2s</translation>
     </message>
     <message>
         <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: el punto B debe ir después del punto A (A=%1s, B=%2s)</translation>
     </message>
     <message>
         <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: marcado, se aplicará al empezar la reproducción (repetición de la pista)</translation>
     </message>
     <message>
         <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: %1 → %2 en marcha (repetición de la pista; al borrarlo vuelve el orden de reproducción anterior)</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: borrado</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: borrado, orden de reproducción restablecido: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: cambió la pista, los puntos A/B de la anterior se han descartado</translation>
     </message>
 </context>
 <context>
@@ -47,112 +47,112 @@
     <name>BitsLed</name>
     <message>
         <source>有效位数</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits efectivos</translation>
     </message>
     <message>
         <source>有效位数：尚不清楚</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits efectivos: aún no se conocen</translation>
     </message>
     <message>
         <source>未知</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocidos</translation>
     </message>
     <message>
         <source>透明</source>
-        <translation type="unfinished"></translation>
+        <translation>transparente</translation>
     </message>
     <message>
         <source>位数减少</source>
-        <translation type="unfinished"></translation>
+        <translation>menos bits</translation>
     </message>
     <message>
         <source>用尽</source>
-        <translation type="unfinished"></translation>
+        <translation>agotados</translation>
     </message>
     <message>
         <source>%1 bit，%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bits, %2</translation>
     </message>
 </context>
 <context>
     <name>ChainLamp</name>
     <message>
         <source>未能证明</source>
-        <translation type="unfinished"></translation>
+        <translation>No demostrado</translation>
     </message>
     <message>
         <source>非位完美</source>
-        <translation type="unfinished"></translation>
+        <translation>No bit-perfect</translation>
     </message>
     <message>
         <source>自检没有通过</source>
-        <translation type="unfinished"></translation>
+        <translation>la autocomprobación no se superó</translation>
     </message>
     <message>
         <source>不是位完美或未能证明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>No bit-perfect, o no demostrado: %1</translation>
     </message>
     <message>
         <source>尚未得知</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se sabe</translation>
     </message>
     <message>
         <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
-        <translation type="unfinished"></translation>
+        <translation>El motor todavía no ha informado de la cadena de señal de esta pista, así que no se afirma nada.</translation>
     </message>
     <message>
         <source>位完美</source>
-        <translation type="unfinished">Bit-perfect</translation>
+        <translation>Bit-perfect</translation>
     </message>
 </context>
 <context>
     <name>ChainPanel</name>
     <message>
         <source>信号链</source>
-        <translation type="unfinished"></translation>
+        <translation>CADENA</translation>
     </message>
     <message>
         <source>信号链的结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto sobre la cadena de señal</translation>
     </message>
 </context>
 <context>
     <name>ChainRow</name>
     <message>
         <source>重采样</source>
-        <translation type="unfinished"></translation>
+        <translation>Remuestreo</translation>
     </message>
     <message>
         <source>后端</source>
-        <translation type="unfinished"></translation>
+        <translation>Backend</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de salida</translation>
     </message>
     <message>
         <source>延时</source>
-        <translation type="unfinished"></translation>
+        <translation>Latencia</translation>
     </message>
     <message>
         <source>音量</source>
-        <translation type="unfinished">Volumen</translation>
+        <translation>Volumen</translation>
     </message>
     <message>
         <source>变速</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
     </message>
     <message>
         <source>结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto</translation>
     </message>
     <message>
         <source>链路</source>
-        <translation type="unfinished"></translation>
+        <translation>Cadena</translation>
     </message>
     <message>
         <source>欠载</source>
-        <translation type="unfinished"></translation>
+        <translation>Búfer vacío</translation>
     </message>
 </context>
 <context>
@@ -182,19 +182,19 @@
     <name>CheckMarkView</name>
     <message>
         <source>等待中</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>已证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Demostrado</translation>
     </message>
     <message>
         <source>已证伪</source>
-        <translation type="unfinished"></translation>
+        <translation>Refutado</translation>
     </message>
     <message>
         <source>此处无法证明</source>
-        <translation type="unfinished"></translation>
+        <translation>No demostrable aquí</translation>
     </message>
 </context>
 <context>
@@ -252,23 +252,24 @@
     <message>
         <source>%1
 轨 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Pista %2</translation>
     </message>
     <message>
         <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
-        <translation type="unfinished"></translation>
+        <translation>(etiquetas tomadas del propio contenedor; la biblioteca local no tiene otras)</translation>
     </message>
     <message>
         <source>专辑: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Álbum: %1</translation>
     </message>
     <message>
         <source>年份: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Año: %1</translation>
     </message>
     <message>
         <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
-        <translation type="unfinished"></translation>
+        <translation>(etiquetas tomadas de la biblioteca local — no se ha escrito nada en la ISO/CUE)</translation>
     </message>
 </context>
 <context>
@@ -309,15 +310,15 @@
     <name>CoverDisc</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Carátula</translation>
     </message>
     <message>
         <source>无封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin carátula</translation>
     </message>
     <message>
         <source>有封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestra una carátula</translation>
     </message>
 </context>
 <context>
@@ -360,7 +361,7 @@
     </message>
     <message>
         <source>总长</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración total</translation>
     </message>
 </context>
 <context>
@@ -411,109 +412,109 @@
     </message>
     <message>
         <source>播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de reproducción</translation>
     </message>
     <message>
         <source>循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetición</translation>
     </message>
     <message>
         <source>歌词</source>
-        <translation type="unfinished"></translation>
+        <translation>Letra</translation>
     </message>
     <message>
         <source>歌词还没有做好，这个按钮以后才能用</source>
-        <translation type="unfinished"></translation>
+        <translation>Las letras aún no están listas; este botón servirá en una versión posterior</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Silenciar</translation>
     </message>
     <message>
         <source>静音；再按一次回到原来的音量</source>
-        <translation type="unfinished"></translation>
+        <translation>Silenciar; pulse otra vez para volver al volumen anterior</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas</translation>
     </message>
     <message>
         <source>曲库、标签、网络等工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Herramientas para la biblioteca, las etiquetas, la red y más</translation>
     </message>
     <message>
         <source>播放顺序：随机</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de reproducción: aleatorio</translation>
     </message>
     <message>
         <source>播放顺序：按列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de reproducción: en orden</translation>
     </message>
     <message>
         <source>循环：单曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetición: esta pista</translation>
     </message>
     <message>
         <source>循环：整个列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetición: toda la lista</translation>
     </message>
     <message>
         <source>循环：关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Repetición: desactivada</translation>
     </message>
 </context>
 <context>
     <name>DspBar</name>
     <message>
         <source>实时</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo real</translation>
     </message>
     <message>
         <source>混响</source>
-        <translation type="unfinished"></translation>
+        <translation>Reverb</translation>
     </message>
     <message>
         <source>音调</source>
-        <translation type="unfinished"></translation>
+        <translation>Tono</translation>
     </message>
     <message>
         <source>平衡</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance</translation>
     </message>
     <message>
         <source>空间</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio</translation>
     </message>
     <message>
         <source>降噪</source>
-        <translation type="unfinished">Reducción de ruido</translation>
+        <translation>Antirruido</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecualizador</translation>
     </message>
     <message>
         <source>这一页效果还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta página de efectos aún no está lista; llegará en una versión posterior</translation>
     </message>
     <message>
         <source>效果正作用在听到的声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Los efectos actúan sobre lo que se oye ahora</translation>
     </message>
     <message>
         <source>现在没有效果作用在声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún efecto actúa ahora sobre el sonido</translation>
     </message>
 </context>
 <context>
     <name>DspTab</name>
     <message>
         <source>效果已开</source>
-        <translation type="unfinished"></translation>
+        <translation>El efecto está activado</translation>
     </message>
     <message>
         <source>效果已关</source>
-        <translation type="unfinished"></translation>
+        <translation>El efecto está desactivado</translation>
     </message>
 </context>
 <context>
@@ -945,117 +946,117 @@
     <name>HistoryStore</name>
     <message>
         <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El historial de deshacer de la lista de reproducción está dañado y no se puede usar, así que empieza vacío: %1</translation>
     </message>
     <message>
         <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>El historial de deshacer de la lista de reproducción no concuerda con la lista guardada, así que empieza vacío: %1</translation>
     </message>
     <message>
         <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir el historial de deshacer de la lista de reproducción; tras reiniciar no habrá nada que deshacer: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>InstrumentPanel</name>
     <message>
         <source>左声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel izquierdo</translation>
     </message>
     <message>
         <source>右声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Nivel derecho</translation>
     </message>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>ESPECTRO</translation>
     </message>
     <message>
         <source>波形</source>
-        <translation type="unfinished"></translation>
+        <translation>ONDA</translation>
     </message>
 </context>
 <context>
     <name>LibraryPanel</name>
     <message>
         <source>搜索标题 / 艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar título / artista</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>显示的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostradas / todas</translation>
     </message>
     <message>
         <source>搜索和筛选还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>La búsqueda y los filtros aún no están listos; llegarán en una versión posterior</translation>
     </message>
     <message>
         <source>曲库 · TITLE</source>
-        <translation type="unfinished"></translation>
+        <translation>BIBLIOTECA · TÍTULO</translation>
     </message>
     <message>
         <source>正在播放的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>En reproducción / todas</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los artistas</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar por artista</translation>
     </message>
     <message>
         <source>全部专辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los álbumes</translation>
     </message>
     <message>
         <source>按专辑筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar por álbum</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished">Importar</translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
-        <translation type="unfinished">Añadir archivos de audio al final de la lista</translation>
+        <translation>Añade archivos de audio al final de la lista</translation>
     </message>
     <message>
         <source>文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade los archivos de audio de una carpeta al final de la lista, sin entrar en sus subcarpetas</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>把选中的曲目从列表移除；文件不动</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita de la lista las pistas elegidas; los archivos se conservan</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar</translation>
     </message>
     <message>
         <source>清空列表；文件不动，可以撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Vacía la lista; los archivos se conservan y se puede deshacer</translation>
     </message>
 </context>
 <context>
@@ -1069,11 +1070,11 @@
     <name>MiniCover</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Carátula</translation>
     </message>
     <message>
         <source>在列表里显示正在播放的曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en la lista la pista que suena</translation>
     </message>
 </context>
 <context>
@@ -1099,41 +1100,41 @@
     <name>NowPlaying</name>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Elija una pista o importe audio</translation>
+        <translation>Elija una pista o importe audio</translation>
     </message>
 </context>
 <context>
     <name>PlayOrder</name>
     <message>
         <source>随机</source>
-        <translation type="unfinished"></translation>
+        <translation>aleatorio</translation>
     </message>
     <message>
         <source>顺序</source>
-        <translation type="unfinished">en orden</translation>
+        <translation>en orden</translation>
     </message>
     <message>
         <source> · 不循环</source>
-        <translation type="unfinished"> · sin repetición</translation>
+        <translation> · sin repetición</translation>
     </message>
     <message>
         <source> · 列表循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · repetir la lista</translation>
     </message>
     <message>
         <source> · 单曲循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · repetir la pista</translation>
     </message>
 </context>
 <context>
     <name>PlaySpeed</name>
     <message>
         <source>播放速度: %1×%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de reproducción: %1×%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
-        <translation type="unfinished"></translation>
+        <source> （播放中立即生效）</source>
+        <translation> (efecto inmediato, también durante la reproducción)</translation>
     </message>
 </context>
 <context>
@@ -1380,239 +1381,239 @@
     </message>
     <message>
         <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay PCM en esta cadena (DSD directo) — no hay forma de onda</translation>
     </message>
     <message>
         <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay espectro en esta ruta: el DSD directo no contiene PCM</translation>
     </message>
     <message>
         <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de la cadena de señal: no hay sesión de reproducción, solo se muestra el último informe.</translation>
     </message>
     <message>
         <source>保存信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el informe de la cadena de señal</translation>
     </message>
     <message>
         <source>信号链报告已保存：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de la cadena de señal guardado: %1</translation>
     </message>
     <message>
         <source>保存信号链报告失败：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo guardar el informe de la cadena de señal: %1</translation>
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation type="unfinished"></translation>
+        <translation>Autocomprobación bit-perfect: no hay sesión de reproducción — inicie antes la reproducción (sin flujo no hay nada que juzgar)</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation type="unfinished"></translation>
+        <translation>Autocomprobación bit-perfect: se ha pedido al motor una comprobación punto por punto</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto de la autocomprobación bit-perfect: %1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Valores puros restablecidos (todos los efectos desactivados / 1.0x / sin fundido cruzado / volumen 100 / disposición y tema iniciales) y autocomprobación bit-perfect iniciada</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de reproducción: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
-        <translation type="unfinished"></translation>
+        <translation>Bucle A/B: no se reproduce ninguna pista, así que no hay nada que marcar</translation>
     </message>
     <message>
         <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de audio omitidos, porque este reproductor no tiene decodificador para ellos (MP3/AAC/OGG): %1</translation>
     </message>
     <message>
         <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos omitidos, porque su nombre no es UTF-8 válido y no se pueden abrir: %1</translation>
     </message>
     <message>
         <source>已添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas añadidas: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadirlas en bloque tardó %1 ms (%2 pistas, un solo cálculo de disposición)</translation>
     </message>
     <message>
         <source>没有可以添加的音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay archivos de audio que añadir</translation>
     </message>
     <message>
         <source>音频文件 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de audio (%1)</translation>
     </message>
     <message>
         <source>所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos (*)</translation>
     </message>
     <message>
         <source>添加文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta</translation>
     </message>
     <message>
         <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
-        <translation type="unfinished"></translation>
+        <translation>La pista que suena se ha quitado de la lista (el sonido sigue, pero ya no está en ella)</translation>
     </message>
     <message>
         <source>已移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas quitadas: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>播放列表已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de reproducción vaciada</translation>
     </message>
     <message>
         <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Este cambio es demasiado grande para guardarlo, así que no se puede deshacer</translation>
     </message>
     <message>
         <source>没有可以撤销的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que deshacer</translation>
     </message>
     <message>
         <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>El historial de deshacer no concuerda con la lista de reproducción; no se deshizo nada y el historial se vació</translation>
     </message>
     <message>
         <source>没有可以重做的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que rehacer</translation>
     </message>
     <message>
         <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>El historial de rehacer no concuerda con la lista de reproducción; no se rehízo nada y el historial se vació</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>在文件管理器中显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en el gestor de archivos</translation>
     </message>
     <message>
         <source>移到最前</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover al principio</translation>
     </message>
     <message>
         <source>移到最后</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover al final</translation>
     </message>
     <message>
         <source>属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
     </message>
     <message>
         <source>添加文件夹…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir carpeta…</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar la lista</translation>
     </message>
     <message>
         <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún gestor de archivos respondió, así que se abre la carpeta: %1</translation>
     </message>
     <message>
         <source>打不开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede abrir la carpeta: %1</translation>
     </message>
     <message>
         <source>曲目属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Propiedades de la pista</translation>
     </message>
     <message>
         <source>播放列表已恢复: %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de reproducción restaurada, pistas: %1</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Última reproducción: pista %1 — %2</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Última reproducción: pista %1</translation>
     </message>
     <message>
         <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas omitidas al restaurar la lista de reproducción (el archivo ya no existe): %1</translation>
     </message>
     <message>
         <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
-        <translation type="unfinished"></translation>
+        <translation>El modo sin conexión está activado, acción rechazada: %1 (desactive ese modo en los ajustes)</translation>
     </message>
     <message>
         <source>手机遥控(监听端口)</source>
-        <translation type="unfinished"></translation>
+        <translation>mando desde el teléfono (puerto a la escucha)</translation>
     </message>
     <message>
         <source>手机遥控：已关闭（端口不再监听）</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono: desactivado (el puerto ya no está a la escucha)</translation>
     </message>
     <message>
         <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono: se rechazó una petición sin el token correcto (%1)</translation>
     </message>
     <message>
         <source>手机遥控：无法监听端口 %1（%2）</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono: no se puede escuchar en el puerto %1 (%2)</translation>
     </message>
     <message>
         <source>手机遥控：已打开，端口 %1，令牌 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono: activado, puerto %1, token %2</translation>
     </message>
     <message>
         <source>手机遥控地址：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección del mando desde el teléfono: %1</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición: el ancho lateral %1 está fuera de rango y se ha ajustado a %2 px</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición: ancho lateral %1 px</translation>
     </message>
     <message>
         <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposición restablecida (tamaño y posición de la ventana, ancho lateral)</translation>
     </message>
     <message>
         <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de la ventana: no se puede leer el dato guardado, se usa el tamaño predeterminado</translation>
     </message>
     <message>
         <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición de la ventana: su pantalla ya no está, así que se ha movido al centro de la pantalla principal</translation>
     </message>
     <message>
         <source>曲库里找不到正在播放的这一首</source>
-        <translation type="unfinished"></translation>
+        <translation>La pista que suena no está en la lista de la biblioteca</translation>
     </message>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>## 播放
@@ -1632,110 +1633,126 @@
 
 右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
 </source>
-        <translation type="unfinished"></translation>
+        <translation>## Reproducción
+
+Arrastre archivos o carpetas a la ventana y haga doble clic en una fila para reproducirla. No se puede saltar durante la reproducción: a una posición solo se llega al empezar una pista.
+
+## Teclado
+
+- **Espacio** reproducir / pausa
+- **Ctrl+→** pista siguiente, **Ctrl+←** pista anterior
+- **Ctrl+↑ / Ctrl+↓** volumen
+- **Ctrl+Espacio** detener, **Ctrl+O** importar archivos, **F11** maximizar / restaurar
+- **Ctrl+,** ajustes
+- En la lista: **Intro** reproduce, **Supr** quita, **Ctrl+Z** deshace, **Ctrl+Mayús+Z** rehace
+
+## Bit-perfect
+
+La columna derecha dice por dónde pasan las muestras. Solo dice “entrega verificada” cuando se ha leído de vuelta lo que recibió el dispositivo. La “Autocomprobación bit-perfect” examina cada etapa.
+</translation>
     </message>
     <message>
         <source>日志文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de registro: %1</translation>
     </message>
     <message>
         <source>设置文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de ajustes: %1</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>正在等待波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la forma de onda</translation>
     </message>
     <message>
         <source>示波器已关闭，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>El osciloscopio está desactivado: no hay forma de onda</translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Autocomprobación bit-perfect</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprueba punto por punto si la reproducción actual altera las muestras</translation>
     </message>
     <message>
         <source>信号链报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de la cadena de señal…</translation>
     </message>
     <message>
         <source>显示引擎自己对信号链的报告，可以保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra el informe del propio motor sobre la cadena de señal; se puede guardar</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado</translation>
     </message>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono</translation>
     </message>
     <message>
         <source>日志面板已清空；日志文件保留</source>
-        <translation type="unfinished"></translation>
+        <translation>El panel del registro se ha vaciado; el archivo de registro se conserva</translation>
     </message>
     <message>
         <source>浅色</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>深色</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>主题: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tema: %1</translation>
     </message>
     <message>
         <source>跟随系统（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el sistema (%1)</translation>
     </message>
     <message>
         <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>La carátula no tiene un color dominante utilizable (negro/gris/blanco puros) ⇒ el color de acento sigue siendo el que usted eligió</translation>
     </message>
     <message>
         <source>强调色跟随封面: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Color de acento según la carátula: %1</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Elija una pista o importe audio</translation>
+        <translation>Elija una pista o importe audio</translation>
     </message>
 </context>
 <context>
     <name>PlaylistChange</name>
     <message>
         <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Adición deshecha, pistas: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas quitadas que vuelven: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>已恢复原来的播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve el orden de reproducción anterior</translation>
     </message>
     <message>
         <source>已重新添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas añadidas de nuevo: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>已重新移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pistas quitadas de nuevo: %1 (la lista tiene %2)</translation>
     </message>
     <message>
         <source>已重新调整播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>El orden de reproducción ha vuelto a cambiarse</translation>
     </message>
 </context>
 <context>
@@ -1757,11 +1774,11 @@
     <name>ProgressDial</name>
     <message>
         <source>播放进度</source>
-        <translation type="unfinished">Progreso de la reproducción</translation>
+        <translation>Progreso de la reproducción</translation>
     </message>
     <message>
         <source>只显示进度：播放中不能跳转</source>
-        <translation type="unfinished">Solo muestra el progreso: no se puede saltar durante la reproducción</translation>
+        <translation>Solo muestra el progreso: no se puede saltar durante la reproducción</translation>
     </message>
 </context>
 <context>
@@ -1791,331 +1808,332 @@
     </message>
     <message>
         <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio del bucle: marca la posición actual. Con A y B marcados empieza el bucle; pulse otra vez para borrarlo</translation>
     </message>
     <message>
         <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin del bucle: marca la posición actual. Con A y B marcados empieza el bucle; pulse otra vez para borrarlo</translation>
     </message>
 </context>
 <context>
     <name>RemoteControls</name>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono</translation>
     </message>
     <message>
         <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Un teléfono en la misma red Wi-Fi controla la reproducción desde su navegador; mientras está activado, este equipo escucha en un puerto</translation>
     </message>
     <message>
         <source>端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto</translation>
     </message>
     <message>
         <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto en el que escucha el mando desde el teléfono; se lee en el momento de activar el interruptor</translation>
     </message>
     <message>
         <source>手机遥控端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Puerto del mando desde el teléfono</translation>
     </message>
     <message>
         <source>手机遥控地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Direcciones del mando desde el teléfono</translation>
     </message>
     <message>
         <source>本机没有局域网 IPv4 地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Este equipo no tiene dirección IPv4 en la red local</translation>
     </message>
     <message>
         <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ábrala en el navegador del teléfono (misma red Wi-Fi que el equipo):
+%1</translation>
     </message>
     <message>
         <source>手机遥控：已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Mando desde el teléfono: desactivado</translation>
     </message>
 </context>
 <context>
     <name>ReportDialog</name>
     <message>
         <source>信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe de la cadena de señal</translation>
     </message>
     <message>
         <source>再取一次</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a pedir</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar informe…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>RowProperties</name>
     <message>
         <source>类型: 网络电台</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: radio por Internet</translation>
     </message>
     <message>
         <source>类型: CUE 分轨, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: pista %1 de una hoja CUE</translation>
     </message>
     <message>
         <source>类型: SACD 镜像, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: pista %1 de una imagen SACD</translation>
     </message>
     <message>
         <source>类型: 容器里的第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: pista %1 de un contenedor</translation>
     </message>
     <message>
         <source>类型: 音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo: archivo de audio</translation>
     </message>
     <message>
         <source>显示: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se muestra como: %1</translation>
     </message>
     <message>
         <source>位置: 第 %1/%2 项</source>
-        <translation type="unfinished"></translation>
+        <translation>Lugar: elemento %1/%2</translation>
     </message>
     <message>
         <source>格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato: %1</translation>
     </message>
     <message>
         <source>文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo: %1</translation>
     </message>
     <message>
         <source>CUE 表: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoja CUE: %1</translation>
     </message>
     <message>
         <source>时间: %1 s → %2 s (长 %3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiempo: %1 s → %2 s (duración %3 s)</translation>
     </message>
 </context>
 <context>
     <name>ScopeView</name>
     <message>
         <source>示波器</source>
-        <translation type="unfinished"></translation>
+        <translation>Osciloscopio</translation>
     </message>
     <message>
         <source>未播放，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>No se reproduce nada: no hay forma de onda</translation>
     </message>
     <message>
         <source>最大振幅: 左 %1%, 右 %2%</source>
         <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Amplitud máxima: izquierda %1%, derecha %2%</translation>
     </message>
 </context>
 <context>
     <name>SegmentMeter</name>
     <message>
         <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
-        <translation type="unfinished"></translation>
+        <translation>Pico de salida de este canal (dBFS): el motor lo comunica 20 veces por segundo con resolución de 0,01 dB y un mínimo de −120 dB (por debajo se muestra −∞ dB); a 0 dBFS el rojo permanece 1,5 s (posible recorte)</translation>
     </message>
 </context>
 <context>
     <name>SelfCheck</name>
     <message>
         <source>源是否无损</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Es una fuente sin pérdidas?</translation>
     </message>
     <message>
         <source>正在等待引擎回答。</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la respuesta del motor.</translation>
     </message>
     <message>
         <source>源是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>La fuente no tiene pérdidas</translation>
     </message>
     <message>
         <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
-        <translation type="unfinished"></translation>
+        <translation>La codificación devuelve cada muestra que entró en ella; no se descartó nada.</translation>
     </message>
     <message>
         <source>源不是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>La fuente tiene pérdidas</translation>
     </message>
     <message>
         <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo ya no contiene todas las muestras originales, y ninguna etapa posterior puede recuperarlas.</translation>
     </message>
     <message>
         <source>源是否无损无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>No se sabe si la fuente tiene pérdidas</translation>
     </message>
     <message>
         <source>引擎没有给出能证明的依据；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>El motor no aportó nada que lo demuestre; esto no cuenta como superado.</translation>
     </message>
     <message>
         <source>通路有没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>¿La ruta está intacta?</translation>
     </message>
     <message>
         <source>通路没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>La ruta está intacta</translation>
     </message>
     <message>
         <source>从文件到设备之间，没有任何环节改动过采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre el archivo y el dispositivo, ninguna etapa alteró una muestra.</translation>
     </message>
     <message>
         <source>通路有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>La ruta está alterada</translation>
     </message>
     <message>
         <source>从文件到设备之间，有环节改动了采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Entre el archivo y el dispositivo, una etapa altera las muestras.</translation>
     </message>
     <message>
         <source>通路有没有改动无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>No se sabe si la ruta está intacta</translation>
     </message>
     <message>
         <source>交付是否核实</source>
-        <translation type="unfinished"></translation>
+        <translation>¿La entrega está verificada?</translation>
     </message>
     <message>
         <source>交付已核实</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrega está verificada</translation>
     </message>
     <message>
         <source>设备按要求打开，读回的格式与送出的一致。</source>
-        <translation type="unfinished"></translation>
+        <translation>El dispositivo se abrió como se pidió, y el formato leído de vuelta es igual al enviado.</translation>
     </message>
     <message>
         <source>交付有出入</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrega difiere</translation>
     </message>
     <message>
         <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que llegó al dispositivo no es lo que se envió, o hay otra etapa en el camino.</translation>
     </message>
     <message>
         <source>交付无法核实</source>
-        <translation type="unfinished"></translation>
+        <translation>La entrega no se puede verificar</translation>
     </message>
     <message>
         <source>设备实际以什么格式运行读不回来；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer de vuelta con qué formato funciona realmente el dispositivo; esto no cuenta como superado.</translation>
     </message>
     <message>
         <source>最先破坏位完美的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera etapa que rompe el bit-perfect: %1.</translation>
     </message>
     <message>
         <source>最先无法证明的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera etapa que no se puede demostrar: %1.</translation>
     </message>
 </context>
 <context>
     <name>SelfCheckDialog</name>
     <message>
         <source>结论：位完美 ✓  </source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto: bit-perfect ✓  </translation>
     </message>
     <message>
         <source>结论：非位完美 ✗  </source>
-        <translation type="unfinished"></translation>
+        <translation>Veredicto: no bit-perfect ✗  </translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Autocomprobación bit-perfect</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>El motor comprueba etapa por etapa la cadena que suena: fuente, decodificación, remuestreo, efectos, velocidad, volumen, fundidos, protección de picos, profundidad de bits, mezclador, lo leído de vuelta del dispositivo y vaciados de búfer. Juzga por lo que cada etapa hace realmente ahora, nunca por un ajuste; lo que no se puede demostrar no cuenta como superado.</translation>
     </message>
     <message>
         <source>逐项检查的结果</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados, punto por punto</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar informe…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>检查中…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando…</translation>
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Autocomprobación bit-perfect — %1</translation>
     </message>
     <message>
         <source>通过</source>
-        <translation type="unfinished">correcto</translation>
+        <translation>superado</translation>
     </message>
     <message>
         <source>未通过</source>
-        <translation type="unfinished"></translation>
+        <translation>no superado</translation>
     </message>
 </context>
 <context>
     <name>SetupDialog</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
     <name>SleepControls</name>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>%1 分钟后</source>
-        <translation type="unfinished"></translation>
+        <translation>Tras %1 minutos</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado</translation>
     </message>
     <message>
         <source>到时间后用十秒淡出，然后停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Llegada la hora, baja el sonido durante diez segundos y luego detiene la reproducción</translation>
     </message>
 </context>
 <context>
     <name>SleepTimer</name>
     <message>
         <source>睡眠定时: 关</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado: desactivado</translation>
     </message>
     <message>
         <source>睡眠定时: %1 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado: %1 min</translation>
     </message>
     <message>
         <source>睡眠定时: 开始淡出(10 秒后停止)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado: bajando el sonido (se detendrá en 10 segundos)</translation>
     </message>
     <message>
         <source>睡眠定时: 已淡出并停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Temporizador de apagado: sonido bajado y reproducción detenida</translation>
     </message>
 </context>
 <context>
@@ -2141,12 +2159,12 @@
     <name>SpectrumView</name>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>Espectro</translation>
     </message>
     <message>
         <source>最强频段: 左 %1, 右 %2, 共 %3</source>
         <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Banda más fuerte: izquierda %1, derecha %2, de %3</translation>
     </message>
 </context>
 <context>
@@ -2188,114 +2206,114 @@ Para abrir varios a propósito, defina KELP_GUI_ALLOW_MULTI=1</translation>
     <name>TitleBar</name>
     <message>
         <source>打开设置(Setup Menu)</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir los ajustes (Setup Menu)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>Maximizar</translation>
     </message>
     <message>
         <source>关闭窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar la ventana</translation>
     </message>
     <message>
         <source>%1：亮</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: encendido</translation>
     </message>
     <message>
         <source>%1：灭</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: apagado</translation>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar</translation>
     </message>
 </context>
 <context>
     <name>ToolsMenu</name>
     <message>
         <source>扫描曲库文件夹(增量)</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorar las carpetas de la biblioteca (incremental)</translation>
     </message>
     <message>
         <source>查找重复曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar duplicados</translation>
     </message>
     <message>
         <source>批量编辑标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar etiquetas por lotes</translation>
     </message>
     <message>
         <source>智能播放列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas de reproducción inteligentes</translation>
     </message>
     <message>
         <source>年度报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Informe del año</translation>
     </message>
     <message>
         <source>曲目分析</source>
-        <translation type="unfinished">Análisis de la pista</translation>
+        <translation>Análisis de la pista</translation>
     </message>
     <message>
         <source>DSP 顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden DSP</translation>
     </message>
     <message>
         <source>指纹比对</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparar huellas</translation>
     </message>
     <message>
         <source>在线补全标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Completar etiquetas en línea</translation>
     </message>
     <message>
         <source>网络曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Biblioteca de red</translation>
     </message>
     <message>
         <source>手机同步</source>
-        <translation type="unfinished"></translation>
+        <translation>Sincronizar el teléfono</translation>
     </message>
     <message>
         <source>插件</source>
-        <translation type="unfinished"></translation>
+        <translation>Complementos</translation>
     </message>
     <message>
         <source>电台/网络/接力</source>
-        <translation type="unfinished"></translation>
+        <translation>Emisoras/red/relevo</translation>
     </message>
     <message>
         <source>车载模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo coche</translation>
     </message>
     <message>
         <source>网络挂载</source>
-        <translation type="unfinished"></translation>
+        <translation>Montajes de red</translation>
     </message>
     <message>
         <source>校验曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificar la biblioteca</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar el registro</translation>
     </message>
     <message>
         <source>帮助…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda…</translation>
     </message>
     <message>
         <source>这个功能还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función aún no está lista; llegará en una versión posterior</translation>
     </message>
 </context>
 <context>
@@ -2366,26 +2384,26 @@ Tonalidad: %2</translation>
     <name>ValueCards</name>
     <message>
         <source>码率</source>
-        <translation type="unfinished"></translation>
+        <translation>BITRATE</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation type="unfinished"></translation>
+        <translation>MUESTREO</translation>
     </message>
     <message>
         <source>声道</source>
-        <translation type="unfinished"></translation>
+        <translation>CANALES</translation>
     </message>
     <message>
         <source>播放次数</source>
-        <translation type="unfinished"></translation>
+        <translation>ESCUCHAS</translation>
     </message>
 </context>
 <context>
     <name>WarningCount</name>
     <message>
         <source>信号链有 %1 条警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Avisos en la cadena de señal: %1</translation>
     </message>
 </context>
 </TS>

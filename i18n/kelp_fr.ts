@@ -5,31 +5,31 @@
     <name>AbLoop</name>
     <message>
         <source>A/B 循环: %1 点 = %2s</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : point %1 = %2s</translation>
     </message>
     <message>
         <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : le point B doit venir après le point A (A=%1s, B=%2s)</translation>
     </message>
     <message>
         <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : marquée, elle prendra effet au début de la lecture (répétition du morceau)</translation>
     </message>
     <message>
         <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : %1 → %2 en cours (répétition du morceau ; l’effacer rétablit l’ordre de lecture précédent)</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : effacée</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : effacée, ordre de lecture rétabli : %1</translation>
     </message>
     <message>
         <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : le morceau a changé, les points A/B du précédent sont abandonnés</translation>
     </message>
 </context>
 <context>
@@ -47,112 +47,112 @@
     <name>BitsLed</name>
     <message>
         <source>有效位数</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits effectifs</translation>
     </message>
     <message>
         <source>有效位数：尚不清楚</source>
-        <translation type="unfinished"></translation>
+        <translation>Bits effectifs : pas encore connus</translation>
     </message>
     <message>
         <source>未知</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnus</translation>
     </message>
     <message>
         <source>透明</source>
-        <translation type="unfinished"></translation>
+        <translation>transparent</translation>
     </message>
     <message>
         <source>位数减少</source>
-        <translation type="unfinished"></translation>
+        <translation>moins de bits</translation>
     </message>
     <message>
         <source>用尽</source>
-        <translation type="unfinished"></translation>
+        <translation>épuisés</translation>
     </message>
     <message>
         <source>%1 bit，%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bits, %2</translation>
     </message>
 </context>
 <context>
     <name>ChainLamp</name>
     <message>
         <source>未能证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Non prouvé</translation>
     </message>
     <message>
         <source>非位完美</source>
-        <translation type="unfinished"></translation>
+        <translation>Non bit-perfect</translation>
     </message>
     <message>
         <source>自检没有通过</source>
-        <translation type="unfinished"></translation>
+        <translation>l’autotest n’a pas réussi</translation>
     </message>
     <message>
         <source>不是位完美或未能证明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non bit-perfect, ou non prouvé : %1</translation>
     </message>
     <message>
         <source>尚未得知</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore connu</translation>
     </message>
     <message>
         <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur n’a pas encore décrit la chaîne du signal de ce morceau ; rien n’est donc affirmé.</translation>
     </message>
     <message>
         <source>位完美</source>
-        <translation type="unfinished">Bit-perfect</translation>
+        <translation>Bit-perfect</translation>
     </message>
 </context>
 <context>
     <name>ChainPanel</name>
     <message>
         <source>信号链</source>
-        <translation type="unfinished"></translation>
+        <translation>CHAÎNE</translation>
     </message>
     <message>
         <source>信号链的结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict sur la chaîne du signal</translation>
     </message>
 </context>
 <context>
     <name>ChainRow</name>
     <message>
         <source>重采样</source>
-        <translation type="unfinished"></translation>
+        <translation>Rééchantillonnage</translation>
     </message>
     <message>
         <source>后端</source>
-        <translation type="unfinished"></translation>
+        <translation>Backend</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>Format de sortie</translation>
     </message>
     <message>
         <source>延时</source>
-        <translation type="unfinished"></translation>
+        <translation>Latence</translation>
     </message>
     <message>
         <source>音量</source>
-        <translation type="unfinished">Volume</translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>变速</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
     </message>
     <message>
         <source>结论</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict</translation>
     </message>
     <message>
         <source>链路</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaîne</translation>
     </message>
     <message>
         <source>欠载</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-alimentations</translation>
     </message>
 </context>
 <context>
@@ -182,19 +182,19 @@
     <name>CheckMarkView</name>
     <message>
         <source>等待中</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
     <message>
         <source>已证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Prouvé</translation>
     </message>
     <message>
         <source>已证伪</source>
-        <translation type="unfinished"></translation>
+        <translation>Réfuté</translation>
     </message>
     <message>
         <source>此处无法证明</source>
-        <translation type="unfinished"></translation>
+        <translation>Non prouvable ici</translation>
     </message>
 </context>
 <context>
@@ -252,23 +252,24 @@
     <message>
         <source>%1
 轨 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+Piste %2</translation>
     </message>
     <message>
         <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
-        <translation type="unfinished"></translation>
+        <translation>(balises tirées du conteneur lui-même ; aucune balise de plus dans la bibliothèque locale)</translation>
     </message>
     <message>
         <source>专辑: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Album : %1</translation>
     </message>
     <message>
         <source>年份: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Année : %1</translation>
     </message>
     <message>
         <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
-        <translation type="unfinished"></translation>
+        <translation>(balises tirées de la bibliothèque locale — rien n’a été écrit dans l’ISO/CUE)</translation>
     </message>
 </context>
 <context>
@@ -309,15 +310,15 @@
     <name>CoverDisc</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Pochette</translation>
     </message>
     <message>
         <source>无封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune pochette</translation>
     </message>
     <message>
         <source>有封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Une pochette est affichée</translation>
     </message>
 </context>
 <context>
@@ -360,7 +361,7 @@
     </message>
     <message>
         <source>总长</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée totale</translation>
     </message>
 </context>
 <context>
@@ -411,109 +412,109 @@
     </message>
     <message>
         <source>播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de lecture</translation>
     </message>
     <message>
         <source>循环</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétition</translation>
     </message>
     <message>
         <source>歌词</source>
-        <translation type="unfinished"></translation>
+        <translation>Paroles</translation>
     </message>
     <message>
         <source>歌词还没有做好，这个按钮以后才能用</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paroles ne sont pas encore prêtes ; ce bouton servira dans une version ultérieure</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>Muet</translation>
     </message>
     <message>
         <source>静音；再按一次回到原来的音量</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper le son ; appuyez encore pour retrouver le volume précédent</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils</translation>
     </message>
     <message>
         <source>曲库、标签、网络等工具</source>
-        <translation type="unfinished"></translation>
+        <translation>Outils pour la bibliothèque, les balises, le réseau, etc.</translation>
     </message>
     <message>
         <source>播放顺序：随机</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de lecture : aléatoire</translation>
     </message>
     <message>
         <source>播放顺序：按列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de lecture : dans l’ordre</translation>
     </message>
     <message>
         <source>循环：单曲</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétition : ce morceau</translation>
     </message>
     <message>
         <source>循环：整个列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétition : toute la liste</translation>
     </message>
     <message>
         <source>循环：关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Répétition : désactivée</translation>
     </message>
 </context>
 <context>
     <name>DspBar</name>
     <message>
         <source>实时</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps réel</translation>
     </message>
     <message>
         <source>混响</source>
-        <translation type="unfinished"></translation>
+        <translation>Réverb</translation>
     </message>
     <message>
         <source>音调</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonalité</translation>
     </message>
     <message>
         <source>平衡</source>
-        <translation type="unfinished"></translation>
+        <translation>Balance</translation>
     </message>
     <message>
         <source>空间</source>
-        <translation type="unfinished"></translation>
+        <translation>Espace</translation>
     </message>
     <message>
         <source>降噪</source>
-        <translation type="unfinished">Débruitage</translation>
+        <translation>Débruitage</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>Égaliseur</translation>
     </message>
     <message>
         <source>这一页效果还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette page d’effet n’est pas encore prête ; elle viendra dans une version ultérieure</translation>
     </message>
     <message>
         <source>效果正作用在听到的声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Les effets agissent sur le son entendu en ce moment</translation>
     </message>
     <message>
         <source>现在没有效果作用在声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun effet n’agit sur le son en ce moment</translation>
     </message>
 </context>
 <context>
     <name>DspTab</name>
     <message>
         <source>效果已开</source>
-        <translation type="unfinished"></translation>
+        <translation>L’effet est activé</translation>
     </message>
     <message>
         <source>效果已关</source>
-        <translation type="unfinished"></translation>
+        <translation>L’effet est désactivé</translation>
     </message>
 </context>
 <context>
@@ -945,117 +946,117 @@
     <name>HistoryStore</name>
     <message>
         <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’historique d’annulation de la liste de lecture est endommagé et inutilisable ; il repart donc vide : %1</translation>
     </message>
     <message>
         <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>L’historique d’annulation de la liste de lecture ne correspond pas à la liste enregistrée ; il repart donc vide : %1</translation>
     </message>
     <message>
         <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire l’historique d’annulation de la liste de lecture ; rien ne pourra être annulé après un redémarrage : %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>InstrumentPanel</name>
     <message>
         <source>左声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau gauche</translation>
     </message>
     <message>
         <source>右声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau droit</translation>
     </message>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>SPECTRE</translation>
     </message>
     <message>
         <source>波形</source>
-        <translation type="unfinished"></translation>
+        <translation>FORME D’ONDE</translation>
     </message>
 </context>
 <context>
     <name>LibraryPanel</name>
     <message>
         <source>搜索标题 / 艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher titre / artiste</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher</translation>
     </message>
     <message>
         <source>显示的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Affichés / tous</translation>
     </message>
     <message>
         <source>搜索和筛选还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>La recherche et le filtrage ne sont pas encore prêts ; ils viendront dans une version ultérieure</translation>
     </message>
     <message>
         <source>曲库 · TITLE</source>
-        <translation type="unfinished"></translation>
+        <translation>BIBLIOTHÈQUE · TITRE</translation>
     </message>
     <message>
         <source>正在播放的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>En lecture / tous</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les artistes</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer par artiste</translation>
     </message>
     <message>
         <source>全部专辑</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les albums</translation>
     </message>
     <message>
         <source>按专辑筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer par album</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished">Importer</translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
-        <translation type="unfinished">Ajouter des fichiers audio à la fin de la liste</translation>
+        <translation>Ajoute des fichiers audio à la fin de la liste</translation>
     </message>
     <message>
         <source>文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoute les fichiers audio d’un dossier à la fin de la liste, sans ses sous-dossiers</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>把选中的曲目从列表移除；文件不动</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire de la liste les morceaux choisis ; les fichiers restent</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>清空列表；文件不动，可以撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Vide la liste ; les fichiers restent et l’action peut être annulée</translation>
     </message>
 </context>
 <context>
@@ -1069,11 +1070,11 @@
     <name>MiniCover</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>Pochette</translation>
     </message>
     <message>
         <source>在列表里显示正在播放的曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer dans la liste le morceau en cours</translation>
     </message>
 </context>
 <context>
@@ -1099,41 +1100,41 @@
     <name>NowPlaying</name>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Choisissez un morceau ou importez de l’audio</translation>
+        <translation>Choisissez un morceau ou importez de l’audio</translation>
     </message>
 </context>
 <context>
     <name>PlayOrder</name>
     <message>
         <source>随机</source>
-        <translation type="unfinished"></translation>
+        <translation>aléatoire</translation>
     </message>
     <message>
         <source>顺序</source>
-        <translation type="unfinished">dans l’ordre</translation>
+        <translation>dans l’ordre</translation>
     </message>
     <message>
         <source> · 不循环</source>
-        <translation type="unfinished"> · sans répétition</translation>
+        <translation> · sans répétition</translation>
     </message>
     <message>
         <source> · 列表循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · répéter la liste</translation>
     </message>
     <message>
         <source> · 单曲循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · répéter le morceau</translation>
     </message>
 </context>
 <context>
     <name>PlaySpeed</name>
     <message>
         <source>播放速度: %1×%2</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de lecture : %1×%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
-        <translation type="unfinished"></translation>
+        <source> （播放中立即生效）</source>
+        <translation> (effet immédiat, même en cours de lecture)</translation>
     </message>
 </context>
 <context>
@@ -1380,239 +1381,239 @@ Voulez-vous vraiment quitter ?</translation>
     </message>
     <message>
         <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de PCM dans cette chaîne (DSD direct) — pas de forme d’onde</translation>
     </message>
     <message>
         <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de spectre sur ce chemin : le DSD direct ne contient pas de PCM</translation>
     </message>
     <message>
         <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de chaîne du signal : aucune session de lecture, seul le dernier rapport est affiché.</translation>
     </message>
     <message>
         <source>保存信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport de chaîne du signal</translation>
     </message>
     <message>
         <source>信号链报告已保存：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de chaîne du signal enregistré : %1</translation>
     </message>
     <message>
         <source>保存信号链报告失败：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’enregistrement du rapport de chaîne du signal : %1</translation>
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotest bit-perfect : aucune session de lecture — lancez d’abord la lecture (sans flux, rien à juger)</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotest bit-perfect : contrôle point par point demandé au moteur</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict de l’autotest bit-perfect : %1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages purs par défaut rétablis (tous les effets désactivés / 1.0x / sans fondu enchaîné / volume 100 / disposition et thème réinitialisés) et autotest bit-perfect lancé</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre de lecture : %1</translation>
     </message>
     <message>
         <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
-        <translation type="unfinished"></translation>
+        <translation>Boucle A/B : aucun morceau en lecture, il n’y a rien à marquer</translation>
     </message>
     <message>
         <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers audio ignorés, faute de décodeur dans ce lecteur (MP3/AAC/OGG) : %1</translation>
     </message>
     <message>
         <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers ignorés, car leur nom n’est pas en UTF-8 valide et ils ne s’ouvrent pas : %1</translation>
     </message>
     <message>
         <source>已添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux ajoutés : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ajout groupé a pris %1 ms (%2 morceaux, une seule mise en page)</translation>
     </message>
     <message>
         <source>没有可以添加的音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun fichier audio à ajouter</translation>
     </message>
     <message>
         <source>音频文件 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichiers audio (%1)</translation>
     </message>
     <message>
         <source>所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>添加文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier</translation>
     </message>
     <message>
         <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
-        <translation type="unfinished"></translation>
+        <translation>Le morceau en cours a été retiré de la liste (le son continue, mais il n’y figure plus)</translation>
     </message>
     <message>
         <source>已移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux retirés : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>播放列表已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de lecture vidée</translation>
     </message>
     <message>
         <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette modification est trop importante pour être conservée ; elle ne peut pas être annulée</translation>
     </message>
     <message>
         <source>没有可以撤销的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à annuler</translation>
     </message>
     <message>
         <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>L’historique d’annulation ne correspond pas à la liste de lecture ; rien n’a été annulé et l’historique a été vidé</translation>
     </message>
     <message>
         <source>没有可以重做的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à rétablir</translation>
     </message>
     <message>
         <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>L’historique de rétablissement ne correspond pas à la liste de lecture ; rien n’a été rétabli et l’historique a été vidé</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>在文件管理器中显示</source>
-        <translation type="unfinished"></translation>
+        <translation>Montrer dans le gestionnaire de fichiers</translation>
     </message>
     <message>
         <source>移到最前</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer en tête</translation>
     </message>
     <message>
         <source>移到最后</source>
-        <translation type="unfinished"></translation>
+        <translation>Placer à la fin</translation>
     </message>
     <message>
         <source>属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
     </message>
     <message>
         <source>添加文件夹…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un dossier…</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider la liste</translation>
     </message>
     <message>
         <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun gestionnaire de fichiers n’a répondu ; le dossier est ouvert à la place : %1</translation>
     </message>
     <message>
         <source>打不开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le dossier : %1</translation>
     </message>
     <message>
         <source>曲目属性</source>
-        <translation type="unfinished"></translation>
+        <translation>Propriétés du morceau</translation>
     </message>
     <message>
         <source>播放列表已恢复: %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de lecture restaurée, morceaux : %1</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière lecture : morceau %1 — %2</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière lecture : morceau %1</translation>
     </message>
     <message>
         <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux ignorés en restaurant la liste de lecture (fichier disparu) : %1</translation>
     </message>
     <message>
         <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mode hors ligne est activé, action refusée : %1 (désactivez ce mode dans les réglages)</translation>
     </message>
     <message>
         <source>手机遥控(监听端口)</source>
-        <translation type="unfinished"></translation>
+        <translation>télécommande par téléphone (port à l’écoute)</translation>
     </message>
     <message>
         <source>手机遥控：已关闭（端口不再监听）</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone : désactivée (le port n’est plus à l’écoute)</translation>
     </message>
     <message>
         <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone : requête sans le bon jeton rejetée (%1)</translation>
     </message>
     <message>
         <source>手机遥控：无法监听端口 %1（%2）</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone : impossible d’écouter sur le port %1 (%2)</translation>
     </message>
     <message>
         <source>手机遥控：已打开，端口 %1，令牌 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone : activée, port %1, jeton %2</translation>
     </message>
     <message>
         <source>手机遥控地址：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse de la télécommande par téléphone : %1</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition : la largeur latérale %1 est hors limites et a été ramenée à %2 px</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition : largeur latérale %1 px</translation>
     </message>
     <message>
         <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disposition réinitialisée (taille et position de la fenêtre, largeur latérale)</translation>
     </message>
     <message>
         <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de la fenêtre : l’enregistrement est illisible, taille par défaut utilisée</translation>
     </message>
     <message>
         <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
-        <translation type="unfinished"></translation>
+        <translation>Position de la fenêtre : l’écran d’origine n’est plus là, elle a été placée au milieu de l’écran principal</translation>
     </message>
     <message>
         <source>曲库里找不到正在播放的这一首</source>
-        <translation type="unfinished"></translation>
+        <translation>Le morceau en cours n’est pas dans la liste de la bibliothèque</translation>
     </message>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
     </message>
     <message>
         <source>## 播放
@@ -1632,110 +1633,126 @@ Voulez-vous vraiment quitter ?</translation>
 
 右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
 </source>
-        <translation type="unfinished"></translation>
+        <translation>## Lecture
+
+Glissez des fichiers ou des dossiers dans la fenêtre et double-cliquez sur une ligne pour la lire. Il n’y a pas de saut pendant la lecture : une position n’est atteinte qu’au début d’un morceau.
+
+## Clavier
+
+- **Espace** lecture / pause
+- **Ctrl+→** morceau suivant, **Ctrl+←** morceau précédent
+- **Ctrl+↑ / Ctrl+↓** volume
+- **Ctrl+Espace** arrêt, **Ctrl+O** importer des fichiers, **F11** agrandir / restaurer
+- **Ctrl+,** réglages
+- Dans la liste : **Entrée** lit, **Suppr** retire, **Ctrl+Z** annule, **Ctrl+Maj+Z** rétablit
+
+## Bit-perfect
+
+La colonne de droite dit ce que traversent les échantillons. Elle ne dit “transmission vérifiée” que si ce que le périphérique a reçu a été relu. L’“Autotest bit-perfect” examine chaque étape.
+</translation>
     </message>
     <message>
         <source>日志文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier journal : %1</translation>
     </message>
     <message>
         <source>设置文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier de réglages : %1</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>正在等待波形</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de la forme d’onde</translation>
     </message>
     <message>
         <source>示波器已关闭，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>L’oscilloscope est désactivé : pas de forme d’onde</translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotest bit-perfect</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifie point par point si la lecture en cours modifie les échantillons</translation>
     </message>
     <message>
         <source>信号链报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de chaîne du signal…</translation>
     </message>
     <message>
         <source>显示引擎自己对信号链的报告，可以保存</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiche le rapport du moteur lui-même sur la chaîne du signal ; il peut être enregistré</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé</translation>
     </message>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone</translation>
     </message>
     <message>
         <source>日志面板已清空；日志文件保留</source>
-        <translation type="unfinished"></translation>
+        <translation>Le panneau du journal a été vidé ; le fichier journal est conservé</translation>
     </message>
     <message>
         <source>浅色</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>深色</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>主题: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Thème : %1</translation>
     </message>
     <message>
         <source>跟随系统（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le système (%1)</translation>
     </message>
     <message>
         <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>La pochette n’a pas de couleur dominante utilisable (noir/gris/blanc purs) ⇒ la couleur d’accent reste celle que vous avez choisie</translation>
     </message>
     <message>
         <source>强调色跟随封面: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur d’accent d’après la pochette : %1</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">Choisissez un morceau ou importez de l’audio</translation>
+        <translation>Choisissez un morceau ou importez de l’audio</translation>
     </message>
 </context>
 <context>
     <name>PlaylistChange</name>
     <message>
         <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout annulé, morceaux : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Retrait annulé, morceaux de retour : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>已恢复原来的播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordre de lecture précédent est rétabli</translation>
     </message>
     <message>
         <source>已重新添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux ajoutés de nouveau : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>已重新移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>Morceaux retirés de nouveau : %1 (la liste en compte %2)</translation>
     </message>
     <message>
         <source>已重新调整播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordre de lecture a de nouveau été modifié</translation>
     </message>
 </context>
 <context>
@@ -1757,11 +1774,11 @@ Voulez-vous vraiment quitter ?</translation>
     <name>ProgressDial</name>
     <message>
         <source>播放进度</source>
-        <translation type="unfinished">Progression de la lecture</translation>
+        <translation>Progression de la lecture</translation>
     </message>
     <message>
         <source>只显示进度：播放中不能跳转</source>
-        <translation type="unfinished">Affiche seulement la progression : pas de saut pendant la lecture</translation>
+        <translation>Affiche seulement la progression : pas de saut pendant la lecture</translation>
     </message>
 </context>
 <context>
@@ -1791,331 +1808,332 @@ Voulez-vous vraiment quitter ?</translation>
     </message>
     <message>
         <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Début de la boucle : marque la position actuelle. Dès que A et B sont posés, la boucle commence ; appuyez encore pour l’effacer</translation>
     </message>
     <message>
         <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la boucle : marque la position actuelle. Dès que A et B sont posés, la boucle commence ; appuyez encore pour l’effacer</translation>
     </message>
 </context>
 <context>
     <name>RemoteControls</name>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone</translation>
     </message>
     <message>
         <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Un téléphone du même réseau Wi-Fi commande la lecture depuis son navigateur ; tant qu’elle est activée, cet ordinateur écoute sur un port</translation>
     </message>
     <message>
         <source>端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Port</translation>
     </message>
     <message>
         <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
-        <translation type="unfinished"></translation>
+        <translation>Port sur lequel écoute la télécommande par téléphone ; il est lu au moment où l’interrupteur est activé</translation>
     </message>
     <message>
         <source>手机遥控端口</source>
-        <translation type="unfinished"></translation>
+        <translation>Port de la télécommande par téléphone</translation>
     </message>
     <message>
         <source>手机遥控地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresses de la télécommande par téléphone</translation>
     </message>
     <message>
         <source>本机没有局域网 IPv4 地址</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet ordinateur n’a pas d’adresse IPv4 sur le réseau local</translation>
     </message>
     <message>
         <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>À ouvrir dans le navigateur du téléphone (même Wi-Fi que l’ordinateur) :
+%1</translation>
     </message>
     <message>
         <source>手机遥控：已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécommande par téléphone : désactivée</translation>
     </message>
 </context>
 <context>
     <name>ReportDialog</name>
     <message>
         <source>信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Rapport de chaîne du signal</translation>
     </message>
     <message>
         <source>再取一次</source>
-        <translation type="unfinished"></translation>
+        <translation>Redemander</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>RowProperties</name>
     <message>
         <source>类型: 网络电台</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : webradio</translation>
     </message>
     <message>
         <source>类型: CUE 分轨, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : piste %1 d’une feuille CUE</translation>
     </message>
     <message>
         <source>类型: SACD 镜像, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : piste %1 d’une image SACD</translation>
     </message>
     <message>
         <source>类型: 容器里的第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : piste %1 d’un conteneur</translation>
     </message>
     <message>
         <source>类型: 音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>Type : fichier audio</translation>
     </message>
     <message>
         <source>显示: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Affiché : %1</translation>
     </message>
     <message>
         <source>位置: 第 %1/%2 项</source>
-        <translation type="unfinished"></translation>
+        <translation>Place : élément %1/%2</translation>
     </message>
     <message>
         <source>格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Format : %1</translation>
     </message>
     <message>
         <source>文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier : %1</translation>
     </message>
     <message>
         <source>CUE 表: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Feuille CUE : %1</translation>
     </message>
     <message>
         <source>时间: %1 s → %2 s (长 %3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Temps : %1 s → %2 s (durée %3 s)</translation>
     </message>
 </context>
 <context>
     <name>ScopeView</name>
     <message>
         <source>示波器</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscilloscope</translation>
     </message>
     <message>
         <source>未播放，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien en lecture : pas de forme d’onde</translation>
     </message>
     <message>
         <source>最大振幅: 左 %1%, 右 %2%</source>
         <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Amplitude maximale : gauche %1 %, droite %2 %</translation>
     </message>
 </context>
 <context>
     <name>SegmentMeter</name>
     <message>
         <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
-        <translation type="unfinished"></translation>
+        <translation>Crête de sortie de ce canal (dBFS) : le moteur la donne 20 fois par seconde, à 0,01 dB près, avec un plancher de −120 dB (au-dessous s’affiche −∞ dB) ; à 0 dBFS le rouge reste 1,5 s (écrêtage possible)</translation>
     </message>
 </context>
 <context>
     <name>SelfCheck</name>
     <message>
         <source>源是否无损</source>
-        <translation type="unfinished"></translation>
+        <translation>La source est-elle sans perte ?</translation>
     </message>
     <message>
         <source>正在等待引擎回答。</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de la réponse du moteur.</translation>
     </message>
     <message>
         <source>源是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>La source est sans perte</translation>
     </message>
     <message>
         <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le codage restitue chaque échantillon qui y est entré ; rien n’a été écarté.</translation>
     </message>
     <message>
         <source>源不是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>La source n’est pas sans perte</translation>
     </message>
     <message>
         <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient plus tous les échantillons d’origine, et aucune étape ultérieure ne peut les rendre.</translation>
     </message>
     <message>
         <source>源是否无损无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>On ne sait pas si la source est sans perte</translation>
     </message>
     <message>
         <source>引擎没有给出能证明的依据；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur n’a rien fourni qui le prouve ; cela ne compte pas comme réussi.</translation>
     </message>
     <message>
         <source>通路有没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chemin est-il intact ?</translation>
     </message>
     <message>
         <source>通路没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chemin est intact</translation>
     </message>
     <message>
         <source>从文件到设备之间，没有任何环节改动过采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Du fichier au périphérique, aucune étape n’a modifié un échantillon.</translation>
     </message>
     <message>
         <source>通路有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>Le chemin est modifié</translation>
     </message>
     <message>
         <source>从文件到设备之间，有环节改动了采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>Du fichier au périphérique, une étape modifie les échantillons.</translation>
     </message>
     <message>
         <source>通路有没有改动无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>On ne sait pas si le chemin est intact</translation>
     </message>
     <message>
         <source>交付是否核实</source>
-        <translation type="unfinished"></translation>
+        <translation>La transmission est-elle vérifiée ?</translation>
     </message>
     <message>
         <source>交付已核实</source>
-        <translation type="unfinished"></translation>
+        <translation>La transmission est vérifiée</translation>
     </message>
     <message>
         <source>设备按要求打开，读回的格式与送出的一致。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le périphérique a été ouvert comme demandé, et le format qu’on y relit est celui qui a été envoyé.</translation>
     </message>
     <message>
         <source>交付有出入</source>
-        <translation type="unfinished"></translation>
+        <translation>La transmission diffère</translation>
     </message>
     <message>
         <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui a atteint le périphérique n’est pas ce qui a été envoyé, ou une autre étape se trouve sur le chemin.</translation>
     </message>
     <message>
         <source>交付无法核实</source>
-        <translation type="unfinished"></translation>
+        <translation>La transmission n’est pas vérifiable</translation>
     </message>
     <message>
         <source>设备实际以什么格式运行读不回来；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le format réel du périphérique ne peut pas être relu ; cela ne compte pas comme réussi.</translation>
     </message>
     <message>
         <source>最先破坏位完美的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Première étape qui rompt le bit-perfect : %1.</translation>
     </message>
     <message>
         <source>最先无法证明的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>Première étape impossible à prouver : %1.</translation>
     </message>
 </context>
 <context>
     <name>SelfCheckDialog</name>
     <message>
         <source>结论：位完美 ✓  </source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict : bit-perfect ✓  </translation>
     </message>
     <message>
         <source>结论：非位完美 ✗  </source>
-        <translation type="unfinished"></translation>
+        <translation>Verdict : non bit-perfect ✗  </translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotest bit-perfect</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur contrôle étape par étape la chaîne en lecture : source, décodage, rééchantillonnage, effets, vitesse, volume, fondus, protection des crêtes, profondeur de bits, mélangeur, relecture du périphérique et sous-alimentations du tampon. Il juge d’après ce que chaque étape fait réellement à cet instant, jamais d’après un réglage ; ce qui ne peut être prouvé ne compte pas comme réussi.</translation>
     </message>
     <message>
         <source>逐项检查的结果</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats, point par point</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer le rapport…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>检查中…</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrôle en cours…</translation>
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Autotest bit-perfect — %1</translation>
     </message>
     <message>
         <source>通过</source>
-        <translation type="unfinished">conforme</translation>
+        <translation>réussi</translation>
     </message>
     <message>
         <source>未通过</source>
-        <translation type="unfinished"></translation>
+        <translation>échoué</translation>
     </message>
 </context>
 <context>
     <name>SetupDialog</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
     <name>SleepControls</name>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>%1 分钟后</source>
-        <translation type="unfinished"></translation>
+        <translation>Après %1 minutes</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé</translation>
     </message>
     <message>
         <source>到时间后用十秒淡出，然后停止</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moment venu, baisse le son en dix secondes, puis arrête la lecture</translation>
     </message>
 </context>
 <context>
     <name>SleepTimer</name>
     <message>
         <source>睡眠定时: 关</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé : désactivé</translation>
     </message>
     <message>
         <source>睡眠定时: %1 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé : %1 min</translation>
     </message>
     <message>
         <source>睡眠定时: 开始淡出(10 秒后停止)</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé : fondu de sortie (arrêt dans 10 secondes)</translation>
     </message>
     <message>
         <source>睡眠定时: 已淡出并停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt programmé : fondu terminé, lecture arrêtée</translation>
     </message>
 </context>
 <context>
@@ -2141,12 +2159,12 @@ Voulez-vous vraiment quitter ?</translation>
     <name>SpectrumView</name>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>Spectre</translation>
     </message>
     <message>
         <source>最强频段: 左 %1, 右 %2, 共 %3</source>
         <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>Bande la plus forte : gauche %1, droite %2, sur %3</translation>
     </message>
 </context>
 <context>
@@ -2188,114 +2206,114 @@ Pour en ouvrir plusieurs à dessein, définissez KELP_GUI_ALLOW_MULTI=1</transla
     <name>TitleBar</name>
     <message>
         <source>打开设置(Setup Menu)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les réglages (Setup Menu)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrandir</translation>
     </message>
     <message>
         <source>关闭窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la fenêtre</translation>
     </message>
     <message>
         <source>%1：亮</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : allumé</translation>
     </message>
     <message>
         <source>%1：灭</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 : éteint</translation>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurer</translation>
     </message>
 </context>
 <context>
     <name>ToolsMenu</name>
     <message>
         <source>扫描曲库文件夹(增量)</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyser les dossiers de la bibliothèque (incrémental)</translation>
     </message>
     <message>
         <source>查找重复曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher les doublons</translation>
     </message>
     <message>
         <source>批量编辑标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les balises par lot</translation>
     </message>
     <message>
         <source>智能播放列表</source>
-        <translation type="unfinished"></translation>
+        <translation>Listes de lecture intelligentes</translation>
     </message>
     <message>
         <source>年度报告</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilan de l’année</translation>
     </message>
     <message>
         <source>曲目分析</source>
-        <translation type="unfinished">Analyse du morceau</translation>
+        <translation>Analyse du morceau</translation>
     </message>
     <message>
         <source>DSP 顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre DSP</translation>
     </message>
     <message>
         <source>指纹比对</source>
-        <translation type="unfinished"></translation>
+        <translation>Comparer les empreintes</translation>
     </message>
     <message>
         <source>在线补全标签</source>
-        <translation type="unfinished"></translation>
+        <translation>Compléter les balises en ligne</translation>
     </message>
     <message>
         <source>网络曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Bibliothèque réseau</translation>
     </message>
     <message>
         <source>手机同步</source>
-        <translation type="unfinished"></translation>
+        <translation>Synchronisation du téléphone</translation>
     </message>
     <message>
         <source>插件</source>
-        <translation type="unfinished"></translation>
+        <translation>Modules d’extension</translation>
     </message>
     <message>
         <source>电台/网络/接力</source>
-        <translation type="unfinished"></translation>
+        <translation>Stations/réseau/relais</translation>
     </message>
     <message>
         <source>车载模式</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode voiture</translation>
     </message>
     <message>
         <source>网络挂载</source>
-        <translation type="unfinished"></translation>
+        <translation>Montages réseau</translation>
     </message>
     <message>
         <source>校验曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier la bibliothèque</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>Vider le journal</translation>
     </message>
     <message>
         <source>帮助…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide…</translation>
     </message>
     <message>
         <source>这个功能还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette fonction n’est pas encore prête ; elle viendra dans une version ultérieure</translation>
     </message>
 </context>
 <context>
@@ -2366,26 +2384,26 @@ Tonalité : %2</translation>
     <name>ValueCards</name>
     <message>
         <source>码率</source>
-        <translation type="unfinished"></translation>
+        <translation>DÉBIT</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation type="unfinished"></translation>
+        <translation>FRÉQUENCE</translation>
     </message>
     <message>
         <source>声道</source>
-        <translation type="unfinished"></translation>
+        <translation>CANAUX</translation>
     </message>
     <message>
         <source>播放次数</source>
-        <translation type="unfinished"></translation>
+        <translation>LECTURES</translation>
     </message>
 </context>
 <context>
     <name>WarningCount</name>
     <message>
         <source>信号链有 %1 条警告</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertissements dans la chaîne du signal : %1</translation>
     </message>
 </context>
 </TS>

@@ -5,31 +5,31 @@
     <name>AbLoop</name>
     <message>
         <source>A/B 循环: %1 点 = %2s</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: %1 點 = %2s</translation>
     </message>
     <message>
         <source>A/B 循环: B 点必须在 A 点之后（A=%1s, B=%2s）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: B 點必須在 A 點之後（A=%1s, B=%2s）</translation>
     </message>
     <message>
         <source>A/B 循环: 已标记，开始播放时生效（单曲循环）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: 已標記，開始播放時生效（單曲循環）</translation>
     </message>
     <message>
         <source>A/B 循环: %1 → %2 已开始（单曲循环；清除后恢复原来的播放顺序）</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: %1 → %2 已開始（單曲循環；清除後還原先前的播放順序）</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: 已清除</translation>
     </message>
     <message>
         <source>A/B 循环: 已清除，播放顺序恢复为 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: 已清除，播放順序還原為 %1</translation>
     </message>
     <message>
         <source>A/B 循环: 换曲了，为上一首设的 A/B 点已作废</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: 曲目已切換，為上一首設定的 A/B 點已作廢</translation>
     </message>
 </context>
 <context>
@@ -47,112 +47,112 @@
     <name>BitsLed</name>
     <message>
         <source>有效位数</source>
-        <translation type="unfinished"></translation>
+        <translation>有效位元數</translation>
     </message>
     <message>
         <source>有效位数：尚不清楚</source>
-        <translation type="unfinished"></translation>
+        <translation>有效位元數：尚不清楚</translation>
     </message>
     <message>
         <source>未知</source>
-        <translation type="unfinished">未知</translation>
+        <translation>未知</translation>
     </message>
     <message>
         <source>透明</source>
-        <translation type="unfinished"></translation>
+        <translation>無損失</translation>
     </message>
     <message>
         <source>位数减少</source>
-        <translation type="unfinished"></translation>
+        <translation>位元數減少</translation>
     </message>
     <message>
         <source>用尽</source>
-        <translation type="unfinished"></translation>
+        <translation>用盡</translation>
     </message>
     <message>
         <source>%1 bit，%2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 位元，%2</translation>
     </message>
 </context>
 <context>
     <name>ChainLamp</name>
     <message>
         <source>未能证明</source>
-        <translation type="unfinished"></translation>
+        <translation>未能證明</translation>
     </message>
     <message>
         <source>非位完美</source>
-        <translation type="unfinished"></translation>
+        <translation>非 bit-perfect</translation>
     </message>
     <message>
         <source>自检没有通过</source>
-        <translation type="unfinished"></translation>
+        <translation>自檢未通過</translation>
     </message>
     <message>
         <source>不是位完美或未能证明：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>不是 bit-perfect 或未能證明：%1</translation>
     </message>
     <message>
         <source>尚未得知</source>
-        <translation type="unfinished"></translation>
+        <translation>尚不得知</translation>
     </message>
     <message>
         <source>引擎还没有报告这一首的信号链，所以什么也不断言。</source>
-        <translation type="unfinished"></translation>
+        <translation>引擎尚未回報這一首的訊號鏈，因此不做任何斷言。</translation>
     </message>
     <message>
         <source>位完美</source>
-        <translation type="unfinished">Bit-perfect</translation>
+        <translation>Bit-perfect</translation>
     </message>
 </context>
 <context>
     <name>ChainPanel</name>
     <message>
         <source>信号链</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈</translation>
     </message>
     <message>
         <source>信号链的结论</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈的結論</translation>
     </message>
 </context>
 <context>
     <name>ChainRow</name>
     <message>
         <source>重采样</source>
-        <translation type="unfinished"></translation>
+        <translation>重新取樣</translation>
     </message>
     <message>
         <source>后端</source>
-        <translation type="unfinished"></translation>
+        <translation>後端</translation>
     </message>
     <message>
         <source>输出格式</source>
-        <translation type="unfinished"></translation>
+        <translation>輸出格式</translation>
     </message>
     <message>
         <source>延时</source>
-        <translation type="unfinished"></translation>
+        <translation>延遲</translation>
     </message>
     <message>
         <source>音量</source>
-        <translation type="unfinished">音量</translation>
+        <translation>音量</translation>
     </message>
     <message>
         <source>变速</source>
-        <translation type="unfinished"></translation>
+        <translation>變速</translation>
     </message>
     <message>
         <source>结论</source>
-        <translation type="unfinished"></translation>
+        <translation>結論</translation>
     </message>
     <message>
         <source>链路</source>
-        <translation type="unfinished"></translation>
+        <translation>鏈路</translation>
     </message>
     <message>
         <source>欠载</source>
-        <translation type="unfinished"></translation>
+        <translation>欠載</translation>
     </message>
 </context>
 <context>
@@ -182,19 +182,19 @@
     <name>CheckMarkView</name>
     <message>
         <source>等待中</source>
-        <translation type="unfinished"></translation>
+        <translation>等候中</translation>
     </message>
     <message>
         <source>已证明</source>
-        <translation type="unfinished"></translation>
+        <translation>已證明</translation>
     </message>
     <message>
         <source>已证伪</source>
-        <translation type="unfinished"></translation>
+        <translation>已證偽</translation>
     </message>
     <message>
         <source>此处无法证明</source>
-        <translation type="unfinished"></translation>
+        <translation>此處無法證明</translation>
     </message>
 </context>
 <context>
@@ -252,23 +252,24 @@
     <message>
         <source>%1
 轨 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1
+軌 %2</translation>
     </message>
     <message>
         <source>(标签来自容器自带的信息; 本地库里没有额外的标签)</source>
-        <translation type="unfinished"></translation>
+        <translation>(標籤來自容器內建的資訊; 本機音樂庫裡沒有額外的標籤)</translation>
     </message>
     <message>
         <source>专辑: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>專輯: %1</translation>
     </message>
     <message>
         <source>年份: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>發行年份: %1</translation>
     </message>
     <message>
         <source>(标签来自本地库 —— 没有往 ISO/CUE 里写任何东西)</source>
-        <translation type="unfinished"></translation>
+        <translation>(標籤來自本機音樂庫 —— 沒有往 ISO/CUE 裡寫入任何東西)</translation>
     </message>
 </context>
 <context>
@@ -309,15 +310,15 @@
     <name>CoverDisc</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>專輯封面</translation>
     </message>
     <message>
         <source>无封面</source>
-        <translation type="unfinished"></translation>
+        <translation>無封面</translation>
     </message>
     <message>
         <source>有封面</source>
-        <translation type="unfinished"></translation>
+        <translation>已顯示封面</translation>
     </message>
 </context>
 <context>
@@ -360,7 +361,7 @@
     </message>
     <message>
         <source>总长</source>
-        <translation type="unfinished"></translation>
+        <translation>總長</translation>
     </message>
 </context>
 <context>
@@ -411,109 +412,109 @@
     </message>
     <message>
         <source>播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>播放順序</translation>
     </message>
     <message>
         <source>循环</source>
-        <translation type="unfinished"></translation>
+        <translation>循環</translation>
     </message>
     <message>
         <source>歌词</source>
-        <translation type="unfinished"></translation>
+        <translation>歌詞</translation>
     </message>
     <message>
         <source>歌词还没有做好，这个按钮以后才能用</source>
-        <translation type="unfinished"></translation>
+        <translation>歌詞功能尚未完成，這個按鈕之後的版本才能使用</translation>
     </message>
     <message>
         <source>静音</source>
-        <translation type="unfinished"></translation>
+        <translation>靜音</translation>
     </message>
     <message>
         <source>静音；再按一次回到原来的音量</source>
-        <translation type="unfinished"></translation>
+        <translation>靜音；再按一次回到原來的音量</translation>
     </message>
     <message>
         <source>工具</source>
-        <translation type="unfinished"></translation>
+        <translation>工具</translation>
     </message>
     <message>
         <source>曲库、标签、网络等工具</source>
-        <translation type="unfinished"></translation>
+        <translation>音樂庫、標籤、網路等工具</translation>
     </message>
     <message>
         <source>播放顺序：随机</source>
-        <translation type="unfinished"></translation>
+        <translation>播放順序：隨機</translation>
     </message>
     <message>
         <source>播放顺序：按列表</source>
-        <translation type="unfinished"></translation>
+        <translation>播放順序：依清單</translation>
     </message>
     <message>
         <source>循环：单曲</source>
-        <translation type="unfinished"></translation>
+        <translation>循環：單曲</translation>
     </message>
     <message>
         <source>循环：整个列表</source>
-        <translation type="unfinished"></translation>
+        <translation>循環：整個清單</translation>
     </message>
     <message>
         <source>循环：关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>循環：關閉</translation>
     </message>
 </context>
 <context>
     <name>DspBar</name>
     <message>
         <source>实时</source>
-        <translation type="unfinished"></translation>
+        <translation>即時</translation>
     </message>
     <message>
         <source>混响</source>
-        <translation type="unfinished"></translation>
+        <translation>殘響</translation>
     </message>
     <message>
         <source>音调</source>
-        <translation type="unfinished"></translation>
+        <translation>音調</translation>
     </message>
     <message>
         <source>平衡</source>
-        <translation type="unfinished"></translation>
+        <translation>平衡</translation>
     </message>
     <message>
         <source>空间</source>
-        <translation type="unfinished"></translation>
+        <translation>空間</translation>
     </message>
     <message>
         <source>降噪</source>
-        <translation type="unfinished">降噪</translation>
+        <translation>降噪</translation>
     </message>
     <message>
         <source>均衡器</source>
-        <translation type="unfinished"></translation>
+        <translation>等化器</translation>
     </message>
     <message>
         <source>这一页效果还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>這一頁效果尚未完成，之後的版本才會提供</translation>
     </message>
     <message>
         <source>效果正作用在听到的声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>效果正作用於目前聽到的聲音</translation>
     </message>
     <message>
         <source>现在没有效果作用在声音上</source>
-        <translation type="unfinished"></translation>
+        <translation>目前沒有效果作用於聲音</translation>
     </message>
 </context>
 <context>
     <name>DspTab</name>
     <message>
         <source>效果已开</source>
-        <translation type="unfinished"></translation>
+        <translation>效果已開啟</translation>
     </message>
     <message>
         <source>效果已关</source>
-        <translation type="unfinished"></translation>
+        <translation>效果已關閉</translation>
     </message>
 </context>
 <context>
@@ -945,117 +946,117 @@
     <name>HistoryStore</name>
     <message>
         <source>播放列表的撤销记录已损坏, 不能用 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>播放清單的復原記錄已損毀, 無法使用 ⇒ 從空白記錄開始: %1</translation>
     </message>
     <message>
         <source>播放列表的撤销记录和保存的列表对不上 ⇒ 从空记录开始: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>播放清單的復原記錄與儲存的清單不符 ⇒ 從空白記錄開始: %1</translation>
     </message>
     <message>
         <source>写不了播放列表的撤销记录, 重启后不能撤销: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>無法寫入播放清單的復原記錄, 重新啟動後不能復原: %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>InstrumentPanel</name>
     <message>
         <source>左声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>左聲道電平</translation>
     </message>
     <message>
         <source>右声道电平</source>
-        <translation type="unfinished"></translation>
+        <translation>右聲道電平</translation>
     </message>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>頻譜</translation>
     </message>
     <message>
         <source>波形</source>
-        <translation type="unfinished"></translation>
+        <translation>波形圖</translation>
     </message>
 </context>
 <context>
     <name>LibraryPanel</name>
     <message>
         <source>搜索标题 / 艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>搜尋曲名 / 藝人</translation>
     </message>
     <message>
         <source>搜索</source>
-        <translation type="unfinished"></translation>
+        <translation>搜尋</translation>
     </message>
     <message>
         <source>显示的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示的 / 全部</translation>
     </message>
     <message>
         <source>搜索和筛选还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>搜尋與篩選尚未完成，之後的版本才會提供</translation>
     </message>
     <message>
         <source>曲库 · TITLE</source>
-        <translation type="unfinished"></translation>
+        <translation>音樂庫 · TITLE</translation>
     </message>
     <message>
         <source>正在播放的 / 全部</source>
-        <translation type="unfinished"></translation>
+        <translation>目前播放 / 全部</translation>
     </message>
     <message>
         <source>全部</source>
-        <translation type="unfinished"></translation>
+        <translation>全部</translation>
     </message>
     <message>
         <source>镜像</source>
-        <translation type="unfinished"></translation>
+        <translation>映像檔</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation type="unfinished"></translation>
+        <translation>全部藝人</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>依藝人篩選</translation>
     </message>
     <message>
         <source>全部专辑</source>
-        <translation type="unfinished"></translation>
+        <translation>全部專輯</translation>
     </message>
     <message>
         <source>按专辑筛选</source>
-        <translation type="unfinished"></translation>
+        <translation>依專輯篩選</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation type="unfinished">匯入</translation>
+        <translation>匯入</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
-        <translation type="unfinished">把音訊檔案加到清單末尾</translation>
+        <translation>把音訊檔案加到清單末尾</translation>
     </message>
     <message>
         <source>文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>資料夾</translation>
     </message>
     <message>
         <source>把一个文件夹里的音频加到列表末尾；不进子文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>把資料夾裡的音訊加到清單末尾；不進入子資料夾</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>把选中的曲目从列表移除；文件不动</source>
-        <translation type="unfinished"></translation>
+        <translation>把選取的曲目從清單移除；檔案不動</translation>
     </message>
     <message>
         <source>清空</source>
-        <translation type="unfinished"></translation>
+        <translation>清空</translation>
     </message>
     <message>
         <source>清空列表；文件不动，可以撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>清空清單；檔案不動，可以復原</translation>
     </message>
 </context>
 <context>
@@ -1069,11 +1070,11 @@
     <name>MiniCover</name>
     <message>
         <source>封面</source>
-        <translation type="unfinished"></translation>
+        <translation>專輯封面</translation>
     </message>
     <message>
         <source>在列表里显示正在播放的曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>在清單裡顯示正在播放的曲目</translation>
     </message>
 </context>
 <context>
@@ -1099,41 +1100,41 @@
     <name>NowPlaying</name>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">選擇曲目或匯入音訊</translation>
+        <translation>選擇曲目或匯入音訊</translation>
     </message>
 </context>
 <context>
     <name>PlayOrder</name>
     <message>
         <source>随机</source>
-        <translation type="unfinished"></translation>
+        <translation>隨機</translation>
     </message>
     <message>
         <source>顺序</source>
-        <translation type="unfinished">循序</translation>
+        <translation>循序</translation>
     </message>
     <message>
         <source> · 不循环</source>
-        <translation type="unfinished"> · 不循環</translation>
+        <translation> · 不循環</translation>
     </message>
     <message>
         <source> · 列表循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · 清單循環</translation>
     </message>
     <message>
         <source> · 单曲循环</source>
-        <translation type="unfinished"></translation>
+        <translation> · 單曲循環</translation>
     </message>
 </context>
 <context>
     <name>PlaySpeed</name>
     <message>
         <source>播放速度: %1×%2</source>
-        <translation type="unfinished"></translation>
+        <translation>播放速度: %1×%2</translation>
     </message>
     <message>
-        <source>（播放中立即生效）</source>
-        <translation type="unfinished"></translation>
+        <source> （播放中立即生效）</source>
+        <translation> （播放時立即生效）</translation>
     </message>
 </context>
 <context>
@@ -1380,239 +1381,239 @@
     </message>
     <message>
         <source>这条链上没有 PCM（DSD 直通）——没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>這條鏈上沒有 PCM（DSD 直通）——沒有波形</translation>
     </message>
     <message>
         <source>此路径没有频谱：DSD 直接输出不含 PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>此路徑沒有頻譜：DSD 直接輸出不含 PCM</translation>
     </message>
     <message>
         <source>信号链报告：没有播放会话，只显示上一次的报告。</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈報告：沒有播放工作階段，只顯示上一次的報告。</translation>
     </message>
     <message>
         <source>保存信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存訊號鏈報告</translation>
     </message>
     <message>
         <source>信号链报告已保存：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈報告已儲存：%1</translation>
     </message>
     <message>
         <source>保存信号链报告失败：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存訊號鏈報告失敗：%1</translation>
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢：沒有播放工作階段 —— 請先開始播放（沒有音訊串流就無從判斷）</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢：已請引擎逐項檢查</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢的結論：%1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>已恢復純淨預設值（效果全關 / 1.0x / 無交叉淡化 / 音量 100 / 版面與佈景主題重設），並已開始 bit-perfect 自檢</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>播放順序: %1</translation>
     </message>
     <message>
         <source>A/B 循环: 还没有播放任何曲目，无处可标</source>
-        <translation type="unfinished"></translation>
+        <translation>A/B 循環: 尚未播放任何曲目，無處可標</translation>
     </message>
     <message>
         <source>跳过 %1 个音频文件: 本播放器没有它们的解码器 (MP3/AAC/OGG)</source>
-        <translation type="unfinished"></translation>
+        <translation>略過 %1 個音訊檔案: 本播放器沒有它們的解碼器 (MP3/AAC/OGG)</translation>
     </message>
     <message>
         <source>跳过 %1 个文件: 文件名不是合法的 UTF-8, 打不开</source>
-        <translation type="unfinished"></translation>
+        <translation>略過 %1 個檔案: 檔名不是合法的 UTF-8, 無法開啟</translation>
     </message>
     <message>
         <source>已添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已加入 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>批量添加耗时 %1 ms (%2 首, 只排版一次)</source>
-        <translation type="unfinished"></translation>
+        <translation>批次加入耗時 %1 ms (%2 首, 只排版一次)</translation>
     </message>
     <message>
         <source>没有可以添加的音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有可以加入的音訊檔案</translation>
     </message>
     <message>
         <source>音频文件 (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>音訊檔案 (%1)</translation>
     </message>
     <message>
         <source>所有文件 (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>所有檔案 (*)</translation>
     </message>
     <message>
         <source>添加文件夹</source>
-        <translation type="unfinished"></translation>
+        <translation>加入資料夾</translation>
     </message>
     <message>
         <source>正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)</source>
-        <translation type="unfinished"></translation>
+        <translation>正在播放的曲目已從清單移除 (聲音繼續, 但它已不在清單裡)</translation>
     </message>
     <message>
         <source>已移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已移除 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>播放列表已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>播放清單已清空</translation>
     </message>
     <message>
         <source>这次改动太大, 记不下来 ⇒ 不能撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>這次變更太大, 無法記錄 ⇒ 不能復原</translation>
     </message>
     <message>
         <source>没有可以撤销的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有可以復原的變更</translation>
     </message>
     <message>
         <source>撤销记录和播放列表对不上 ⇒ 不撤销, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>復原記錄與播放清單不符 ⇒ 不復原, 記錄已清空</translation>
     </message>
     <message>
         <source>没有可以重做的改动</source>
-        <translation type="unfinished"></translation>
+        <translation>沒有可以重做的變更</translation>
     </message>
     <message>
         <source>重做记录和播放列表对不上 ⇒ 不重做, 记录已清空</source>
-        <translation type="unfinished"></translation>
+        <translation>重做記錄與播放清單不符 ⇒ 不重做, 記錄已清空</translation>
     </message>
     <message>
         <source>移除</source>
-        <translation type="unfinished"></translation>
+        <translation>移除</translation>
     </message>
     <message>
         <source>在文件管理器中显示</source>
-        <translation type="unfinished"></translation>
+        <translation>在檔案管理員中顯示</translation>
     </message>
     <message>
         <source>移到最前</source>
-        <translation type="unfinished"></translation>
+        <translation>移到最上方</translation>
     </message>
     <message>
         <source>移到最后</source>
-        <translation type="unfinished"></translation>
+        <translation>移到最下方</translation>
     </message>
     <message>
         <source>属性</source>
-        <translation type="unfinished"></translation>
+        <translation>屬性</translation>
     </message>
     <message>
         <source>全选</source>
-        <translation type="unfinished"></translation>
+        <translation>全選</translation>
     </message>
     <message>
         <source>撤销</source>
-        <translation type="unfinished"></translation>
+        <translation>復原</translation>
     </message>
     <message>
         <source>重做</source>
-        <translation type="unfinished"></translation>
+        <translation>重做</translation>
     </message>
     <message>
         <source>添加文件夹…</source>
-        <translation type="unfinished"></translation>
+        <translation>加入資料夾…</translation>
     </message>
     <message>
         <source>清空列表</source>
-        <translation type="unfinished"></translation>
+        <translation>清空清單</translation>
     </message>
     <message>
         <source>没有文件管理器应答 ⇒ 改为打开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案管理員沒有回應 ⇒ 改為開啟資料夾: %1</translation>
     </message>
     <message>
         <source>打不开文件夹: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟資料夾: %1</translation>
     </message>
     <message>
         <source>曲目属性</source>
-        <translation type="unfinished"></translation>
+        <translation>曲目屬性</translation>
     </message>
     <message>
         <source>播放列表已恢复: %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>播放清單已還原: %1 首</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首 — %2</source>
-        <translation type="unfinished"></translation>
+        <translation>上次播放: 第 %1 首 — %2</translation>
     </message>
     <message>
         <source>上次播放: 第 %1 首</source>
-        <translation type="unfinished"></translation>
+        <translation>上次播放: 第 %1 首</translation>
     </message>
     <message>
         <source>恢复播放列表时跳过 %1 首 (文件已不存在)</source>
-        <translation type="unfinished"></translation>
+        <translation>還原播放清單時略過 %1 首 (檔案已不存在)</translation>
     </message>
     <message>
         <source>离线模式已打开：拒绝了 %1（可在设置里关闭离线模式）</source>
-        <translation type="unfinished"></translation>
+        <translation>離線模式已開啟：拒絕了 %1（可在設定裡關閉離線模式）</translation>
     </message>
     <message>
         <source>手机遥控(监听端口)</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控(監聽連接埠)</translation>
     </message>
     <message>
         <source>手机遥控：已关闭（端口不再监听）</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控：已關閉（不再監聽連接埠）</translation>
     </message>
     <message>
         <source>手机遥控：拒绝了一个令牌不对的请求（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控：拒絕了一個權杖不符的請求（%1）</translation>
     </message>
     <message>
         <source>手机遥控：无法监听端口 %1（%2）</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控：無法監聽連接埠 %1（%2）</translation>
     </message>
     <message>
         <source>手机遥控：已打开，端口 %1，令牌 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控：已開啟，連接埠 %1，權杖 %2</translation>
     </message>
     <message>
         <source>手机遥控地址：%1</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控位址：%1</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>版面: 側欄寬度 %1 超出範圍, 已限制為 %2 px</translation>
     </message>
     <message>
         <source>布局: 侧栏宽度 %1 px</source>
-        <translation type="unfinished"></translation>
+        <translation>版面: 側欄寬度 %1 px</translation>
     </message>
     <message>
         <source>布局已重置(窗口大小/位置/侧栏宽度)</source>
-        <translation type="unfinished"></translation>
+        <translation>版面已重設(視窗大小/位置/側欄寬度)</translation>
     </message>
     <message>
         <source>窗口位置: 存下的记录读不出来, 用默认大小</source>
-        <translation type="unfinished"></translation>
+        <translation>視窗位置: 儲存的記錄無法讀取, 使用預設大小</translation>
     </message>
     <message>
         <source>窗口位置: 原来的屏幕不在了, 移到主屏幕中间</source>
-        <translation type="unfinished"></translation>
+        <translation>視窗位置: 原來的螢幕已不存在, 移到主螢幕中央</translation>
     </message>
     <message>
         <source>曲库里找不到正在播放的这一首</source>
-        <translation type="unfinished"></translation>
+        <translation>音樂庫裡找不到正在播放的這一首</translation>
     </message>
     <message>
         <source>帮助</source>
-        <translation type="unfinished"></translation>
+        <translation>說明</translation>
     </message>
     <message>
         <source>## 播放
@@ -1632,110 +1633,126 @@
 
 右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。“位完美自检”逐项检查。
 </source>
-        <translation type="unfinished"></translation>
+        <translation>## 播放
+
+把檔案或資料夾拖進視窗，在任一列上按兩下即開始播放。播放中不能跳轉：位置只在曲目開始時到達。
+
+## 鍵盤
+
+- **空白鍵** 播放 / 暫停
+- **Ctrl+→** 下一首，**Ctrl+←** 上一首
+- **Ctrl+↑ / Ctrl+↓** 音量
+- **Ctrl+空白鍵** 停止，**Ctrl+O** 匯入檔案，**F11** 最大化 / 還原
+- **Ctrl+,** 設定
+- 清單裡：**Enter** 播放，**Delete** 移除，**Ctrl+Z** 復原，**Ctrl+Shift+Z** 重做
+
+## Bit-perfect
+
+右欄說明樣本經過了什麼。只有讀回了裝置收到的資料，才會說“送達已驗證”。“Bit-perfect 自檢”逐項檢查。
+</translation>
     </message>
     <message>
         <source>日志文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄檔: %1</translation>
     </message>
     <message>
         <source>设置文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>設定檔: %1</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
     <message>
         <source>正在等待波形</source>
-        <translation type="unfinished"></translation>
+        <translation>等待波形中</translation>
     </message>
     <message>
         <source>示波器已关闭，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>示波器已關閉，沒有波形</translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
-        <translation type="unfinished"></translation>
+        <translation>逐項檢查目前的播放是否改動樣本</translation>
     </message>
     <message>
         <source>信号链报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈報告…</translation>
     </message>
     <message>
         <source>显示引擎自己对信号链的报告，可以保存</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示引擎自己對訊號鏈的報告，可以儲存</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時</translation>
     </message>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控</translation>
     </message>
     <message>
         <source>日志面板已清空；日志文件保留</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄面板已清空；記錄檔保留</translation>
     </message>
     <message>
         <source>浅色</source>
-        <translation type="unfinished"></translation>
+        <translation>淺色</translation>
     </message>
     <message>
         <source>深色</source>
-        <translation type="unfinished"></translation>
+        <translation>深色</translation>
     </message>
     <message>
         <source>主题: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>佈景主題: %1</translation>
     </message>
     <message>
         <source>跟随系统（%1）</source>
-        <translation type="unfinished"></translation>
+        <translation>跟隨系統（%1）</translation>
     </message>
     <message>
         <source>封面没有可用的主色（纯黑/灰/白）⇒ 强调色保持为你选的颜色</source>
-        <translation type="unfinished"></translation>
+        <translation>封面沒有可用的主色（純黑/灰/白）⇒ 強調色維持你所選的顏色</translation>
     </message>
     <message>
         <source>强调色跟随封面: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>強調色跟隨封面: %1</translation>
     </message>
     <message>
         <source>选择曲目或导入音频</source>
-        <translation type="unfinished">選擇曲目或匯入音訊</translation>
+        <translation>選擇曲目或匯入音訊</translation>
     </message>
 </context>
 <context>
     <name>PlaylistChange</name>
     <message>
         <source>已撤销添加的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已取消加入的 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>已恢复移除的 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已還原移除的 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>已恢复原来的播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>已還原先前的播放順序</translation>
     </message>
     <message>
         <source>已重新添加 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已重新加入 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>已重新移除 %1 首 (列表共 %2 首)</source>
-        <translation type="unfinished"></translation>
+        <translation>已重新移除 %1 首 (清單共 %2 首)</translation>
     </message>
     <message>
         <source>已重新调整播放顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>已重新調整播放順序</translation>
     </message>
 </context>
 <context>
@@ -1757,11 +1774,11 @@
     <name>ProgressDial</name>
     <message>
         <source>播放进度</source>
-        <translation type="unfinished">播放進度</translation>
+        <translation>播放進度</translation>
     </message>
     <message>
         <source>只显示进度：播放中不能跳转</source>
-        <translation type="unfinished">只顯示進度：播放中不能跳轉</translation>
+        <translation>只顯示進度：播放中不能跳轉</translation>
     </message>
 </context>
 <context>
@@ -1791,331 +1808,332 @@
     </message>
     <message>
         <source>循环起点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>循環起點：標在目前的位置；A 和 B 都標好就開始循環，再按一次取消</translation>
     </message>
     <message>
         <source>循环终点：标在现在的位置；A 和 B 都标好就开始循环，再按一次取消</source>
-        <translation type="unfinished"></translation>
+        <translation>循環終點：標在目前的位置；A 和 B 都標好就開始循環，再按一次取消</translation>
     </message>
 </context>
 <context>
     <name>RemoteControls</name>
     <message>
         <source>手机遥控</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控</translation>
     </message>
     <message>
         <source>同一 Wi-Fi 里的手机用浏览器控制播放；开启时在本机监听一个端口</source>
-        <translation type="unfinished"></translation>
+        <translation>同一個 Wi-Fi 裡的手機用瀏覽器控制播放；開啟時在本機監聽一個連接埠</translation>
     </message>
     <message>
         <source>端口</source>
-        <translation type="unfinished"></translation>
+        <translation>連接埠</translation>
     </message>
     <message>
         <source>手机遥控的监听端口；在打开开关的那一刻读取</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控的監聽連接埠；在開啟開關的那一刻讀取</translation>
     </message>
     <message>
         <source>手机遥控端口</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控連接埠</translation>
     </message>
     <message>
         <source>手机遥控地址</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控位址</translation>
     </message>
     <message>
         <source>本机没有局域网 IPv4 地址</source>
-        <translation type="unfinished"></translation>
+        <translation>本機沒有區域網路 IPv4 位址</translation>
     </message>
     <message>
         <source>用手机浏览器打开（手机与电脑在同一 Wi-Fi）：
 %1</source>
-        <translation type="unfinished"></translation>
+        <translation>用手機瀏覽器開啟（手機與電腦在同一個 Wi-Fi）：
+%1</translation>
     </message>
     <message>
         <source>手机遥控：已关闭</source>
-        <translation type="unfinished"></translation>
+        <translation>手機遙控：已關閉</translation>
     </message>
 </context>
 <context>
     <name>ReportDialog</name>
     <message>
         <source>信号链报告</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈報告</translation>
     </message>
     <message>
         <source>再取一次</source>
-        <translation type="unfinished"></translation>
+        <translation>重新取得</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存報告…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
 </context>
 <context>
     <name>RowProperties</name>
     <message>
         <source>类型: 网络电台</source>
-        <translation type="unfinished"></translation>
+        <translation>類型: 網路電台</translation>
     </message>
     <message>
         <source>类型: CUE 分轨, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>類型: CUE 分軌, 第 %1 軌</translation>
     </message>
     <message>
         <source>类型: SACD 镜像, 第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>類型: SACD 映像檔, 第 %1 軌</translation>
     </message>
     <message>
         <source>类型: 容器里的第 %1 轨</source>
-        <translation type="unfinished"></translation>
+        <translation>類型: 容器裡的第 %1 軌</translation>
     </message>
     <message>
         <source>类型: 音频文件</source>
-        <translation type="unfinished"></translation>
+        <translation>類型: 音訊檔案</translation>
     </message>
     <message>
         <source>显示: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>顯示: %1</translation>
     </message>
     <message>
         <source>位置: 第 %1/%2 项</source>
-        <translation type="unfinished"></translation>
+        <translation>位置: 第 %1/%2 項</translation>
     </message>
     <message>
         <source>格式: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>格式: %1</translation>
     </message>
     <message>
         <source>文件: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案: %1</translation>
     </message>
     <message>
         <source>CUE 表: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>CUE 檔: %1</translation>
     </message>
     <message>
         <source>时间: %1 s → %2 s (长 %3 s)</source>
-        <translation type="unfinished"></translation>
+        <translation>時間: %1 s → %2 s (長 %3 s)</translation>
     </message>
 </context>
 <context>
     <name>ScopeView</name>
     <message>
         <source>示波器</source>
-        <translation type="unfinished"></translation>
+        <translation>示波器</translation>
     </message>
     <message>
         <source>未播放，没有波形</source>
-        <translation type="unfinished"></translation>
+        <translation>未播放，沒有波形</translation>
     </message>
     <message>
         <source>最大振幅: 左 %1%, 右 %2%</source>
         <extracomment>Spoken by a screen reader: the largest sample of each channel in percent of full scale.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>最大振幅: 左 %1%, 右 %2%</translation>
     </message>
 </context>
 <context>
     <name>SegmentMeter</name>
     <message>
         <source>本声道的输出峰值（dBFS）：引擎每秒报告 20 次，分辨率 0.01 dB，下限 −120 dB（再低就显示 −∞ dB）；到 0 dBFS 时红段停留 1.5 秒（可能削波）</source>
-        <translation type="unfinished"></translation>
+        <translation>本聲道的輸出峰值（dBFS）：引擎每秒回報 20 次，解析度 0.01 dB，下限 −120 dB（更低就顯示 −∞ dB）；到 0 dBFS 時紅段停留 1.5 秒（可能削波）</translation>
     </message>
 </context>
 <context>
     <name>SelfCheck</name>
     <message>
         <source>源是否无损</source>
-        <translation type="unfinished"></translation>
+        <translation>音源是否無損</translation>
     </message>
     <message>
         <source>正在等待引擎回答。</source>
-        <translation type="unfinished"></translation>
+        <translation>正在等待引擎回覆。</translation>
     </message>
     <message>
         <source>源是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>音源是無損的</translation>
     </message>
     <message>
         <source>编码还原出编入的每一个采样，没有丢弃任何东西。</source>
-        <translation type="unfinished"></translation>
+        <translation>編碼能還原編入的每一個樣本，沒有捨棄任何東西。</translation>
     </message>
     <message>
         <source>源不是无损的</source>
-        <translation type="unfinished"></translation>
+        <translation>音源不是無損的</translation>
     </message>
     <message>
         <source>文件里已经没有全部的原始采样，之后的任何环节都补不回来。</source>
-        <translation type="unfinished"></translation>
+        <translation>檔案裡已經沒有全部的原始樣本，之後的任何環節都補不回來。</translation>
     </message>
     <message>
         <source>源是否无损无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>音源是否無損無從得知</translation>
     </message>
     <message>
         <source>引擎没有给出能证明的依据；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>引擎沒有提供足以證明的依據；這不算通過。</translation>
     </message>
     <message>
         <source>通路有没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>路徑有沒有改動</translation>
     </message>
     <message>
         <source>通路没有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>路徑沒有改動</translation>
     </message>
     <message>
         <source>从文件到设备之间，没有任何环节改动过采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>從檔案到裝置之間，沒有任何環節改動過樣本。</translation>
     </message>
     <message>
         <source>通路有改动</source>
-        <translation type="unfinished"></translation>
+        <translation>路徑有改動</translation>
     </message>
     <message>
         <source>从文件到设备之间，有环节改动了采样。</source>
-        <translation type="unfinished"></translation>
+        <translation>從檔案到裝置之間，有環節改動了樣本。</translation>
     </message>
     <message>
         <source>通路有没有改动无从得知</source>
-        <translation type="unfinished"></translation>
+        <translation>路徑有沒有改動無從得知</translation>
     </message>
     <message>
         <source>交付是否核实</source>
-        <translation type="unfinished"></translation>
+        <translation>送達是否已驗證</translation>
     </message>
     <message>
         <source>交付已核实</source>
-        <translation type="unfinished"></translation>
+        <translation>送達已驗證</translation>
     </message>
     <message>
         <source>设备按要求打开，读回的格式与送出的一致。</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置依要求開啟，讀回的格式與送出的一致。</translation>
     </message>
     <message>
         <source>交付有出入</source>
-        <translation type="unfinished"></translation>
+        <translation>送達有出入</translation>
     </message>
     <message>
         <source>到达设备的不是我们送出的，或者途中有别的环节。</source>
-        <translation type="unfinished"></translation>
+        <translation>到達裝置的不是我們送出的，或者途中有別的環節。</translation>
     </message>
     <message>
         <source>交付无法核实</source>
-        <translation type="unfinished"></translation>
+        <translation>送達無法驗證</translation>
     </message>
     <message>
         <source>设备实际以什么格式运行读不回来；这不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>裝置實際以什麼格式運作無法讀回；這不算通過。</translation>
     </message>
     <message>
         <source>最先破坏位完美的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>最先破壞 bit-perfect 的環節：%1。</translation>
     </message>
     <message>
         <source>最先无法证明的环节：%1。</source>
-        <translation type="unfinished"></translation>
+        <translation>最先無法證明的環節：%1。</translation>
     </message>
 </context>
 <context>
     <name>SelfCheckDialog</name>
     <message>
         <source>结论：位完美 ✓  </source>
-        <translation type="unfinished"></translation>
+        <translation>結論：bit-perfect ✓  </translation>
     </message>
     <message>
         <source>结论：非位完美 ✗  </source>
-        <translation type="unfinished"></translation>
+        <translation>結論：非 bit-perfect ✗  </translation>
     </message>
     <message>
         <source>位完美自检</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
-        <translation type="unfinished"></translation>
+        <translation>引擎逐一檢查正在播放的這條鏈路：音源、解碼、重新取樣、效果、變速、音量、淡化、峰值保護、位元深度、混音器、裝置讀回與欠載。判斷只看各環節此刻的實際狀態，不看設定；無法證明的不算通過。</translation>
     </message>
     <message>
         <source>逐项检查的结果</source>
-        <translation type="unfinished"></translation>
+        <translation>逐項檢查的結果</translation>
     </message>
     <message>
         <source>保存报告…</source>
-        <translation type="unfinished"></translation>
+        <translation>儲存報告…</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
     <message>
         <source>检查中…</source>
-        <translation type="unfinished"></translation>
+        <translation>檢查中…</translation>
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit-perfect 自檢 — %1</translation>
     </message>
     <message>
         <source>通过</source>
-        <translation type="unfinished">通過</translation>
+        <translation>通過</translation>
     </message>
     <message>
         <source>未通过</source>
-        <translation type="unfinished"></translation>
+        <translation>未通過</translation>
     </message>
 </context>
 <context>
     <name>SetupDialog</name>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
 </context>
 <context>
     <name>SleepControls</name>
     <message>
         <source>关闭</source>
-        <translation type="unfinished">關閉</translation>
+        <translation>關閉</translation>
     </message>
     <message>
         <source>%1 分钟后</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 分鐘後</translation>
     </message>
     <message>
         <source>睡眠定时</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時</translation>
     </message>
     <message>
         <source>到时间后用十秒淡出，然后停止</source>
-        <translation type="unfinished"></translation>
+        <translation>時間到時用十秒淡出，然後停止</translation>
     </message>
 </context>
 <context>
     <name>SleepTimer</name>
     <message>
         <source>睡眠定时: 关</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時: 關</translation>
     </message>
     <message>
         <source>睡眠定时: %1 分钟</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時: %1 分鐘</translation>
     </message>
     <message>
         <source>睡眠定时: 开始淡出(10 秒后停止)</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時: 開始淡出(10 秒後停止)</translation>
     </message>
     <message>
         <source>睡眠定时: 已淡出并停止播放</source>
-        <translation type="unfinished"></translation>
+        <translation>睡眠定時: 已淡出並停止播放</translation>
     </message>
 </context>
 <context>
@@ -2141,12 +2159,12 @@
     <name>SpectrumView</name>
     <message>
         <source>频谱</source>
-        <translation type="unfinished"></translation>
+        <translation>頻譜</translation>
     </message>
     <message>
         <source>最强频段: 左 %1, 右 %2, 共 %3</source>
         <extracomment>Spoken by a screen reader: two numbers of frequency bands, counted from 1, and how many there are.</extracomment>
-        <translation type="unfinished"></translation>
+        <translation>最強頻段: 左 %1, 右 %2, 共 %3</translation>
     </message>
 </context>
 <context>
@@ -2188,114 +2206,114 @@
     <name>TitleBar</name>
     <message>
         <source>打开设置(Setup Menu)</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟設定(Setup Menu)</translation>
     </message>
     <message>
         <source>设置</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>最小化</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>最大化</source>
-        <translation type="unfinished"></translation>
+        <translation>最大化</translation>
     </message>
     <message>
         <source>关闭窗口</source>
-        <translation type="unfinished"></translation>
+        <translation>關閉視窗</translation>
     </message>
     <message>
         <source>%1：亮</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：亮起</translation>
     </message>
     <message>
         <source>%1：灭</source>
-        <translation type="unfinished"></translation>
+        <translation>%1：熄滅</translation>
     </message>
     <message>
         <source>还原</source>
-        <translation type="unfinished"></translation>
+        <translation>還原</translation>
     </message>
 </context>
 <context>
     <name>ToolsMenu</name>
     <message>
         <source>扫描曲库文件夹(增量)</source>
-        <translation type="unfinished"></translation>
+        <translation>掃描音樂庫資料夾(增量)</translation>
     </message>
     <message>
         <source>查找重复曲目</source>
-        <translation type="unfinished"></translation>
+        <translation>尋找重複曲目</translation>
     </message>
     <message>
         <source>批量编辑标签</source>
-        <translation type="unfinished"></translation>
+        <translation>批次編輯標籤</translation>
     </message>
     <message>
         <source>智能播放列表</source>
-        <translation type="unfinished"></translation>
+        <translation>智慧播放清單</translation>
     </message>
     <message>
         <source>年度报告</source>
-        <translation type="unfinished"></translation>
+        <translation>年度報告</translation>
     </message>
     <message>
         <source>曲目分析</source>
-        <translation type="unfinished">曲目分析</translation>
+        <translation>曲目分析</translation>
     </message>
     <message>
         <source>DSP 顺序</source>
-        <translation type="unfinished"></translation>
+        <translation>DSP 順序</translation>
     </message>
     <message>
         <source>指纹比对</source>
-        <translation type="unfinished"></translation>
+        <translation>指紋比對</translation>
     </message>
     <message>
         <source>在线补全标签</source>
-        <translation type="unfinished"></translation>
+        <translation>線上補全標籤</translation>
     </message>
     <message>
         <source>网络曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>網路音樂庫</translation>
     </message>
     <message>
         <source>手机同步</source>
-        <translation type="unfinished"></translation>
+        <translation>手機同步</translation>
     </message>
     <message>
         <source>插件</source>
-        <translation type="unfinished"></translation>
+        <translation>外掛程式</translation>
     </message>
     <message>
         <source>电台/网络/接力</source>
-        <translation type="unfinished"></translation>
+        <translation>電台/網路/接力</translation>
     </message>
     <message>
         <source>车载模式</source>
-        <translation type="unfinished"></translation>
+        <translation>車用模式</translation>
     </message>
     <message>
         <source>网络挂载</source>
-        <translation type="unfinished"></translation>
+        <translation>網路掛載</translation>
     </message>
     <message>
         <source>校验曲库</source>
-        <translation type="unfinished"></translation>
+        <translation>驗證音樂庫</translation>
     </message>
     <message>
         <source>清空日志</source>
-        <translation type="unfinished"></translation>
+        <translation>清空記錄</translation>
     </message>
     <message>
         <source>帮助…</source>
-        <translation type="unfinished"></translation>
+        <translation>說明…</translation>
     </message>
     <message>
         <source>这个功能还没有做好，以后的版本才有</source>
-        <translation type="unfinished"></translation>
+        <translation>這個功能尚未完成，之後的版本才會提供</translation>
     </message>
 </context>
 <context>
@@ -2366,26 +2384,26 @@
     <name>ValueCards</name>
     <message>
         <source>码率</source>
-        <translation type="unfinished"></translation>
+        <translation>位元率</translation>
     </message>
     <message>
         <source>采样率</source>
-        <translation type="unfinished"></translation>
+        <translation>取樣率</translation>
     </message>
     <message>
         <source>声道</source>
-        <translation type="unfinished"></translation>
+        <translation>聲道</translation>
     </message>
     <message>
         <source>播放次数</source>
-        <translation type="unfinished"></translation>
+        <translation>播放次數</translation>
     </message>
 </context>
 <context>
     <name>WarningCount</name>
     <message>
         <source>信号链有 %1 条警告</source>
-        <translation type="unfinished"></translation>
+        <translation>訊號鏈有 %1 則警告</translation>
     </message>
 </context>
 </TS>

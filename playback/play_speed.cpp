@@ -31,5 +31,5 @@ QString speedText(double ratio, bool playing)
 {
     return translated(QT_TRANSLATE_NOOP("PlaySpeed", "播放速度: %1×%2"))
         .arg(speedRatioText(ratio),
-             playing ? translated(QT_TRANSLATE_NOOP("PlaySpeed", "（播放中立即生效）")) : QString());
+             playing ? translated(QT_TRANSLATE_NOOP("PlaySpeed", " （播放中立即生效）")) : QString());
 }

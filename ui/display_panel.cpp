@@ -72,10 +72,16 @@ DisplayPanel::DisplayPanel(QWidget *parent)
     auto *line = new QFrame(m_screen);
     line->setObjectName("vesperVfdLine"_L1);
     line->setFixedHeight(1);
+    // Time runs from left to right in every language.
+    auto *times = new QWidget(m_screen);
+    times->setLayoutDirection(Qt::LeftToRight);
+    auto *pair = new QHBoxLayout(times);
+    pair->setContentsMargins(0, 0, 0, 0);
+    pair->setSpacing(10);
+    pair->addWidget(m_time, 0, Qt::AlignBottom);
+    pair->addWidget(m_total, 0, Qt::AlignBottom);
     auto *bottom = new QHBoxLayout;
-    bottom->setSpacing(10);
-    bottom->addWidget(m_time, 0, Qt::AlignBottom);
-    bottom->addWidget(m_total, 0, Qt::AlignBottom);
+    bottom->addWidget(times, 0, Qt::AlignBottom);
     bottom->addStretch();
     bottom->addWidget(m_status, 0, Qt::AlignBottom);
 

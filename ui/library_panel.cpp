@@ -39,6 +39,10 @@ LibraryPanel::LibraryPanel(QWidget *list, QWidget *parent)
     inside->setContentsMargins(0, 0, 10, 0);
     inside->addStretch();
     inside->addWidget(m_shown);
+    // The text keeps clear of the count, on whichever side that stands.
+    const int kept = m_shown->fontMetrics().horizontalAdvance(u"00000 / 00000"_s);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    search->setTextMargins(mirrored ? kept : 0, 0, mirrored ? 0 : kept, 0);
     rows->addWidget(search);
     rows->addLayout(buildChips());
     rows->addLayout(buildCombos());

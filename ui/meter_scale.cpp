@@ -23,6 +23,8 @@ MeterScale::MeterScale(QWidget *parent)
     setFixedHeight(fixedHeight);
     setAttribute(Qt::WA_TransparentForMouseEvents);
     setFont(figureFont(figurePixels));
+    // A minus stands before its number in every language.
+    setLayoutDirection(Qt::LeftToRight);
 }
 
 void MeterScale::paintEvent(QPaintEvent *)

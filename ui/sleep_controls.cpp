@@ -22,7 +22,8 @@ SleepControls::SleepControls(QWidget *parent)
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(m_minutes);
     row->addWidget(m_state, 1);
-    connect(m_minutes, &QComboBox::activated, this, [this] { Q_EMIT chosen(m_minutes->currentData().toInt()); });
+    connect(m_minutes, &QComboBox::activated, this,
+            [this] { Q_EMIT chosen(m_minutes->currentData().toInt()); });
 }
 
 void SleepControls::showTimer(int minutes, const QString &text)

@@ -33,7 +33,8 @@ QStringList reachableAddresses()
 quint16 remotePortFrom(int stored)
 {
     constexpr int mostPort = 65535;
-    return static_cast<quint16>(stored >= 1 && stored <= mostPort ? stored : settings::remotePort.fallback.value());
+    return static_cast<quint16>(stored >= 1 && stored <= mostPort ? stored
+                                                                  : settings::remotePort.fallback.value());
 }
 
 } // namespace

@@ -13,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 
-
 int PlayerGuiWindow::lastPlayedRow() const
 {
     if (!m_start.lastPlayedKey.isEmpty())

@@ -129,9 +129,8 @@ void PlayerGuiWindow::recordChange(PlaylistChange change)
 
 void PlayerGuiWindow::followRows(const PlaylistChange &change)
 {
-    for (int *row :
-         {&m_start.lastStartedRow, &m_start.exclusiveFallbackRow, &m_progress.lastPosRow, &m_preload.row,
-                     &m_transport.abLoop.row}) {
+    for (int *row : {&m_start.lastStartedRow, &m_start.exclusiveFallbackRow, &m_progress.lastPosRow,
+                     &m_preload.row, &m_transport.abLoop.row}) {
         if (*row >= 0)
             *row = rowAfterChange(change, *row);
     }

@@ -73,7 +73,7 @@ class Stage(contextlib.ExitStack):
 
     def display(self, size="1600x1200"):
         """A virtual display with a small window manager."""
-        need("Xvfb", "openbox")
+        need("Xvfb", "openbox", "xprop")
         reading, writing = os.pipe()
         self.start(["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"],
                    pass_fds=[writing], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -84,6 +84,9 @@ class Stage(contextlib.ExitStack):
             raise AssertionError("the virtual display did not start")
         self.env.update(DISPLAY=":" + number, QT_QPA_PLATFORM="xcb")
         self.start(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        # A window that comes up while the manager is just taking over is lost to it.
+        wait_until(lambda: "window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env,
+                                                         capture_output=True, text=True).stdout, 15, "the window manager")
 
     def bus(self):
         """A session bus."""

@@ -50,7 +50,7 @@ TEST(PlaySpeed, TheLineHasTwoDecimalsAndNormalSpeedIsSentAsWell)
 
 TEST(PlaySpeed, TheSentenceSaysWhetherItIsHeardAlready)
 {
-    EXPECT_TRUE(speedText(1.5, true).contains(u"1.5×（"_s)) << qPrintable(speedText(1.5, true));
+    EXPECT_TRUE(speedText(1.5, true).contains(u"1.5× （"_s)) << qPrintable(speedText(1.5, true));
     EXPECT_TRUE(speedText(1.5, false).endsWith(u"1.5×"_s));
 }
 

@@ -267,7 +267,7 @@ TEST_F(PlayModes, SpeedIsClampedStoredAndSent)
     takeLines();
     m_window->setSpeed(3.5);
     EXPECT_EQ(readUserSetting(settings::speedRatio), 3.);
-    EXPECT_EQ(ui().engine->speedRatio->value(), 3.);
+    EXPECT_EQ(m_window->engineControls().speedRatio->value(), 3.);
     m_window->setSpeed(0.4);
     EXPECT_EQ(readUserSetting(settings::speedRatio), .5);
     m_window->setSpeed(1.);
@@ -292,7 +292,7 @@ TEST_F(PlayModes, AQuietChangeOfSpeedIsNotLogged)
     m_window->setSpeed(1.5, true);
     EXPECT_FALSE(logHas(u"播放速度"_s));
     EXPECT_EQ(shown.last(), QVariantList{1.5});
-    ui().engine->speedRatio->setValue(2.);
+    m_window->engineControls().speedRatio->setValue(2.);
     EXPECT_TRUE(logHas(speedText(2., false))) << "the control says it";
 }
 

@@ -24,6 +24,8 @@ protected:
     {
         m_window.reset();
         makeWindow();
+        // The list of the former window has come back.
+        m_window->clearPlaylist();
         addFiles(tracks);
         takeLog();
     }

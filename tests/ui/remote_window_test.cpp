@@ -50,7 +50,7 @@ protected:
         ASSERT_TRUE(state().remoteEnabled) << qPrintable(takeLog());
     }
     PhoneRemoteState &state() { return WindowInspector::remote(*m_window); }
-    RemoteControls &controls() { return *m_window->widgets().remote; }
+    RemoteControls &controls() { return m_window->remoteControls(); }
     QString token() { return m_window->remoteToken(); }
 
     /// Status and body.

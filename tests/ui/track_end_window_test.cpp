@@ -117,7 +117,7 @@ TEST_P(TrackEnd, ACloseOnPurposeEndsIdle)
 
 TEST_P(TrackEnd, OnlyASessionInsideThisProcessIsTriedWithoutExclusive)
 {
-    ui().engine->outputPath->setCurrentText(u"exclusive"_s);
+    m_window->engineControls().outputPath->setCurrentText(u"exclusive"_s);
     m_window->startPlayback(0);
     end(1);
     EXPECT_EQ(logHas(u"独占端点打不开"_s), GetParam());
@@ -135,7 +135,7 @@ protected:
     void startExclusive()
     {
         open();
-        ui().engine->outputPath->setCurrentText(u"exclusive"_s);
+        m_window->engineControls().outputPath->setCurrentText(u"exclusive"_s);
         m_window->startPlayback(0);
     }
     void endAndRetry()
@@ -253,7 +253,7 @@ TEST_P(Preloading, WithAHundredthOfASecondLeftTheTrackEndsNormally)
 
 TEST_P(Preloading, ACrossfadeIsItsOwnWindow)
 {
-    ui().engine->crossfadeSec->setValue(6.);
+    m_window->engineControls().crossfadeSec->setValue(6.);
     m_window->startPlayback(0);
     takeLines();
     at(93.9);
@@ -265,7 +265,7 @@ TEST_P(Preloading, ACrossfadeIsItsOwnWindow)
 
 TEST_P(Preloading, WithoutGaplessNothingIsHandedOver)
 {
-    ui().engine->gapless->setChecked(false);
+    m_window->engineControls().gapless->setChecked(false);
     m_window->startPlayback(0);
     takeLines();
     at(99.);

@@ -191,10 +191,11 @@ TEST_P(Transport, WhatARunningSessionWasNotToldIsSentWithTheNextTrack)
 {
     m_window->startPlayback(0);
     takeLines();
-    start().sessionGuard = !ui().engine->peakGuard->isChecked();
+    start().sessionGuard = !m_window->engineControls().peakGuard->isChecked();
     m_window->stepRow(1);
     EXPECT_EQ(takeLines(),
-              (QStringList{load(1), ui().engine->peakGuard->isChecked() ? u"guard on"_s : u"guard off"_s}));
+              (QStringList{load(1), m_window->engineControls().peakGuard->isChecked() ? u"guard on"_s
+                                                                                      : u"guard off"_s}));
     EXPECT_TRUE(logHas(u"向运行中的会话补发峰值保护"_s));
     m_window->stepRow(1);
     EXPECT_EQ(takeLines(), QStringList{load(2)}) << "told once";

@@ -57,8 +57,8 @@ protected:
     bool m_asksBeforeClosing = false;
     TransportTimes m_times;
     WindowOptions::MakeSession m_makeSession; ///< empty: a fake one
-    QString m_savePath;      ///< the answer to every question for a file to be written
-    QStringList m_saveAsked; ///< title and proposal of each
+    QString m_savePath;                       ///< the answer to every question for a file to be written
+    QStringList m_saveAsked;                  ///< title and proposal of each
     std::unique_ptr<PlayerGuiWindow> m_window;
     QString m_log;
 };

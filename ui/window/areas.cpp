@@ -52,6 +52,8 @@ void PlayerGuiWindow::applyAreaPlan()
     m_ui.dock->applyPlan(plan);
     m_ui.dsp->applyPlan(plan);
     m_ui.side->setFixedWidth(plan.sideWidth);
+    // The sheet's padding would cut the words of a button in a narrow column.
+    m_ui.selfCheck->setStyleSheet(u"padding: 0 %1px;"_s.arg(plan.buttonPadding));
     for (QWidget *column : {m_ui.centre, m_ui.side}) {
         column->layout()->setContentsMargins(plan.padding, plan.padding, plan.padding,
                                              column == m_ui.centre ? 0 : plan.padding);

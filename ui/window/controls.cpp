@@ -80,7 +80,6 @@ void PlayerGuiWindow::connectList()
     connectPlaylist();
 }
 
-
 void PlayerGuiWindow::toggleMute()
 {
     QSlider *volume = m_ui.dock->volume;

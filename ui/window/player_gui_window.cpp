@@ -21,8 +21,6 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     // The engine lists its devices while the widgets are built; populateDevicesBlocking waits for the rest.
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
-    // The application's, so that dialogs have it too and a new sheet takes it from nobody.
-    QApplication::setFont(interfaceFont());
     KeyboardFocus::install();
     loadTheme();
     buildInstrumentTimers();

@@ -4,6 +4,8 @@
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
 #include "platform/system_scheme.h"
+#include "playback/playlist_delegate.h"
+#include "playback/playlist_widget.h"
 #include "ui/cover_accent.h"
 #include "ui/style_sheet.h"
 #include "ui/theme.h"
@@ -20,6 +22,31 @@ enum ThemeChoice
     lightTheme,
     systemTheme,
 };
+
+PlaylistColours playlistColours()
+{
+    PlaylistColours colours;
+    colours.text = theme::ink2();
+    colours.textRaised = theme::ink1();
+    colours.tag = theme::ink4();
+    colours.tagRaised = theme::ink3();
+    colours.hover = theme::raised();
+    colours.selected = theme::raisedHover();
+    colours.focus = theme::edge();
+    if (!theme::lightTheme) {
+        colours.playingPlate = theme::wash();
+        colours.playingHover = theme::strongWash();
+        colours.playingSelected = theme::raisedHover();
+        colours.playingTag = theme::ink3();
+    } else {
+        // Amber cannot be read on white: the row is printed in reverse.
+        colours.playingPlate = theme::reversedPlate();
+        colours.playingHover = theme::reversedPlate().lighter(120);
+        colours.playingSelected = theme::reversedPlate();
+        colours.playingTag = theme::reversedInk();
+    }
+    return colours;
+}
 
 } // namespace
 
@@ -56,6 +83,8 @@ void PlayerGuiWindow::applyTheme()
         QApplication::setPalette(palette);
     if (const QString sheet = styleSheetInForce(); sheet != styleSheet())
         setStyleSheet(sheet);
+    if (auto *rows = qobject_cast<PlaylistDelegate *>(m_ui.playlist->itemDelegate()))
+        rows->setColours(playlistColours());
     Q_EMIT ThemeNotifier::instance().changed();
 }
 
