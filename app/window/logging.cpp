@@ -65,4 +65,5 @@ void PlayerGuiWindow::reportStartupMetrics()
 void PlayerGuiWindow::noteShown()
 {
     m_log.readyAfterMs = processAgeMs();
+    logGeometry(QStringLiteral("shown"));
 }

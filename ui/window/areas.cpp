@@ -41,6 +41,7 @@ void PlayerGuiWindow::applyAreaPlan()
     if (m_areaPlan == plan)
         return;
     m_areaPlan = plan;
+    logGeometry(u"areas"_s);
     m_ui.title->applyPlan(plan);
     m_ui.library->applyPlan(plan);
     m_ui.stage->applyPlan(plan, width() - plan.leftWidth - plan.sideWidth);
@@ -107,6 +108,20 @@ void PlayerGuiWindow::restorePlace()
         setGeometry(place);
         logLine(tr("窗口位置: 原来的屏幕不在了, 移到主屏幕中间"));
     }
+}
+
+void PlayerGuiWindow::logGeometry(const QString &when)
+{
+    if (!qEnvironmentVariableIsSet("KELP_GUI_GEO"))
+        return;
+    const QRect place = geometry();
+    logLine(u"[geo %1] %2,%3 %4x%5 side=%6 maximised=%7"_s.arg(when)
+                .arg(place.x())
+                .arg(place.y())
+                .arg(place.width())
+                .arg(place.height())
+                .arg(m_sideWidth)
+                .arg(isMaximized() ? 1 : 0));
 }
 
 void PlayerGuiWindow::openLog(bool open)

@@ -9,6 +9,12 @@
 
 using namespace Qt::StringLiterals;
 
+bool PlayerGuiWindow::trayActive() const
+{
+    // There is no tray icon yet, so a window that hid could not come back.
+    return false;
+}
+
 bool PlayerGuiWindow::confirmClose()
 {
     if (!m_options.asksBeforeClosing || !sessionRuns() || !m_start.uiPlaying)
@@ -27,6 +33,12 @@ void PlayerGuiWindow::closeEvent(QCloseEvent *event)
         return;
     }
     logLine(u"[gui] closeEvent: 播放中=%1"_s.arg(sessionRuns() ? 1 : 0));
+    if (trayActive() && readUserSetting(settings::trayClose)) {
+        hide();
+        logLine(tr("已缩到系统托盘, 播放继续"));
+        event->ignore();
+        return;
+    }
     if (!confirmClose()) {
         event->ignore();
         return;
@@ -34,6 +46,7 @@ void PlayerGuiWindow::closeEvent(QCloseEvent *event)
     m_closing = true;
     saveParams();
     writeUserSetting(settings::geometry, saveGeometry());
+    logGeometry(u"closed"_s);
     killProc(false);
     event->accept();
 }

@@ -258,6 +258,9 @@ private:
     void clearInstruments();
     void tellWhyScopeIsEmpty();
     bool confirmClose();
+    bool trayActive() const;
+    /// A line with the window's place, for whoever looks into it with KELP_GUI_GEO.
+    void logGeometry(const QString &when);
 
     // ── app/window ──
     void flushLog();
