@@ -15,6 +15,17 @@ std::string rateText(int rateHz)
     return std::to_string(rateHz) + " Hz";
 }
 
+std::string ratioText(double ratio)
+{
+    return fixedText(ratio, 2) + "x";
+}
+
+std::string guardedText(const ChainFacts &f)
+{
+    return "has brought " + std::to_string(f.guardedFrames) + " frames of this track down, by up to " +
+           fixedText(std::max(0.01, -decibels(f.guardGain)), 2) + " dB";
+}
+
 /// The first of our stages that changes bits, in the order of the signal; empty when none does.
 std::string firstOwnChange(const ChainFacts &f)
 {
@@ -23,12 +34,20 @@ std::string firstOwnChange(const ChainFacts &f)
         return dsdName(t.from.rateHz) + " is decoded to PCM at " + rateText(t.decodedRateHz());
     if (t.resamples())
         return "the rate is converted from " + rateText(t.decodedRateHz()) + " to " + rateText(t.toRateHz);
+    if (t.changesSpeed())
+        return "the speed is changed to " + ratioText(t.speed.ratio);
     if (t.mapsChannels())
         return std::to_string(t.from.channels) + " channels are mapped to " + std::to_string(t.toChannels);
+    if (f.volume.place == VolumePlace::software && f.replayGainFactor != 1.0)
+        return "ReplayGain scales the samples by " + fixedText(decibels(f.replayGainFactor), 2) + " dB";
     if (f.volume.place == VolumePlace::software && f.volume.gain != 1.0)
         return "the volume stage scales the samples by " + fixedText(decibels(f.volume.gain), 2) + " dB";
     if (f.fading)
         return "a fade is under way";
+    if (f.guardedFrames > 0)
+        return "the peak guard " + guardedText(f);
+    if (f.clippedSamples > 0)
+        return std::to_string(f.clippedSamples) + " samples of this track passed full scale and were cut";
     if (f.dithered)
         return "the device takes " + std::to_string(f.output.wire.validBits) + " bits of the source's " +
                std::to_string(f.source.format.depthBits);
@@ -112,11 +131,24 @@ std::string dspText(const ChainFacts &f)
     if (t.mapsChannels())
         active.push_back("channel mapping " + std::to_string(t.from.channels) + " to " +
                          std::to_string(t.toChannels));
-    if (active.empty())
-        return "none (samples pass through untouched)";
-    std::string text = "ACTIVE: ";
+    if (t.changesSpeed())
+        active.push_back("speed " + ratioText(t.speed.ratio) +
+                         (t.speed.pitchKept ? " by time stretching" : " by resampling"));
+    if (f.replayGainFactor != 1.0)
+        active.push_back("ReplayGain, " + f.replayGain);
+    if (f.guardedFrames > 0)
+        active.push_back("the peak guard " + guardedText(f));
+    std::string text = active.empty() ? "none (samples pass through untouched)" : "ACTIVE: ";
     for (size_t i = 0; i < active.size(); ++i)
         text += (i ? "; " : "") + active[i];
+    if (f.replayGainFactor == 1.0 && !f.replayGain.empty())
+        text += "; ReplayGain: " + f.replayGain;
+    if (f.guard && t.toDsd)
+        text += "; the peak guard does not act on DSD";
+    else if (f.guard && f.guardedFrames == 0)
+        text += "; the peak guard is on and has not been needed";
+    if (f.looping)
+        text += "; an A/B loop repeats a part of the track";
     return text;
 }
 
@@ -126,6 +158,18 @@ std::string latencyText(double ms)
 }
 
 } // namespace
+
+std::string speedLine(const ChainFacts &f)
+{
+    const TransformPlan &t = f.transform;
+    if (t.changesSpeed())
+        return "speed: " + ratioText(t.speed.ratio) +
+               (t.speed.pitchKept ? ", pitch kept (time stretching)" : ", pitch goes along (resampling)");
+    if (t.toDsd && f.speedWanted.active())
+        return "speed: 1.00x (DSD goes out directly and cannot be stretched; " +
+               ratioText(f.speedWanted.ratio) + " was asked for)";
+    return "speed: 1.00x (no stage in the path)";
+}
 
 std::string chainVerdict(const ChainFacts &f)
 {
@@ -172,7 +216,7 @@ std::vector<std::string> chainReport(const ChainFacts &f)
             "output format: " + outputFormatText(f.output),
             "output latency: " + latencyText(f.latencyMs),
             "dsp: " + dspText(f),
-            "speed: 1.00x",
+            speedLine(f),
             volumeLine(f.volume),
             "bit-perfect: " + bitPerfectVerdict(f),
             "chain: " + chainVerdict(f),

@@ -5,6 +5,7 @@
 #include "player_core/session/stream_transform.h"
 #include "player_core/source/source.h"
 
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,14 +21,25 @@ struct ChainFacts
     TransformPlan transform;
     double latencyMs = -1; ///< below 0: not measured yet
     VolumeFacts volume;
-    bool fading = false;   ///< a fade or crossfade is under way
-    bool dithered = false; ///< the last samples were dithered
+    bool fading = false;         ///< a fade or crossfade is under way
+    bool dithered = false;       ///< the last samples were dithered
+    std::string replayGain;      ///< what was decided on it; empty: it is off
+    double replayGainFactor = 1; ///< linear, part of the volume's gain
+    SpeedPlan speedWanted;       ///< what was asked for; what is done stands in the transform
+    bool looping = false;        ///< an A/B loop repeats a part of the track
+    bool guard = false;          ///< the peak guard is on
+    uint64_t guardedFrames = 0;  ///< of this track, brought down by it
+    double guardGain = 1.0;      ///< the lowest gain of these
+    uint64_t clippedSamples = 0; ///< of this track, cut at full scale
     unsigned underruns = 0;
 };
 
 /// The block that tells the listener what is done to the signal: twelve labelled lines between "SIGNAL CHAIN
 /// BEGIN" and "SIGNAL CHAIN END".
 [[nodiscard]] std::vector<std::string> chainReport(const ChainFacts &facts);
+
+/// The whole "speed: …" line.
+[[nodiscard]] std::string speedLine(const ChainFacts &facts);
 
 /// The value of "chain:": one of the five verdicts that front ends know, and why.
 [[nodiscard]] std::string chainVerdict(const ChainFacts &facts);
