@@ -38,7 +38,9 @@ StageItem sourceItem(const ChainFacts &f)
     if (!f.source.lossless)
         return broken(stage_name::source,
                       f.source.description + ": the coding is lossy, so the original samples are gone");
-    return kept(stage_name::source, f.source.description + ": decoded, the coding is lossless");
+    const bool asItIs = f.transform.toDsd && !f.source.dst;
+    return kept(stage_name::source,
+                f.source.description + (asItIs ? ": " : ": decoded, ") + "the coding is lossless");
 }
 
 StageItem decodingItem(const ChainFacts &f)

@@ -65,7 +65,7 @@ int main(int argc, char **argv)
     applySettingsDirOverride();
     PlayerGuiWindow window({.asksBeforeClosing = false});
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
-    window.addFiles(QCoreApplication::arguments().mid(1));
+    window.addPaths(QCoreApplication::arguments().mid(1));
 
     QSocketNotifier commands(STDIN_FILENO, QSocketNotifier::Read);
     QByteArray pending;
