@@ -12,6 +12,9 @@ namespace {
 
 constexpr auto deviceStuckAfter = std::chrono::seconds(10);
 constexpr auto idlePoll = std::chrono::milliseconds(2);
+// How far ahead a deck is held: time enough to make another one ready.
+constexpr double holdSec = 0.1;
+constexpr auto longestHoldAnswer = std::chrono::seconds(2);
 constexpr double tapSec = 0.5;
 /// While nothing plays so little silence is kept in hand, so that the next track is heard at once.
 constexpr double idleFillSec = 0.04;
@@ -45,13 +48,16 @@ AudioLoop::AudioLoop(Output &output, const AudioSetup &setup)
     , dsdWriter_(wire_)
     , dsdPerWire_(isDsd() ? dsdWriter_.dsdFramesPerWireFrame() : 1)
     , ramp_(wire_.frameRateHz, setup.gain)
+    , guard_(wire_.frameRateHz, wire_.channels, isDsd() ? 0 : chunkFrames_)
     , mix_(chunkFrames_ * channels_)
     , other_(chunkFrames_ * channels_)
-    , tapScratch_(chunkFrames_ * 2)
+    , guarded_((chunkFrames_ + guard_.lookAhead()) * channels_)
+    , tapScratch_((chunkFrames_ + guard_.lookAhead()) * 2)
     , dsd_(isDsd() ? (chunkFrames_ + 1) * dsdPerWire_ * channels_ : 0)
     , dsdTapScratch_(isDsd() ? (chunkFrames_ + 1) * dsdPerWire_ * 2 : 0)
-    , bytes_(chunkFrames_ * static_cast<size_t>(wire_.bytesPerFrame()))
+    , bytes_((chunkFrames_ + guard_.lookAhead()) * static_cast<size_t>(wire_.bytesPerFrame()))
     , gain_(setup.gain)
+    , guardOn_(setup.guard && !isDsd())
     , pcmTap_(isDsd() ? 0 : static_cast<size_t>(tapSec * wire_.frameRateHz) * 2)
     , dsdTap_(isDsd() ? static_cast<size_t>(tapSec * wire_.frameRateHz) * dsdPerWire_ * 2 : 0)
 {
@@ -68,6 +74,24 @@ void AudioLoop::command(const AudioCommand &command)
     // The loop empties the ring at every chunk; should a device hold it up, a host that floods us waits.
     while (!commands_.push(command) && !hurry_.load())
         std::this_thread::sleep_for(idlePoll);
+}
+
+std::optional<HoldPlace> AudioLoop::hold()
+{
+    const uint32_t number = ++holdsAsked_;
+    command({.kind = AudioCommandKind::hold});
+    const auto until = std::chrono::steady_clock::now() + longestHoldAnswer;
+    while (holdsAnswered_.load(std::memory_order_acquire) != number) {
+        if (left() || std::chrono::steady_clock::now() > until) {
+            command({.kind = AudioCommandKind::letGo});
+            return std::nullopt;
+        }
+        std::this_thread::sleep_for(idlePoll / 4);
+    }
+    const uint32_t deck = heldDeck_.load(std::memory_order_relaxed);
+    if (deck == 0)
+        return std::nullopt;
+    return HoldPlace{deck, heldFrame_.load(std::memory_order_relaxed)};
 }
 
 void AudioLoop::finish()
@@ -127,11 +151,11 @@ void AudioLoop::apply(const AudioCommand &command)
 {
     switch (command.kind) {
     case AudioCommandKind::play:
-        beginSwitch(command.deck);
+        beginSwitch(command.deck, command.staysPaused);
         break;
     case AudioCommandKind::follow:
         if (!current_) // the present one has ended in the meantime
-            return beginSwitch(command.deck);
+            return beginSwitch(command.deck, false);
         release(next_);
         next_ = command.deck;
         fadeFrames_ = isDsd() ? 0 : command.fadeFrames;
@@ -144,6 +168,22 @@ void AudioLoop::apply(const AudioCommand &command)
         paused_ = false;
         ramp_.setTarget(gain_);
         break;
+    case AudioCommandKind::guard:
+        guardOn_ = command.on && !isDsd();
+        break;
+    case AudioCommandKind::hold:
+        answerHold();
+        break;
+    case AudioCommandKind::letGo:
+        holdFrame_ = -1;
+        break;
+    case AudioCommandKind::replace:
+        replacement_ = command.deck;
+        replaceFade_ = isDsd() ? 0 : command.fadeFrames;
+        if (!current_ || holdFrame_ < 0)
+            return release(replacement_);
+        release(next_);
+        break;
     case AudioCommandKind::gain:
         gain_ = command.gain;
         if (!paused_ && !switchTo_)
@@ -152,14 +192,29 @@ void AudioLoop::apply(const AudioCommand &command)
     }
 }
 
-void AudioLoop::beginSwitch(Deck *deck)
+void AudioLoop::answerHold()
 {
+    const bool can = current_ && !switchTo_ && !replacement_ && fadeLength_ == 0 && !current_->finished();
+    if (can) {
+        // Without a clock the deck is read as fast as it is filled, so it is held where it stands.
+        const double ahead = opened_.clocked && !paused_ ? holdSec * wire_.frameRateHz : 0.0;
+        holdFrame_ = current_->consumed() + static_cast<int64_t>(ahead) * static_cast<int64_t>(dsdPerWire_);
+    }
+    heldDeck_.store(can ? current_->number() : 0, std::memory_order_relaxed);
+    heldFrame_.store(holdFrame_, std::memory_order_relaxed);
+    holdsAnswered_.fetch_add(1, std::memory_order_release);
+}
+
+void AudioLoop::beginSwitch(Deck *deck, bool staysPaused)
+{
+    holdFrame_ = -1;
+    release(replacement_);
     release(next_);
     release(switchTo_);
     switchTo_ = deck;
     // DSD cannot be faded; and what is silent already needs no fade.
     const bool silent = !current_ || (paused_ && ramp_.settled());
-    paused_ = false;
+    paused_ = paused_ && staysPaused;
     // A server wants its whole buffer full, so there the silence in hand is taken back. A card keeps running
     // on little: stopping it could make a converter click.
     if (silent && opened_.mixer && state_.written > 0)
@@ -178,7 +233,7 @@ void AudioLoop::finishSwitch()
     fadeLength_ = 0;
     dsdCarry_ = 0;
     sounding_ = false;
-    ramp_.jump(gain_);
+    ramp_.jump(paused_ ? 0.0 : gain_);
 }
 
 void AudioLoop::release(Deck *&deck)
@@ -188,18 +243,21 @@ void AudioLoop::release(Deck *&deck)
     deck = nullptr;
 }
 
-void AudioLoop::event(AudioEventKind kind, uint32_t serial, int64_t frames)
+void AudioLoop::event(AudioEventKind kind, uint32_t serial, int64_t frames, double startSec, double speed)
 {
     // Room for 1,024 events is more than a telemetry tick can bring; a lost one would hang a track's end, so
     // rather wait.
-    while (!events_.push({kind, serial, state_.written, frames}) && !hurry_.load())
+    while (!events_.push({kind, serial, state_.written, frames, startSec, speed}) && !hurry_.load())
         std::this_thread::sleep_for(idlePoll);
 }
 
 AudioLoop::Step AudioLoop::step()
 {
-    if (switchTo_ && ramp_.settled())
+    if (switchTo_ && ramp_.settled()) {
+        if (guard_.held() > 0)
+            return flushGuard();
         finishSwitch();
+    }
     if (!current_ && state_.written == 0)
         return Step::wait; // the first thing a device hears is music
     if (!current_ || (paused_ && (isDsd() || ramp_.settled())))
@@ -224,6 +282,8 @@ AudioLoop::Step AudioLoop::starve()
 
 AudioLoop::Step AudioLoop::silence()
 {
+    if (guard_.held() > 0)
+        return flushGuard();
     const size_t frames = chunkFrames_;
     if (opened_.clocked && !opened_.mixer &&
         output_.delayFrames() > static_cast<int64_t>(idleFillSec * wire_.frameRateHz))

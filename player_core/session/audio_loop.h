@@ -1,5 +1,6 @@
 #pragma once
 
+#include "player_core/dsp/peak_guard.h"
 #include "player_core/dsp/volume.h"
 #include "player_core/dsp/wire_writer.h"
 #include "player_core/output/output.h"
@@ -10,6 +11,7 @@
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -17,11 +19,15 @@ namespace kelp_core {
 
 enum class AudioCommandKind
 {
-    play,   ///< leave what sounds (with a short fade) and begin with `deck`; ends a pause
+    play,   ///< leave what sounds (with a short fade) and begin with `deck`; ends a pause unless staysPaused
     follow, ///< `deck` follows the present one, mixed over fadeFrames when these are above 0
     pause,
     resume,
-    gain, ///< move to the gain
+    gain,    ///< move to the gain
+    guard,   ///< switch the peak guard
+    hold,    ///< stop reading the present deck a moment from now; answered by holdAnswer
+    letGo,   ///< no longer
+    replace, ///< where it is held, `deck` takes the place of the present one; of `next` nothing is left
 };
 
 struct AudioCommand
@@ -30,11 +36,14 @@ struct AudioCommand
     Deck *deck = nullptr;
     int64_t fadeFrames = 0;
     double gain = 1.0;
+    bool on = false;
+    bool staysPaused = false;
 };
 
 enum class AudioEventKind
 {
     trackStarted, ///< its first frame has been handed over
+    trackMoved,   ///< another place or another speed of the same track follows
     chainEnded,   ///< the last frame of the last deck has been handed over
     deckFree,     ///< the deck is not used any more
     deviceGone,
@@ -45,14 +54,24 @@ struct AudioEvent
     AudioEventKind kind;
     uint32_t serial = 0; ///< of the track, or the deck's number
     uint64_t at = 0;     ///< frames handed over before the event
-    int64_t frames = 0;  ///< trackStarted, chainEnded: frames of the track that was left
+    int64_t frames = 0;  ///< but for deckFree: frames handed over since the event before
+    double startSec = 0; ///< trackStarted, trackMoved: the place in the track
+    double speed = 1.0;  ///< the same: seconds of the track in one second
 };
 
 struct AudioSetup
 {
     double gain = 1.0;
+    bool guard = false;
     /// Play out and leave by itself at the end of the chain, instead of feeding silence.
     bool drainAtEnd = false;
+};
+
+/// Where the audio thread stops reading until it is told more.
+struct HoldPlace
+{
+    uint32_t deck = 0; ///< its number
+    int64_t frame = 0; ///< of the deck's chain
 };
 
 /// The audio thread: takes samples from decks, scales, fades and mixes them, writes them to the device, and
@@ -71,6 +90,10 @@ public:
     AudioLoop &operator=(const AudioLoop &) = delete;
 
     void command(const AudioCommand &command); ///< session thread
+    /// Stops the reading of the present deck a tenth of a second ahead of what is read now, so that another
+    /// one can go on from there to the frame. Nothing when none plays, or while one fades into another; then
+    /// nothing is held. Ended by `replace`, `letGo` or `play`. Session thread; waits for the audio thread.
+    std::optional<HoldPlace> hold();
     /// Ends and joins the thread, within the time of one write. Session thread.
     void finish();
 
@@ -101,6 +124,12 @@ private:
     Step playPcm();
     Step playDsd();
     Step crossfadeStep(int64_t left);
+    Step takeOver();
+    void mixFade(size_t frames);
+    Step flushGuard();
+    Step putPcm(const double *pcm, size_t frames, bool unity, bool mixing);
+    void answerHold();
+    void countAnew();
     Step silence();
     Step starve();
     Step writeMusic(size_t wireFrames);
@@ -109,9 +138,9 @@ private:
     void noteStart();
     void toNextDeck();
     void release(Deck *&deck);
-    void beginSwitch(Deck *deck);
+    void beginSwitch(Deck *deck, bool staysPaused);
     void finishSwitch();
-    void event(AudioEventKind kind, uint32_t serial, int64_t frames);
+    void event(AudioEventKind kind, uint32_t serial, int64_t frames, double startSec = 0, double speed = 1);
     void publish();
     bool isDsd() const { return wire_.carrier != Carrier::pcm; }
 
@@ -127,8 +156,10 @@ private:
     DsdWriter dsdWriter_;
     const size_t dsdPerWire_;
     GainRamp ramp_;
+    PeakGuard guard_;
     std::vector<double> mix_;
     std::vector<double> other_;
+    std::vector<double> guarded_;
     std::vector<double> tapScratch_;
     std::vector<uint8_t> dsd_;
     std::vector<uint8_t> dsdTapScratch_;
@@ -140,10 +171,16 @@ private:
     Deck *next_ = nullptr;
     Deck *leaving_ = nullptr; ///< while a crossfade is under way
     Deck *switchTo_ = nullptr;
+    Deck *replacement_ = nullptr;
+    int64_t holdFrame_ = -1; ///< of current_; below 0: not held
     int64_t fadeFrames_ = 0; ///< wanted
     int64_t fadeLength_ = 0; ///< of the fade in progress; 0: none
     int64_t fadePosition_ = 0;
+    bool fadesSameMusic_ = false;
+    bool countsAnew_ = false; ///< with the next frames that are not mixed
+    int64_t replaceFade_ = 0;
     double gain_;
+    bool guardOn_;
     bool paused_ = false;
     bool dither_ = false;
     bool quit_ = false;
@@ -160,6 +197,11 @@ private:
     PlaybackBoard board_;
     std::atomic<bool> left_{false};
     std::atomic<unsigned> starved_{0};
+    // The answer to `hold`: the number of holds asked for and answered, and the last answer.
+    uint32_t holdsAsked_ = 0; ///< session thread
+    std::atomic<uint32_t> holdsAnswered_{0};
+    std::atomic<uint32_t> heldDeck_{0}; ///< 0: none
+    std::atomic<int64_t> heldFrame_{0};
     std::atomic<bool> hurry_{false}; ///< leave at once, also from within a write
     std::thread thread_;
 };

@@ -1,11 +1,12 @@
 #include "player_core/session/chain_report.h"
 
 #include "player_core/dsp/fixed_text.h"
-#include "player_core/dsp/volume.h"
 #include "player_core/session/output_lines.h"
+#include "player_core/session/tuning_items.h"
 #include "player_core/session/verify_report.h"
 
 #include <algorithm>
+#include <array>
 
 namespace kelp_core {
 
@@ -16,29 +17,19 @@ std::string rateText(int rateHz)
     return std::to_string(rateHz) + " Hz";
 }
 
-/// The first of our stages that changes bits, in the order of the signal; empty when none does.
+/// The stages whose word is not on what we do to the samples: what came to us, and what lies behind us.
+constexpr std::array notOurs = {stage_name::source, stage_name::mixer, stage_name::conversion,
+                                stage_name::delivery, stage_name::underruns};
+
+/// The first of our stages that changes bits, in the order of the signal; empty when none does. Taken from
+/// the items of `verify`, so that the two cannot disagree.
 std::string firstOwnChange(const ChainFacts &f)
 {
-    const TransformPlan &t = f.transform;
-    if (t.decodesDsd())
-        return dsdName(t.from.rateHz) + " is decoded to PCM at " + rateText(t.decodedRateHz());
-    if (t.resamples())
-        return "the rate is converted from " + rateText(t.decodedRateHz()) + " to " + rateText(t.toRateHz);
-    if (t.mapsChannels())
-        return std::to_string(t.from.channels) + " channels are mapped to " + std::to_string(t.toChannels);
-    if (f.volume.place == VolumePlace::software && f.volume.gain != 1.0)
-        return "the volume stage scales the samples by " + fixedText(decibels(f.volume.gain), 2) + " dB";
-    if (f.mixing)
-        return "two tracks are being mixed";
-    if (f.fading)
-        return "a fade is under way";
-    for (const StageItem &stage : f.stages) {
-        if (stage.proof == Proof::broken)
-            return stage.reason;
+    for (const StageItem &item : verifyItems(f)) {
+        const bool ours = std::find(notOurs.begin(), notOurs.end(), item.name) == notOurs.end();
+        if (ours && item.proof != Proof::kept)
+            return oneLine(item.reason);
     }
-    if (f.dithered)
-        return "the device takes " + std::to_string(f.output.wire.validBits) + " bits of the source's " +
-               std::to_string(f.source.format.depthBits);
     return {};
 }
 
@@ -107,11 +98,24 @@ std::string dspText(const ChainFacts &f)
     if (t.mapsChannels())
         active.push_back("channel mapping " + std::to_string(t.from.channels) + " to " +
                          std::to_string(t.toChannels));
-    if (active.empty())
-        return "none (samples pass through untouched)";
-    std::string text = "ACTIVE: ";
+    if (t.changesSpeed())
+        active.push_back("speed " + ratioText(t.speed.ratio) +
+                         (t.speed.pitchKept ? " by time stretching" : " by resampling"));
+    if (f.replayGainFactor != 1.0)
+        active.push_back("ReplayGain, " + f.replayGain);
+    if (f.guardedFrames > 0)
+        active.push_back("the peak guard " + guardedText(f));
+    std::string text = active.empty() ? "none (samples pass through untouched)" : "ACTIVE: ";
     for (size_t i = 0; i < active.size(); ++i)
         text += (i ? "; " : "") + active[i];
+    if (f.replayGainFactor == 1.0 && !f.replayGain.empty())
+        text += "; ReplayGain: " + f.replayGain;
+    if (f.guard && t.toDsd)
+        text += "; the peak guard does not act on DSD";
+    else if (f.guard && f.guardedFrames == 0)
+        text += "; the peak guard is on and has not been needed";
+    if (f.looping)
+        text += "; an A/B loop repeats a part of the track";
     return text;
 }
 
@@ -132,6 +136,17 @@ std::string readBackText(const ReadBack &record)
 {
     return rateText(record.rateHz) + ' ' + record.format + ' ' + std::to_string(record.channels) +
            " channels";
+}
+
+std::string speedLine(const ChainFacts &f)
+{
+    const TransformPlan &t = f.transform;
+    if (t.changesSpeed())
+        return "speed: " + speedText(t.speed);
+    if (t.toDsd && f.speedWanted.active())
+        return "speed: 1.00x (DSD goes out directly and cannot be stretched; " +
+               ratioText(f.speedWanted.ratio) + " was asked for)";
+    return "speed: 1.00x (no stage in the path)";
 }
 
 std::string chainVerdict(const ChainFacts &f)
@@ -175,7 +190,7 @@ std::vector<std::string> chainReport(const ChainFacts &f)
             "output format: " + outputFormatText(f.output),
             "output latency: " + latencyText(f.latencyMs),
             "dsp: " + dspText(f),
-            "speed: 1.00x",
+            speedLine(f),
             volumeLine(f.volume),
             "bit-perfect: " + bitPerfectVerdict(f),
             "chain: " + chainVerdict(f),

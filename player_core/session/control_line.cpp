@@ -1,5 +1,6 @@
 #include "player_core/session/control_line.h"
 
+#include "player_core/dsp/fixed_text.h"
 #include "player_core/session/options.h"
 
 #include <cstdint>
@@ -7,6 +8,8 @@
 namespace kelp_core {
 
 namespace {
+
+constexpr double longestTrackSec = 1e7;
 
 std::string_view takeWord(std::string_view &rest)
 {
@@ -43,7 +46,7 @@ ControlLine parseLoadAt(std::string_view command, std::string_view rest)
 {
     const std::string_view word = takeWord(rest);
     double seconds = 0;
-    if (!parseNumber(word, seconds) || seconds < 0 || seconds > 1e7)
+    if (!parseNumber(word, seconds) || seconds < 0 || seconds > longestTrackSec)
         return malformed("The line \"loadat\" takes a number of seconds, not \"" + std::string(word) + "\".");
     ControlLine line = withPath(ControlKind::loadAt, command, rest);
     line.seconds = seconds;
@@ -70,6 +73,35 @@ ControlLine parseVolume(std::string_view, std::string_view rest)
     ControlLine line;
     line.kind = ControlKind::volume;
     line.volume = static_cast<int>(volume);
+    return line;
+}
+
+ControlLine parseSpeed(std::string_view, std::string_view rest)
+{
+    ControlLine line;
+    line.kind = ControlKind::speed;
+    if (!parseNumber(rest, line.ratio) || line.ratio < SpeedPlan::slowest || line.ratio > SpeedPlan::fastest)
+        return malformed("The line \"speed\" takes a ratio from 0.5 to 3.0, not \"" + std::string(rest) +
+                         "\"; the speed stays as it is.");
+    return line;
+}
+
+ControlLine parseLoop(std::string_view, std::string_view rest)
+{
+    ControlLine line;
+    line.kind = ControlKind::loopOff;
+    if (rest == "off")
+        return line;
+    line.kind = ControlKind::loop;
+    const std::string whole(rest);
+    const std::string_view from = takeWord(rest);
+    if (!parseNumber(from, line.seconds) || !parseNumber(rest, line.toSec) || line.seconds < 0 ||
+        line.toSec > longestTrackSec)
+        return malformed("The A/B loop is refused: two points in seconds are wanted, or \"off\", not \"" +
+                         whole + "\".");
+    if (line.toSec <= line.seconds)
+        return malformed("The A/B loop is refused: point B (" + fixedText(line.toSec, 3) +
+                         " s) must come after point A (" + fixedText(line.seconds, 3) + " s).");
     return line;
 }
 
@@ -124,6 +156,9 @@ constexpr Command commands[] = {
     {"scope", onOffSwitch<ControlKind::scope>},
     {"report", bare<ControlKind::report>},
     {"verify", bare<ControlKind::verify>},
+    {"speed", parseSpeed},
+    {"ab", parseLoop},
+    {"guard", onOffSwitch<ControlKind::guard>},
 };
 
 /// Whether an effects line would change what is heard. A host sends all its settings after each load, most of
@@ -137,22 +172,11 @@ std::string missedEffect(std::string_view rest)
         return rest == "100" ? "" : "stereo width";
     if (effect == "denoise")
         return rest == "off" ? "" : "noise reduction";
+    if (effect == "plugins")
+        return rest == "off" ? "" : "DSP plugins";
     if ((effect == "reverb" || effect == "tone" || effect == "eq" || effect == "hrtf") && rest == "on")
         return std::string(effect);
     return {};
-}
-
-/// What the listener would miss when a line of a stage that is not built is dropped, or an empty text.
-std::string missedBy(std::string_view command, std::string_view rest)
-{
-    if (command == "fx")
-        return missedEffect(rest);
-    double ratio = 0;
-    if (command == "speed")
-        return parseNumber(rest, ratio) && ratio > 0.9995 && ratio < 1.0005 ? "" : "another speed";
-    if (command == "ab")
-        return rest == "off" ? "" : "the A/B loop";
-    return command == "guard" && rest == "on" ? "the peak guard" : "";
 }
 
 } // namespace
@@ -173,7 +197,7 @@ ControlLine parseControlLine(std::string_view line)
     }
     ControlLine result;
     result.kind = ControlKind::notSupported;
-    result.heardAbout = missedBy(word, rest);
+    result.heardAbout = word == "fx" ? missedEffect(rest) : std::string();
     return result;
 }
 

@@ -20,6 +20,10 @@ enum class ControlKind
     scope,
     report,
     verify,
+    speed,
+    loop,    ///< `ab A B`
+    loopOff, ///< `ab off`
+    guard,
     notSupported, ///< known or unknown, not built: logged
     malformed,    ///< error says what is wrong
     empty,
@@ -31,9 +35,11 @@ struct ControlLine
     ControlKind kind = ControlKind::empty;
     std::string path;   ///< load forms: the rest of the line, as it stands
     int track = 0;      ///< load-cue, load-iso
-    double seconds = 0; ///< loadat
+    double seconds = 0; ///< loadat; loop: point A
+    double toSec = 0;   ///< loop: point B
+    double ratio = 1.0; ///< speed
     int volume = 0;
-    bool on = false;        ///< spectrum, scope
+    bool on = false;        ///< spectrum, scope, guard
     std::string error;      ///< malformed: a whole sentence
     std::string heardAbout; ///< notSupported: what a listener would miss, or empty
 };

@@ -103,41 +103,95 @@ bool Deck::nextTrack(DeckTrack &track)
 void Deck::beginTrack(const DeckTrack &track)
 {
     const SourceFacts &facts = track.source->facts();
-    const double ratio = static_cast<double>(setup_.transform.framesPerSecondOut()) /
-                         static_cast<double>(std::max<int64_t>(1, facts.format.framesPerSecond()));
+    const double ratio = setup_.transform.framesOutPerFrame();
+    const auto perSecond = static_cast<double>(std::max<int64_t>(1, facts.format.framesPerSecond()));
     // A filter's delay shifts what has been produced, never the place in the music: joins are counted by the
     // sources' frames.
-    const int64_t start = std::llround(reachedFrames_);
-    starts_.push({start, track.serial, track.dither});
-    const bool known = facts.totalFrames >= 0;
+    putMark({std::llround(reachedFrames_), track.serial, track.dither, track.goesOn, track.startFrame,
+             static_cast<double>(track.startFrame) / perSecond, setup_.transform.speedRatio()});
+    const bool known = facts.totalFrames >= 0 && !track.loop.active();
     const double length =
         known ? static_cast<double>(std::max<int64_t>(0, facts.totalFrames - track.startFrame)) : 0;
     expectedEnd_.store(known ? std::llround(reachedFrames_ + length * ratio) : -1, std::memory_order_release);
+    unheard_ += static_cast<size_t>(std::llround(static_cast<double>(track.runUp) * ratio));
+    transform_.setGain(track.gain);
 }
 
 void Deck::playTrack(DeckTrack &track)
 {
     beginTrack(track);
-    const SourceFacts &facts = track.source->facts();
-    const double ratio = static_cast<double>(setup_.transform.framesPerSecondOut()) /
-                         static_cast<double>(std::max<int64_t>(1, facts.format.framesPerSecond()));
-    const size_t step = facts.format.isDsd() ? dsdStepFrames : pcmStepFrames;
+    const size_t step = track.source->facts().format.isDsd() ? dsdStepFrames : pcmStepFrames;
     AudioBlock in;
     AudioBlock out;
-    int64_t read = 0;
+    int64_t read = -track.runUp;
+    int64_t at = track.startFrame - track.runUp;
     while (true) {
-        const ReadOutcome outcome = track.source->read(in, step);
+        size_t want = step;
+        if (track.loop.active())
+            want = static_cast<size_t>(
+                std::min<int64_t>(static_cast<int64_t>(want), std::max<int64_t>(0, track.loop.to - at)));
+        const ReadOutcome outcome =
+            want > 0 ? track.source->read(in, want) : ReadOutcome{ReadStatus::end, {}};
+        if (outcome.status == ReadStatus::end && track.loop.active() && at > track.loop.from) {
+            if (!goBack(track, read))
+                break;
+            at = track.loop.from;
+            continue;
+        }
         if (outcome.status != ReadStatus::frames) {
             if (outcome.status == ReadStatus::failed)
                 fail(track.serial, outcome.message);
             break;
         }
         read += static_cast<int64_t>(in.frames);
+        at += static_cast<int64_t>(in.frames);
         transform_.process(in, out);
         if (!putAll(out))
             break;
     }
-    reachedFrames_ += static_cast<double>(read) * ratio;
+    reachedFrames_ += static_cast<double>(read) * setup_.transform.framesOutPerFrame();
+}
+
+/// The filters keep their state, so what comes out is what a file with the repeated music in it would give.
+bool Deck::goBack(const DeckTrack &track, int64_t framesHeard)
+{
+    if (!track.source->seekFrame(track.loop.from)) {
+        fail(track.serial, "this source cannot be moved back to the start of the loop");
+        return false;
+    }
+    const auto perSecond = static_cast<double>(track.source->facts().format.framesPerSecond());
+    const double reached =
+        reachedFrames_ + static_cast<double>(framesHeard) * setup_.transform.framesOutPerFrame();
+    return putMark({std::llround(reached), track.serial, track.dither, true, track.loop.from,
+                    static_cast<double>(track.loop.from) / perSecond, setup_.transform.speedRatio()});
+}
+
+bool Deck::putMark(const DeckMark &mark)
+{
+    while (!marks_.push(mark)) {
+        if (!waitForRoom())
+            return false;
+    }
+    const std::lock_guard lock(mutex_);
+    while (places_.size() > 1 && places_[1].frame <= consumed_.load(std::memory_order_acquire))
+        places_.pop_front();
+    places_.push_back(mark);
+    return !ending_;
+}
+
+std::optional<DeckPlace> Deck::placeAt(int64_t frame)
+{
+    const int64_t end = endFrame_.load(std::memory_order_acquire);
+    if (end >= 0 && frame >= end)
+        return std::nullopt;
+    const std::lock_guard lock(mutex_);
+    const auto behind = std::upper_bound(places_.begin(), places_.end(), frame,
+                                         [](int64_t f, const DeckMark &mark) { return f < mark.frame; });
+    if (behind == places_.begin())
+        return std::nullopt;
+    const DeckMark &mark = *std::prev(behind);
+    const double since = static_cast<double>(frame - mark.frame) / setup_.transform.framesOutPerFrame();
+    return DeckPlace{mark.serial, mark.sourceFrame + std::llround(since)};
 }
 
 void Deck::fail(uint32_t serial, const std::string &reason)
@@ -148,7 +202,8 @@ void Deck::fail(uint32_t serial, const std::string &reason)
 
 bool Deck::putAll(const AudioBlock &block)
 {
-    size_t done = 0;
+    size_t done = std::min(unheard_, block.frames);
+    unheard_ -= done;
     while (done < block.frames) {
         // Whole frames only, or a full ring would cut one in two.
         const size_t room = (setup_.transform.toDsd ? dsd_.space() : pcm_.space()) / channels_;
@@ -162,38 +217,49 @@ bool Deck::putAll(const AudioBlock &block)
             produced_.fetch_add(static_cast<int64_t>(n), std::memory_order_release);
             continue;
         }
-        std::unique_lock lock(mutex_);
-        if (ending_)
+        if (!waitForRoom())
             return false;
-        wake_.wait_for(lock, std::chrono::milliseconds(setup_.clocked ? 20 : 1));
     }
     const std::lock_guard lock(mutex_);
     return !ending_;
 }
 
-std::optional<TrackStart> Deck::takeTrackStart()
+bool Deck::waitForRoom()
 {
-    const TrackStart *start = starts_.peek();
-    if (!start || start->frame > consumed_.load(std::memory_order_relaxed))
+    std::unique_lock lock(mutex_);
+    if (!ending_)
+        wake_.wait_for(lock, std::chrono::milliseconds(setup_.clocked ? 20 : 1));
+    return !ending_;
+}
+
+bool Deck::markDue() const
+{
+    const DeckMark *mark = marks_.peek();
+    return mark && mark->frame <= consumed_.load(std::memory_order_relaxed);
+}
+
+std::optional<DeckMark> Deck::takeMark()
+{
+    if (!markDue())
         return std::nullopt;
-    TrackStart taken;
-    starts_.pop(taken);
+    DeckMark taken;
+    marks_.pop(taken);
     return taken;
 }
 
-size_t Deck::framesUntilStart(size_t frames) const
+size_t Deck::framesUntilMark(size_t frames) const
 {
-    const TrackStart *start = starts_.peek();
-    if (!start)
+    const DeckMark *mark = marks_.peek();
+    if (!mark)
         return frames;
-    const int64_t distance = start->frame - consumed_.load(std::memory_order_relaxed);
+    const int64_t distance = mark->frame - consumed_.load(std::memory_order_relaxed);
     return distance <= 0 ? frames : std::min(frames, static_cast<size_t>(distance));
 }
 
 template<typename T>
 size_t Deck::readFrom(SpscRing<T> &ring, T *out, size_t frames)
 {
-    frames = std::min(framesUntilStart(frames), ring.available() / channels_);
+    frames = std::min(framesUntilMark(frames), ring.available() / channels_);
     ring.read(out, frames * channels_);
     consumed_.fetch_add(static_cast<int64_t>(frames), std::memory_order_release);
     return frames;

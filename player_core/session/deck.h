@@ -7,6 +7,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <mutex>
@@ -16,21 +17,44 @@
 
 namespace kelp_core {
 
+/// A part of a track that is repeated: frames [from, to) of its source.
+struct FrameLoop
+{
+    int64_t from = 0;
+    int64_t to = 0;
+    bool active() const { return to > from; }
+};
+
 /// One track on its way into a deck.
 struct DeckTrack
 {
     uint32_t serial = 0;
     std::unique_ptr<Source> source;
-    int64_t startFrame = 0; ///< where the source stands, in its own frames
+    int64_t startFrame = 0; ///< the first frame that is heard, in the source's own frames
+    int64_t runUp = 0;      ///< the source stands so many frames before it, which fill the filters unheard
     bool dither = false;    ///< its samples do not fit the device's depth
+    double gain = 1.0;      ///< of PCM
+    bool goesOn = false;    ///< not its start: another deck has played it up to here
+    FrameLoop loop;
 };
 
-/// Told to the audio thread where a track begins.
-struct TrackStart
+/// Told to the audio thread where a track begins, or where another place of the same track follows.
+struct DeckMark
 {
     int64_t frame = 0; ///< of the chain
     uint32_t serial = 0;
     bool dither = false;
+    bool goesOn = false;     ///< the track was heard before
+    int64_t sourceFrame = 0; ///< the place in the track
+    double startSec = 0;     ///< the same
+    double speed = 1.0;      ///< seconds of the track in one second
+};
+
+/// A place in a track.
+struct DeckPlace
+{
+    uint32_t serial = 0;
+    int64_t sourceFrame = 0;
 };
 
 struct DeckSetup
@@ -61,16 +85,24 @@ public:
     [[nodiscard]] bool chain(DeckTrack &track);
 
     uint32_t number() const { return setup_.number; }
+    const TransformPlan &plan() const { return setup_.transform; }
+
+    /// The track's place at a frame of the chain that is not behind what has been read; nothing behind the
+    /// end. Session thread.
+    std::optional<DeckPlace> placeAt(int64_t frame);
 
     // What follows is the audio thread's; none of it waits or allocates.
 
-    /// The track that begins exactly at the next frame to be read, once.
-    std::optional<TrackStart> takeTrackStart();
-    /// Read up to `frames` frames, but never past the start of a track. Interleaved samples or DSD bytes.
+    /// A mark stands at the next frame to be read.
+    bool markDue() const;
+    /// The mark that stands exactly at the next frame to be read, once.
+    std::optional<DeckMark> takeMark();
+    /// Read up to `frames` frames, but never past a mark. Interleaved samples or DSD bytes.
     size_t read(double *out, size_t frames);
     size_t read(uint8_t *out, size_t frames);
     /// Frames that can be read now.
     size_t available() const;
+    int64_t consumed() const { return consumed_.load(std::memory_order_relaxed); }
     /// Every frame has been read and none will follow.
     bool finished() const;
     /// The end is known and all that is left stands in the ring, so waiting brings no more.
@@ -83,9 +115,12 @@ private:
     void playTrack(DeckTrack &track);
     void beginTrack(const DeckTrack &track);
     bool nextTrack(DeckTrack &track);
+    bool goBack(const DeckTrack &track, int64_t framesHeard);
+    bool putMark(const DeckMark &mark);
     bool putAll(const AudioBlock &block);
+    bool waitForRoom();
     void fail(uint32_t serial, const std::string &reason);
-    size_t framesUntilStart(size_t frames) const;
+    size_t framesUntilMark(size_t frames) const;
     template<typename T>
     size_t readFrom(SpscRing<T> &ring, T *out, size_t frames);
 
@@ -94,7 +129,7 @@ private:
     const int64_t lowFrames_;
     SpscRing<double> pcm_;
     SpscRing<uint8_t> dsd_;
-    SpscRing<TrackStart> starts_{64};
+    SpscRing<DeckMark> marks_{256};
     std::atomic<int64_t> produced_{0};
     std::atomic<int64_t> consumed_{0};
     std::atomic<int64_t> expectedEnd_{-1};
@@ -104,10 +139,12 @@ private:
     StreamTransform transform_;
     double expectedFrames_ = 0; ///< sum over the tracks begun so far; below 0: not known
     double reachedFrames_ = 0;  ///< where the track in work begins, by the sources' own counts
+    size_t unheard_ = 0;        ///< frames of a run-up that still come out of the filters
 
     std::mutex mutex_;
     std::condition_variable wake_;
     std::optional<DeckTrack> queued_; // guarded by mutex_
+    std::deque<DeckMark> places_;     // guarded by mutex_; all marks that may still be asked for
     bool ending_ = false;             // guarded by mutex_
     bool endSealed_ = false;          // guarded by mutex_
     std::thread thread_;

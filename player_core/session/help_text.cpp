@@ -24,6 +24,9 @@ Output
   -dop WAY             auto (default), force, native: how DSD goes out
   -resample            let the device run at another rate;  -src-quality fast|standard|best
   -vol 0..100          software volume; 100 leaves the samples untouched
+  -replaygain WAY      off (default), track, album: level by the file's tags, never above its peak
+  -peak-guard on|off   bring peaks down that would pass full scale; else nothing is touched (default off)
+  -speed 0.5..3.0      play slower or faster;  -pitch-lock on|off  keep the pitch (default on)
 
 DSD as PCM
   -pcm                 always decode DSD
@@ -43,8 +46,8 @@ For a host program
                        control lines come from a queue in the same process
 
 Understood, but not in this engine yet (said in one line when it would be heard)
-  -mode -devs -xo -rig -dsp-plugins-on -peak-guard -denoise -keep-harmonics -replaygain -speed
-  -pitch-lock -pcm2dsd -pcm2dsd-target -pcm2dsd-taps -ext-decoder
+  -mode -devs -xo -rig -dsp-plugins-on -denoise -keep-harmonics
+  -pcm2dsd -pcm2dsd-target -pcm2dsd-taps -ext-decoder
   -prefetch on|off     this engine always reads ahead
 
 Probes
@@ -57,6 +60,7 @@ Probes
 
 Lines on standard input
   stop | pause | resume | play | vol N | report | spectrum on|off | scope on|off
+  speed RATIO | ab A B | ab off (seconds of the present track) | guard on|off | verify
   load PATH | loadat SECONDS PATH | load-cue TRACK SHEET | load-iso TRACK IMAGE
 
 Ends with 0 after a natural end, 1 when the only source could not be played, 2 for a command line that

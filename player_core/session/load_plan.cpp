@@ -27,10 +27,12 @@ LoadAction planLoad(const LoadFacts &facts)
     if (!facts.playing)
         return LoadAction::start;
     const double window = preloadWindowSec(facts);
-    if (facts.hasPosition || facts.paused || facts.preloaded || window <= 0 || facts.totalSec < 0)
+    if (facts.hasPosition || facts.paused || facts.preloaded || facts.looping || window <= 0 ||
+        facts.totalSec < 0)
         return LoadAction::switchNow;
-    return facts.totalSec - facts.positionSec <= window + windowSlackSec ? LoadAction::preload
-                                                                         : LoadAction::switchNow;
+    return facts.totalSec - facts.positionSec <= window + windowSlackSec * facts.speed
+               ? LoadAction::preload
+               : LoadAction::switchNow;
 }
 
 std::string whyNotJoin(const JoinFacts &facts)

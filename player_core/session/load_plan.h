@@ -19,6 +19,8 @@ struct LoadFacts
     double totalSec = -1;     ///< below 0: not known
     double crossfadeSec = 0;
     bool gapless = true;
+    double speed = 1.0;   ///< seconds of the track in one second
+    bool looping = false; ///< a part of the track is repeated, so that it has no end
 };
 
 /// What a load line does.
@@ -33,8 +35,8 @@ enum class LoadAction
 /// them apart is the time left. A host hands the next track over when at most its preload window is left: the
 /// crossfade time when there is one, else 1.5 s with gapless playing on. A quarter of a second is added for
 /// the way of the progress line to the host and of the load line back. A load that comes earlier, or while
-/// paused, or in a track whose length is not known, is the listener's choice of another track; so is a second
-/// one behind a preload, since a host hands over only one.
+/// paused, or in a track whose length is not known or that is looped, is the listener's choice of another
+/// track; so is a second one behind a preload, since a host hands over only one.
 [[nodiscard]] LoadAction planLoad(const LoadFacts &facts);
 
 /// What must agree for a track to follow another on an opened device.

@@ -16,7 +16,9 @@ enum class MessageKind
     controlLine,  ///< text: the line without its end
     controlLost,  ///< text: a sentence on a line that could not be taken
     controlEnd,   ///< nothing more will come: end of standard input, or the host closed its queue
-    trackHeard,   ///< serial: the track has just become audible
+    trackHeard,   ///< serial, speed: the track has just become audible
+    speedHeard,   ///< serial, speed: the track is heard at another speed from now on
+    guardActed,   ///< serial: the peak guard has acted on the track, for the first time
     trackOver,    ///< serial: its last frame has been heard and nothing follows
     sourceFailed, ///< serial, text: the rest of the track cannot be read
     deckFree,     ///< serial: the deck's number; the audio thread has let go of it
@@ -28,6 +30,7 @@ struct Message
     MessageKind kind;
     std::string text;
     uint32_t serial = 0;
+    double speed = 1.0; ///< seconds of music in one second
 };
 
 /// Messages on their way to the session thread. Any thread posts, the session thread waits. Shared by
@@ -54,6 +57,12 @@ public:
         Message message = std::move(messages_.front());
         messages_.pop_front();
         return message;
+    }
+
+    bool empty()
+    {
+        const std::lock_guard lock(mutex_);
+        return messages_.empty();
     }
 
 private:

@@ -48,15 +48,6 @@ std::string setOnOff(bool &target, std::string_view flag, const std::string &val
     return {};
 }
 
-std::string warnWhenOn(SessionOptions &o, std::string_view flag, const std::string &value,
-                       const std::string &what)
-{
-    const auto answer = onOff(value);
-    if (!answer)
-        return badOperand(flag, value, "on or off");
-    return *answer ? notYet(o, what) : std::string();
-}
-
 std::string setSource(SessionOptions &o, std::string SessionOptions::*field, const std::string &value)
 {
     if (value.empty())
@@ -103,9 +94,23 @@ std::string setAddress(uint64_t &target, std::string_view flag, const std::strin
 std::string setSpeed(SessionOptions &o, const std::string &value)
 {
     double ratio = 0;
-    if (!parseNumber(value, ratio) || ratio <= 0)
-        return badOperand("-speed", value, "a ratio above 0");
-    return std::abs(ratio - 1.0) < 0.0005 ? std::string() : notYet(o, "Another speed");
+    if (!parseNumber(value, ratio) || ratio < SpeedPlan::slowest || ratio > SpeedPlan::fastest)
+        return badOperand("-speed", value, "a ratio from 0.5 to 3.0");
+    o.speed.ratio = ratio;
+    return {};
+}
+
+std::string setReplayGain(SessionOptions &o, const std::string &value)
+{
+    if (value == "off")
+        o.replayGain = ReplayGainMode::off;
+    else if (value == "track")
+        o.replayGain = ReplayGainMode::track;
+    else if (value == "album")
+        o.replayGain = ReplayGainMode::album;
+    else
+        return badOperand("-replaygain", value, "off, track or album");
+    return {};
 }
 
 std::string setMode(SessionOptions &o, const std::string &value)
@@ -241,9 +246,7 @@ constexpr Flag flags[] = {
          return v == "direct" || v == "auto" ? std::string() : notYet(o, "The speaker rig \"" + v + "\"");
      }},
     {"-peak-guard", true,
-     [](SessionOptions &o, const std::string &v) {
-         return warnWhenOn(o, "-peak-guard", v, "The peak guard");
-     }},
+     [](SessionOptions &o, const std::string &v) { return setOnOff(o.peakGuard, "-peak-guard", v); }},
     {"-denoise", true,
      [](SessionOptions &o, const std::string &v) {
          return v == "off" ? std::string() : notYet(o, "Noise reduction");
@@ -253,15 +256,10 @@ constexpr Flag flags[] = {
      [](SessionOptions &, const std::string &v) {
          return onOff(v) ? std::string() : badOperand("-keep-harmonics", v, "on or off");
      }},
-    {"-replaygain", true,
-     [](SessionOptions &o, const std::string &v) {
-         return v == "off" ? std::string() : notYet(o, "ReplayGain");
-     }},
+    {"-replaygain", true, setReplayGain},
     {"-speed", true, setSpeed},
     {"-pitch-lock", true,
-     [](SessionOptions &, const std::string &v) {
-         return onOff(v) ? std::string() : badOperand("-pitch-lock", v, "on or off");
-     }},
+     [](SessionOptions &o, const std::string &v) { return setOnOff(o.speed.pitchKept, "-pitch-lock", v); }},
     {"-pcm2dsd", false,
      [](SessionOptions &o, const std::string &) { return notYet(o, "Turning PCM into DSD"); }},
     {"-pcm2dsd-target", true, [](SessionOptions &, const std::string &) { return std::string(); }},

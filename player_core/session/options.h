@@ -2,7 +2,9 @@
 
 #include "player_core/dsp/pdm_decimator.h"
 #include "player_core/dsp/resampler.h"
+#include "player_core/dsp/speed_stage.h"
 #include "player_core/output/output.h"
+#include "player_core/session/replay_gain.h"
 
 #include <cstdint>
 #include <string>
@@ -39,6 +41,9 @@ struct SessionOptions
 
     // Playing.
     int volume = 100;
+    bool peakGuard = false;
+    ReplayGainMode replayGain = ReplayGainMode::off;
+    SpeedPlan speed;
     double crossfadeSec = 0;
     bool gapless = true;
     bool spectrum = false;

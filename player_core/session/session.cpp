@@ -1,7 +1,6 @@
 #include "player_core/session/session.h"
 
 #include "player_core/session/output_lines.h"
-#include "player_core/session/verify_report.h"
 
 #include <algorithm>
 
@@ -16,9 +15,6 @@ constexpr auto keepOpen = 3s;
 // A pause longer than this gives the device back; resuming opens it again at the same place.
 constexpr auto longestPause = 10min;
 constexpr auto watchPeriod = 200ms;
-// So long after a line the audio thread has taken it and a ramp is over: one write, and the ramp's few
-// milliseconds. A check that is asked for together with a change must not judge what was before.
-constexpr auto settleTime = 300ms;
 
 } // namespace
 
@@ -29,6 +25,8 @@ Session::Session(SessionOptions options, SessionServices services, LineWriter &l
     , telemetry_(lines, *mailbox_, book_)
     , parent_(options_.parentPid)
     , volume_(options_.volume)
+    , guard_(options_.peakGuard)
+    , speed_(options_.speed)
 {
     telemetry_.setSpectrum(options_.spectrum);
     telemetry_.setScope(options_.scope);
@@ -73,9 +71,17 @@ void Session::handle(const Message &message)
     case MessageKind::controlEnd:
         return controlEnded();
     case MessageKind::trackHeard:
+        heardSpeed_ = message.serial >= heardSerial_ ? message.speed : heardSpeed_;
         return onTrackHeard(message.serial);
     case MessageKind::trackOver:
         return onTrackOver(message.serial);
+    case MessageKind::speedHeard:
+        if (message.serial != heardSerial_ || !playing_)
+            return;
+        heardSpeed_ = message.speed;
+        return sayChain();
+    case MessageKind::guardActed:
+        return sayGuard(message.serial);
     case MessageKind::sourceFailed:
         return book_.setFailure(message.serial, message.text);
     case MessageKind::deckFree:
@@ -133,6 +139,14 @@ void Session::handleControl(const ControlLine &line, const std::string &text)
         return sayChain();
     case ControlKind::verify:
         return askVerify();
+    case ControlKind::speed:
+        return setSpeed(line.ratio);
+    case ControlKind::loop:
+        return setLoop(line.seconds, line.toSec);
+    case ControlKind::loopOff:
+        return clearLoop();
+    case ControlKind::guard:
+        return setGuard(line.on);
     case ControlKind::notSupported:
         return handleUnsupported(line, text);
     case ControlKind::malformed:
@@ -172,10 +186,19 @@ void Session::onTrackHeard(uint32_t serial)
     heardSerial_ = serial;
     underrunsBefore_ = underruns();
     book_.forgetBefore(serial);
+    requests_.erase(requests_.begin(), requests_.lower_bound(serial));
+    if (ab_ && ab_->serial != serial && ab_->serial != 0) {
+        ab_.reset();
+        lines_.say("A/B loop: it ended with its track.");
+    }
     transform_ = transformFor(info->facts.format);
     if (transform_.decodesDsd())
         lines_.say(pdmFilterLine(info->facts.format.rateHz, pdmFilterName(transform_.filter),
                                  options_.pcmFilterChosen));
+    if (!info->gainText.empty())
+        lines_.say("ReplayGain: " + info->gainText + '.');
+    if (transform_.toDsd && speed_.active())
+        lines_.say("DSD goes out directly and cannot be stretched, so this track plays at its own speed.");
     sayChain();
 }
 
@@ -207,7 +230,7 @@ std::chrono::milliseconds Session::waitTime() const
     if (!playing_ && deferred_)
         return std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(deferredAt_ - Clock::now()),
                           1ms, std::chrono::milliseconds(watchPeriod));
-    return watchPeriod;
+    return retuneWanted_ ? 10ms : std::chrono::milliseconds(watchPeriod);
 }
 
 void Session::passTime()
@@ -225,6 +248,8 @@ void Session::passTime()
         if (!playing_ && inputEnded_)
             end(exit_code::done);
     }
+    if (retuneWanted_ && now >= retuneAt_ && mailbox_->empty())
+        retune();
     // In a session of one source the audio thread leaves at its end; a line that came in just then was not
     // taken by it any more.
     if (playing_ && loop_ && loop_->left() && loop_->board().read().serial < lastSerial_) {
@@ -265,91 +290,10 @@ void Session::park()
     LoadRequest request = heardRequest_;
     request.startSec = telemetry_.heard().seconds;
     request.hasPosition = true;
+    request.keepsLoop = true;
     closeDevice();
     parked_ = request;
     lines_.say("Paused for ten minutes, so the device is free for others; resuming opens it again.");
-}
-
-void Session::setVolume(int volume)
-{
-    volume_ = volume;
-    if (!loop_)
-        return; // the next track's chain block tells
-    loop_->command({.kind = AudioCommandKind::gain, .gain = gainForVolume(volume)});
-    lines_.say(volumeLine(volumeFacts()));
-}
-
-VolumeFacts Session::volumeFacts() const
-{
-    VolumeFacts facts;
-    const WireFormat &wire = output_->opened().wire;
-    if (wire.carrier != Carrier::pcm) {
-        facts.place = wire.carrier == Carrier::dop ? VolumePlace::dop : VolumePlace::nativeDsd;
-        return facts;
-    }
-    facts.gain = gainForVolume(volume_);
-    // Single floats carry the 24 bits of their mantissa.
-    facts.deviceBits = wire.encoding == SampleEncoding::f32 ? 24 : wire.validBits;
-    const StreamFormat &from = transform_.from;
-    facts.sourceBits = from.isDsd() ? facts.deviceBits : from.isFloat ? 24 : from.depthBits;
-    facts.dither = facts.gain != 1.0 && wire.encoding != SampleEncoding::f32;
-    return facts;
-}
-
-unsigned Session::underruns() const
-{
-    return output_ && loop_ ? output_->underruns() + loop_->starved() : 0;
-}
-
-std::optional<ChainFacts> Session::chainFacts() const
-{
-    const auto info = book_.find(heardSerial_);
-    if (!output_ || !loop_ || !info || !playing_)
-        return std::nullopt;
-    const PlaybackState state = loop_->board().read();
-    ChainFacts facts;
-    facts.path = info->path;
-    facts.source = info->facts;
-    facts.failure = info->failure;
-    facts.deviceRequested = options_.device;
-    facts.output = output_->opened();
-    facts.transform = transform_;
-    facts.latencyMs = output_->latencyMs();
-    facts.volume = volumeFacts();
-    facts.dithered = state.dithered;
-    facts.fading = !state.unity && facts.volume.gain == 1.0 && facts.volume.place == VolumePlace::software;
-    facts.mixing = state.mixing;
-    facts.paused = paused_;
-    facts.trackFrames = state.trackFrames;
-    facts.scaledFrames = state.scaledFrames;
-    facts.clipped = state.clipped;
-    facts.underruns = underruns();
-    facts.trackUnderruns = facts.underruns - underrunsBefore_;
-    return facts;
-}
-
-void Session::sayChain()
-{
-    const std::optional<ChainFacts> facts = chainFacts();
-    if (!facts)
-        return lines_.say("Nothing plays, so there is no signal chain to report.");
-    for (const std::string &line : chainReport(*facts))
-        lines_.say(line);
-}
-
-void Session::askVerify()
-{
-    verifyAt_ = std::max(Clock::now(), changedAt_ + settleTime);
-}
-
-void Session::sayVerify()
-{
-    verifyAt_.reset();
-    const std::optional<ChainFacts> facts = chainFacts();
-    if (!facts)
-        return lines_.say(verifyNothing());
-    for (const std::string &line : verifyReport(*facts))
-        lines_.say(line);
 }
 
 } // namespace kelp_core

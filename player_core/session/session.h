@@ -15,6 +15,7 @@
 
 #include <chrono>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <set>
@@ -62,6 +63,7 @@ private:
         double startSec = 0;
         bool hasPosition = false; ///< `loadat`
         bool fromCommandLine = false;
+        bool keepsLoop = false; ///< the same track goes on after a long pause
         std::string shownPath() const;
     };
 
@@ -91,20 +93,41 @@ private:
     bool openDevice(const StreamFormat &stream);
     void closeDevice();
     Deck &makeDeck(DeckTrack track);
+    /// Whether samples must be rounded on their way, so that dither is due.
+    bool needsDither(const TransformPlan &plan, double gain) const;
     TransformPlan transformFor(const StreamFormat &stream) const;
     std::string whyNotOnThisDevice(const StreamFormat &stream) const;
 
+    // Speed and loop of what plays (session_tuning.cpp).
+    void setSpeed(double ratio);
+    void setLoop(double fromSec, double toSec);
+    void clearLoop();
+    void sayLoop(const TrackInfo &info, bool jumped);
+    void setGuard(bool on);
+    void wantRetune(std::chrono::milliseconds in);
+    void retune();
+    bool retuneTo(const TrackInfo &info, const LoadRequest &request, std::unique_ptr<Source> source);
+    void putBackPreload(uint32_t serial);
+    uint32_t writtenSerial() const;
+    FrameLoop loopFrames(const TrackInfo &info) const;
+    std::string loopProblem(const TrackInfo &info, double fromSec, double toSec) const;
+    /// A track that begins leaves the loop of the one before, or takes the one that waits for it.
+    void startLoop(DeckTrack &track, bool keepsLoop);
+
+    // What is told (session_report.cpp).
+    void sayGuard(uint32_t serial);
     void setVolume(int volume);
-    void pause();
-    void resume();
-    void park();
-    VolumeFacts volumeFacts() const;
+    VolumeFacts volumeFacts(double replayGain) const;
     void sayChain();
     /// The stages as they are now; nothing while there is no stream.
     std::optional<ChainFacts> chainFacts() const;
     unsigned underruns() const;
     void askVerify();
     void sayVerify();
+
+    void pause();
+    void resume();
+    void park();
     void end(int code);
 
     const SessionOptions options_;
@@ -134,9 +157,23 @@ private:
     uint32_t decksMade_ = 0;
     uint32_t openings_ = 0;
     int volume_;
-    LoadRequest heardRequest_;            ///< what lastSerial_ came from
-    std::optional<LoadRequest> deferred_; ///< handed over early, but cannot join
-    std::optional<LoadRequest> parked_;   ///< paused so long that the device was given back
+    bool guard_;
+    SpeedPlan speed_; ///< wished
+    double heardSpeed_ = 1.0;
+    struct Loop
+    {
+        double fromSec = 0;
+        double toSec = 0;
+        uint32_t serial = 0; ///< of its track; 0: the next one that begins
+        bool told = false;
+    };
+    std::optional<Loop> ab_;
+    bool retuneWanted_ = false;
+    Clock::time_point retuneAt_{};
+    std::map<uint32_t, LoadRequest> requests_; ///< what the tracks in hand came from
+    LoadRequest heardRequest_;                 ///< what lastSerial_ came from
+    std::optional<LoadRequest> deferred_;      ///< handed over early, but cannot join
+    std::optional<LoadRequest> parked_;        ///< paused so long that the device was given back
     Clock::time_point deferredAt_{};
     Clock::time_point idleSince_{};
     Clock::time_point pausedSince_{};

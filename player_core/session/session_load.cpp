@@ -19,17 +19,17 @@ using namespace std::chrono_literals;
 
 constexpr auto sameLoadWithin = 2s;
 
-/// Whether samples must be rounded on their way, so that dither is due.
-bool needsDither(const TransformPlan &plan, const WireFormat &wire)
+} // namespace
+
+bool Session::needsDither(const TransformPlan &plan, double gain) const
 {
+    const WireFormat &wire = output_->opened().wire;
     if (wire.carrier != Carrier::pcm || wire.encoding == SampleEncoding::f32)
         return false;
     const bool folds = plan.from.channels > plan.toChannels;
-    return plan.decodesDsd() || plan.resamples() || folds || plan.from.isFloat ||
-           plan.from.depthBits > wire.validBits;
+    return plan.decodesDsd() || plan.resamples() || plan.changesSpeed() || folds || gain != 1.0 ||
+           plan.from.isFloat || plan.from.depthBits > wire.validBits;
 }
-
-} // namespace
 
 std::string Session::LoadRequest::shownPath() const
 {
@@ -109,9 +109,11 @@ LoadFacts Session::loadFacts(const LoadRequest &request)
     facts.hasPosition = request.hasPosition;
     facts.crossfadeSec = options_.crossfadeSec;
     facts.gapless = options_.gapless;
+    facts.looping = ab_ && ab_->serial != 0;
     const HeardPosition heard = telemetry_.heard();
     facts.preloaded = deferred_.has_value() || lastSerial_ != heard.serial;
     facts.positionSec = heard.seconds;
+    facts.speed = heard.speed;
     if (const auto info = book_.find(heard.serial))
         facts.totalSec = info->totalSec;
     return facts;
@@ -149,9 +151,14 @@ DeckTrack Session::enter(const LoadRequest &request, std::unique_ptr<Source> sou
     DeckTrack track;
     const StreamFormat format = info.facts.format;
     track.startFrame = std::llround(request.startSec * static_cast<double>(format.framesPerSecond()));
-    track.dither = needsDither(transformFor(format), output_->opened().wire);
+    const TransformPlan plan = transformFor(format);
+    const ReplayGainChoice gain = chooseReplayGain(options_.replayGain, info.facts.gains, plan.toDsd);
+    info.gain = track.gain = gain.gain;
+    info.gainText = gain.text;
+    track.dither = needsDither(plan, gain.gain);
     track.source = std::move(source);
     track.serial = lastSerial_ = book_.add(std::move(info));
+    requests_[track.serial] = request;
     heardRequest_ = request;
     return track;
 }
@@ -166,6 +173,8 @@ void Session::begin(const LoadRequest &request, std::unique_ptr<Source> source)
     if (!output_ && !openDevice(format))
         return;
     DeckTrack track = enter(request, std::move(source));
+    retuneWanted_ = false;
+    startLoop(track, request.keepsLoop);
     firstWanted_ = track.serial;
     telemetry_.expect(track.serial);
     paused_ = false;
@@ -178,8 +187,9 @@ void Session::preload(const LoadRequest &request, std::unique_ptr<Source> source
     if (const std::string why = whyNotOnThisDevice(source->facts().format); !why.empty())
         return defer(request, why);
     DeckTrack track = enter(request, std::move(source));
+    const bool sameSpeed = lastDeck_ && lastDeck_->plan() == transformFor(track.source->facts().format);
     const bool crossfade = options_.crossfadeSec > 0 && output_->opened().wire.carrier == Carrier::pcm;
-    if (!crossfade && lastDeck_ && lastDeck_->chain(track))
+    if (!crossfade && sameSpeed && lastDeck_->chain(track))
         return;
     const auto fade = std::llround(options_.crossfadeSec * output_->opened().wire.frameRateHz);
     Deck &deck = makeDeck(std::move(track));
@@ -216,6 +226,8 @@ TransformPlan Session::transformFor(const StreamFormat &stream) const
     plan.toChannels = opened.wire.channels;
     plan.filter = options_.pcmFilter;
     plan.quality = options_.srcQuality;
+    // A speed that is not applied makes no difference between two plans.
+    plan.speed = {speed_.active() && !plan.toDsd ? speed_.ratio : 1.0, speed_.pitchKept};
     return plan;
 }
 
@@ -248,7 +260,7 @@ bool Session::openDevice(const StreamFormat &stream)
     output_ = std::move(outcome.output);
     openedStream_ = stream;
     lines_.say(openedLine(output_->opened()));
-    loop_ = std::make_unique<AudioLoop>(*output_, AudioSetup{gainForVolume(volume_), oneSource()});
+    loop_ = std::make_unique<AudioLoop>(*output_, AudioSetup{gainForVolume(volume_), guard_, oneSource()});
     telemetry_.attach(*loop_, *output_, ++openings_);
     return true;
 }

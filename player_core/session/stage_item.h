@@ -25,9 +25,9 @@ namespace stage_name {
 inline constexpr auto source = "source";
 inline constexpr auto decoding = "DSD decoding";
 inline constexpr auto resampler = "resampler";
+inline constexpr auto speed = "speed";
 inline constexpr auto channels = "channel map";
 inline constexpr auto effects = "effects";
-inline constexpr auto speed = "speed";
 inline constexpr auto replayGain = "ReplayGain";
 inline constexpr auto volume = "volume";
 inline constexpr auto crossfade = "crossfade";
@@ -38,6 +38,8 @@ inline constexpr auto mixer = "mixer";
 inline constexpr auto conversion = "conversion behind us";
 inline constexpr auto delivery = "delivery";
 inline constexpr auto underruns = "underruns";
+/// Answers only while one is set.
+inline constexpr auto loop = "A/B loop";
 } // namespace stage_name
 
 } // namespace kelp_core

@@ -48,6 +48,12 @@ int TransformPlan::decodedRateHz() const
     return rates.empty() ? toRateHz : rates.front();
 }
 
+double TransformPlan::framesOutPerFrame() const
+{
+    return static_cast<double>(framesPerSecondOut()) /
+           static_cast<double>(std::max<int64_t>(1, from.framesPerSecond())) / speedRatio();
+}
+
 StreamTransform::StreamTransform(const TransformPlan &plan)
     : plan_(plan)
 {
@@ -57,6 +63,16 @@ StreamTransform::StreamTransform(const TransformPlan &plan)
     if (plan.resamples())
         resampler_ = std::make_unique<Resampler>(plan.quality, plan.decodedRateHz(), plan.toRateHz,
                                                  plan.from.channels);
+    if (plan.changesSpeed())
+        speed_ = std::make_unique<SpeedStage>(plan.speed, plan.quality, plan.toRateHz, plan.from.channels);
+}
+
+void StreamTransform::scale(std::vector<double> &pcm) const
+{
+    if (gain_ == 1.0)
+        return;
+    for (double &sample : pcm)
+        sample *= gain_;
 }
 
 void StreamTransform::process(const AudioBlock &in, AudioBlock &out)
@@ -70,24 +86,25 @@ void StreamTransform::process(const AudioBlock &in, AudioBlock &out)
         out.frames = in.frames;
         return;
     }
-    if (plan_.isIdentity()) {
-        out.pcm = in.pcm;
-        out.frames = in.frames;
-        return;
-    }
     decoded_.clear();
     if (decimator_)
         decimator_->process(in.dsd.data(), in.frames, decoded_);
     else
         decoded_ = in.pcm;
+    scale(decoded_);
+    const auto channels = static_cast<size_t>(plan_.from.channels);
+    std::vector<double> *pcm = &decoded_;
     if (resampler_) {
         resampled_.clear();
-        resampler_->process(decoded_.data(), decoded_.size() / static_cast<size_t>(plan_.from.channels),
-                            resampled_);
-        finish(resampled_, out);
-    } else {
-        finish(decoded_, out);
+        resampler_->process(pcm->data(), pcm->size() / channels, resampled_);
+        pcm = &resampled_;
     }
+    if (speed_) {
+        sped_.clear();
+        speed_->process(pcm->data(), pcm->size() / channels, sped_);
+        pcm = &sped_;
+    }
+    finish(*pcm, out);
 }
 
 void StreamTransform::flush(AudioBlock &out)
@@ -96,14 +113,24 @@ void StreamTransform::flush(AudioBlock &out)
     decoded_.clear();
     if (decimator_)
         decimator_->flush(decoded_);
-    if (!resampler_)
-        return finish(decoded_, out);
-    resampled_.clear();
-    if (!decoded_.empty())
-        resampler_->process(decoded_.data(), decoded_.size() / static_cast<size_t>(plan_.from.channels),
-                            resampled_);
-    resampler_->flush(resampled_);
-    finish(resampled_, out);
+    scale(decoded_);
+    const auto channels = static_cast<size_t>(plan_.from.channels);
+    std::vector<double> *pcm = &decoded_;
+    if (resampler_) {
+        resampled_.clear();
+        if (!pcm->empty())
+            resampler_->process(pcm->data(), pcm->size() / channels, resampled_);
+        resampler_->flush(resampled_);
+        pcm = &resampled_;
+    }
+    if (speed_) {
+        sped_.clear();
+        if (!pcm->empty())
+            speed_->process(pcm->data(), pcm->size() / channels, sped_);
+        speed_->flush(sped_);
+        pcm = &sped_;
+    }
+    finish(*pcm, out);
 }
 
 void StreamTransform::finish(std::vector<double> &pcm, AudioBlock &out)

@@ -112,7 +112,9 @@ HeardPosition Telemetry::heard()
     const std::lock_guard lock(mutex_);
     if (!track_ || !loop_)
         return {};
-    return {track_->serial, positionSec(loop_->board().read())};
+    const PlaybackState state = loop_->board().read();
+    takeEvents();
+    return {track_->serial, positionSec(state), speed_};
 }
 
 void Telemetry::run()
@@ -144,8 +146,9 @@ void Telemetry::tick(Clock::time_point now)
     }
     if (now >= nextProgress_) {
         nextProgress_ = std::max(nextProgress_ + progressPeriod, now);
-        sayProgress();
+        sayProgress(state);
     }
+    tellGuard(state);
     if (now >= nextLatency_) {
         nextLatency_ = now + latencyPeriod;
         sayLatency();
@@ -170,7 +173,7 @@ void Telemetry::handlePending(uint64_t heardFrames)
     while (!pending_.empty()) {
         const AudioEvent event = pending_.front();
         // A start is heard with its first frame, or, of a track without any, with what comes behind it.
-        const bool starts = event.kind == AudioEventKind::trackStarted;
+        const bool starts = event.kind != AudioEventKind::chainEnded;
         const bool passed = pending_.size() > 1 && pending_[1].at <= heardFrames;
         if (starts ? event.at >= heardFrames && !passed : event.at > heardFrames)
             return;
@@ -179,6 +182,8 @@ void Telemetry::handlePending(uint64_t heardFrames)
             continue;
         if (event.kind == AudioEventKind::trackStarted)
             startTrack(event);
+        else if (event.kind == AudioEventKind::trackMoved)
+            moveTo(event);
         else
             endTrack(event);
     }
@@ -189,21 +194,45 @@ void Telemetry::startTrack(const AudioEvent &event)
     track_ = book_.find(event.serial);
     if (!track_)
         return;
+    placeSec_ = event.startSec;
+    speed_ = event.speed;
     segment_ = 0;
     lines_.say(sourceLine(track_->facts));
-    lines_.say(progressLine(track_->startSec, track_->totalSec));
+    lines_.say(progressLine(placeSec_, track_->totalSec));
     nextProgress_ = Clock::now() + progressPeriod;
     saySpectrumHead();
     sayWaveHead();
-    mailbox_.post({.kind = MessageKind::trackHeard, .text = {}, .serial = event.serial});
+    mailbox_.post({.kind = MessageKind::trackHeard, .text = {}, .serial = event.serial, .speed = speed_});
+}
+
+void Telemetry::moveTo(const AudioEvent &event)
+{
+    // Of a track that was paused so long that its device was closed nothing has been told on this one yet.
+    if (!track_ || track_->serial != event.serial)
+        return startTrack(event);
+    placeSec_ = event.startSec;
+    nextProgress_ = Clock::now() + progressPeriod;
+    lines_.frame(progressLine(placeSec_, track_->totalSec));
+    if (std::exchange(speed_, event.speed) != event.speed)
+        mailbox_.post({.kind = MessageKind::speedHeard, .text = {}, .serial = event.serial, .speed = speed_});
+}
+
+void Telemetry::tellGuard(const PlaybackState &state)
+{
+    if (state.guardedFrames == 0 || guardTold_ == state.serial)
+        return;
+    guardTold_ = state.serial;
+    mailbox_.post({.kind = MessageKind::guardActed, .text = {}, .serial = state.serial});
 }
 
 void Telemetry::endTrack(const AudioEvent &event)
 {
     if (track_ && track_->serial == event.serial) {
-        const double seconds = track_->startSec + static_cast<double>(event.frames) / frameRateHz_;
+        const double seconds = placeSec_ + static_cast<double>(event.frames) * speed_ / frameRateHz_;
         lines_.say(progressLine(seconds, track_->totalSec));
     }
+    // A track may be over before there was time to look at it.
+    tellGuard(loop_->board().read());
     track_.reset();
     mailbox_.post({.kind = MessageKind::trackOver, .text = {}, .serial = event.serial});
 }
@@ -212,22 +241,16 @@ double Telemetry::positionSec(const PlaybackState &state) const
 {
     const auto heard = static_cast<int64_t>(state.written) - std::max<int64_t>(0, state.delay);
     int64_t frames = 0;
-    if (state.serial == track_->serial) {
+    if (pending_.empty())
         frames = state.trackFrames - std::max<int64_t>(0, static_cast<int64_t>(state.trackWrittenAt) - heard);
-    } else {
-        // The next track is being written while this one is still heard.
-        const auto it = std::find_if(pending_.begin(), pending_.end(), [](const AudioEvent &e) {
-            return e.kind == AudioEventKind::trackStarted;
-        });
-        if (it != pending_.end())
-            frames = it->frames - std::max<int64_t>(0, static_cast<int64_t>(it->at) - heard);
-    }
-    return track_->startSec + static_cast<double>(std::max<int64_t>(0, frames)) / frameRateHz_;
+    else // what comes next is being written while this is still heard
+        frames =
+            pending_.front().frames - std::max<int64_t>(0, static_cast<int64_t>(pending_.front().at) - heard);
+    return placeSec_ + static_cast<double>(std::max<int64_t>(0, frames)) * speed_ / frameRateHz_;
 }
 
-void Telemetry::sayProgress()
+void Telemetry::sayProgress(const PlaybackState &state)
 {
-    const PlaybackState state = loop_->board().read();
     if (state.serial != track_->serial && pending_.empty())
         return;
     const double seconds = positionSec(state);

@@ -23,6 +23,7 @@ struct HeardPosition
 {
     uint32_t serial = 0; ///< 0: no track is heard
     double seconds = 0;
+    double speed = 1.0; ///< seconds of the track in one second, as it is heard
 };
 
 /// Tells the host what is heard: positions, levels, spectrum, scope, and the start and end of tracks at the
@@ -57,14 +58,16 @@ private:
     void takeEvents();
     void handlePending(uint64_t heardFrames);
     void startTrack(const AudioEvent &event);
+    void moveTo(const AudioEvent &event);
     void endTrack(const AudioEvent &event);
     void takeSamples();
     void sayLevels();
     void saySpectrumHead();
     void sayWaveHead();
-    void sayProgress();
+    void sayProgress(const PlaybackState &state);
     void saySegment(double seconds);
     void sayLatency();
+    void tellGuard(const PlaybackState &state);
     double positionSec(const PlaybackState &state) const;
 
     LineWriter &lines_;
@@ -83,6 +86,9 @@ private:
     std::deque<AudioEvent> pending_; ///< not heard yet
     uint32_t expected_ = 0;
     std::optional<TrackInfo> track_; ///< heard now
+    double placeSec_ = 0;            ///< where the part of it begins that is heard now
+    double speed_ = 1.0;             ///< of that part
+    uint32_t guardTold_ = 0;         ///< the last track of which it was told that the peak guard acts
     int segment_ = 0;
     bool spectrumOn_ = false;
     bool scopeOn_ = false;

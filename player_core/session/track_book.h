@@ -22,6 +22,8 @@ struct TrackInfo
     std::vector<SourceSegment> segments; ///< empty but for whole sheets
     std::string failure;                 ///< why its rest could not be read; empty when it could
     bool fromCommandLine = false;
+    double gain = 1.0;    ///< ReplayGain's
+    std::string gainText; ///< what was decided on it; empty when it is off
 };
 
 /// The tracks that a session has in hand, by serial number: counted up from 1, so a higher one is later.

@@ -3,6 +3,7 @@
 #include "player_core/dsp/fixed_text.h"
 #include "player_core/dsp/volume.h"
 #include "player_core/session/output_lines.h"
+#include "player_core/session/tuning_items.h"
 
 #include <algorithm>
 
@@ -37,7 +38,9 @@ StageItem sourceItem(const ChainFacts &f)
     if (!f.source.lossless)
         return broken(stage_name::source,
                       f.source.description + ": the coding is lossy, so the original samples are gone");
-    return kept(stage_name::source, f.source.description + ": decoded, the coding is lossless");
+    const bool asItIs = f.transform.toDsd && !f.source.dst;
+    return kept(stage_name::source,
+                f.source.description + (asItIs ? ": " : ": decoded, ") + "the coding is lossless");
 }
 
 StageItem decodingItem(const ChainFacts &f)
@@ -75,15 +78,17 @@ StageItem volumeItem(const ChainFacts &f)
         return kept(stage_name::volume, f.volume.place == VolumePlace::device
                                             ? "set on the device, the samples are not scaled"
                                             : "a DSD stream is not scaled");
-    if (f.volume.gain != 1.0)
+    // ReplayGain's part of the gain has an item of its own.
+    if (f.volume.gain != f.replayGainFactor)
         return broken(stage_name::volume, "the volume stage scales the samples by " +
-                                              fixedText(decibels(f.volume.gain), 2) + " dB");
+                                              fixedText(decibels(f.volume.gain / f.replayGainFactor), 2) +
+                                              " dB");
     if (f.scaledFrames > 0)
         return kept(stage_name::volume, "unity, the samples are not scaled now; " +
                                             std::to_string(f.scaledFrames) +
                                             " earlier frames of this track were");
     return kept(stage_name::volume,
-                "unity, none of the " + std::to_string(f.trackFrames) + " frames so far was scaled");
+                "unity, it scaled none of the " + std::to_string(f.trackFrames) + " frames so far");
 }
 
 StageItem crossfadeItem(const ChainFacts &f)
@@ -102,10 +107,11 @@ StageItem clippingItem(const ChainFacts &f)
 {
     if (!isPcm(f))
         return kept(stage_name::clipping, "a DSD stream cannot clip");
-    if (f.clipped > 0)
+    if (f.clippedSamples > 0)
         return broken(stage_name::clipping,
-                      std::to_string(f.clipped) +
-                          " samples of this track stood beyond full scale and were cut");
+                      std::to_string(f.clippedSamples) +
+                          (f.clippedSamples == 1 ? " sample of this track passed full scale and was cut"
+                                                 : " samples of this track passed full scale and were cut"));
     return kept(stage_name::clipping, "no sample of this track was cut");
 }
 
@@ -177,25 +183,17 @@ StageItem underrunItem(const ChainFacts &f)
 std::vector<StageItem> verifyItems(const ChainFacts &f)
 {
     std::vector<StageItem> items = {
-        sourceItem(f),
-        decodingItem(f),
-        resamplerItem(f),
-        channelItem(f),
-        kept(stage_name::effects, "none is in the chain"),
-        kept(stage_name::speed, "1.00x, no stage for another speed is in the chain"),
-        kept(stage_name::replayGain, "not in the chain"),
-        volumeItem(f),
-        crossfadeItem(f),
-        kept(stage_name::guard, "not in the chain"),
-        clippingItem(f),
-        depthItem(f),
-        mixerItem(f),
-        conversionItem(f),
-        deliveryItem(f),
+        sourceItem(f),     decodingItem(f),   resamplerItem(f),
+        speedItem(f),      channelItem(f),    kept(stage_name::effects, "none is in the chain"),
+        replayGainItem(f), volumeItem(f),     crossfadeItem(f),
+        guardItem(f),      clippingItem(f),   depthItem(f),
+        mixerItem(f),      conversionItem(f), deliveryItem(f),
         underrunItem(f)};
     const auto named = [&items](const std::string &name) {
         return std::find_if(items.begin(), items.end(), [&](const StageItem &i) { return i.name == name; });
     };
+    if (auto loop = loopItem(f))
+        items.insert(named(stage_name::clipping), *std::move(loop));
     for (const StageItem &own : f.stages) {
         if (const auto at = named(own.name); at != items.end())
             *at = own;

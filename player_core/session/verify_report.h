@@ -8,7 +8,8 @@
 namespace kelp_core {
 
 /// Every stage's answer, in the order of the signal. An item in facts.stages takes the place of the one with
-/// its name; one with a name of its own stands behind the peak guard.
+/// its name; one with a name of its own stands behind the peak guard, and so
+/// does the A/B loop while one is set.
 [[nodiscard]] std::vector<StageItem> verifyItems(const ChainFacts &facts);
 
 /// The first item that does not prove its stage harmless: a broken one before one that is only not known.

@@ -1,6 +1,7 @@
 #include "player_core/source/cue_sheet.h"
 
 #include "player_core/source/cue_line.h"
+#include "player_core/source/gain_tag_text.h"
 #include "player_core/source/text_encoding.h"
 
 #include <algorithm>
@@ -127,6 +128,12 @@ private:
             track()->file = sheet.files.size() - 1;
         }
     }
+    void remark(CueLine &words)
+    {
+        const std::string key = text(words.word());
+        GainTags &gains = track() ? track()->gains : sheet.gains;
+        takeGainTag(key, words.word(), dropped_ ? ignoredGains_ : gains);
+    }
     void pregap(CueLine &words)
     {
         if (const auto time = cueTime(words.word()); time && track())
@@ -144,7 +151,7 @@ private:
         return dropped_ || !sheet.tracks.empty() ? ignored_ : album;
     }
 
-    static constexpr std::array<Command, 10> makeCommands()
+    static constexpr std::array<Command, 11> makeCommands()
     {
         return {{{"TITLE", &Parser::title},
                  {"PERFORMER", &Parser::performer},
@@ -155,15 +162,17 @@ private:
                  {"POSTGAP", &Parser::postgap},
                  {"FLAGS", &Parser::flags},
                  {"ISRC", &Parser::isrc},
-                 {"CATALOG", &Parser::catalog}}};
+                 {"CATALOG", &Parser::catalog},
+                 {"REM", &Parser::remark}}};
     }
-    static const std::array<Command, 10> commands;
+    static const std::array<Command, 11> commands;
 
     bool dropped_ = false;
     std::string ignored_;
+    GainTags ignoredGains_;
 };
 
-const std::array<Parser::Command, 10> Parser::commands = Parser::makeCommands();
+const std::array<Parser::Command, 11> Parser::commands = Parser::makeCommands();
 
 CueSheet parseLines(std::string_view content)
 {

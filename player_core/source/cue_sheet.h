@@ -1,5 +1,7 @@
 #pragma once
 
+#include "player_core/audio/gain_tags.h"
+
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -33,6 +35,7 @@ struct CueTrack
     std::optional<int64_t> startFrames;       ///< INDEX 01
     int64_t pregapFrames = 0;                 ///< PREGAP: silence that no file holds
     int64_t postgapFrames = 0;                ///< POSTGAP
+    GainTags gains;                           ///< REM REPLAYGAIN_TRACK_…
 
     bool isAudio() const { return mode == "AUDIO"; }
 };
@@ -42,6 +45,7 @@ struct CueSheet
     std::string title;
     std::string performer;
     std::string catalog;
+    GainTags gains;                 ///< REM REPLAYGAIN_ALBUM_…
     const char *encoding = "UTF-8"; ///< what the text was taken for
     std::vector<CueFile> files;
     std::vector<CueTrack> tracks; ///< in the sheet's order

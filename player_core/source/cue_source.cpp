@@ -11,6 +11,25 @@
 namespace kelp_core {
 namespace {
 
+/// What the sheet says goes before what its file says, which holds for all of the file's tracks together.
+GainTags gainsOf(const CueSheet &sheet, int number, const GainTags &file)
+{
+    GainTags gains = file;
+    const auto take = [](std::optional<double> &to, std::optional<double> &toPeak,
+                         const std::optional<double> &from, const std::optional<double> &peak) {
+        if (!from)
+            return;
+        to = from;
+        toPeak = peak;
+    };
+    take(gains.albumGainDb, gains.albumPeak, sheet.gains.albumGainDb, sheet.gains.albumPeak);
+    for (const CueTrack &track : sheet.tracks) {
+        if (track.number == number)
+            take(gains.trackGainDb, gains.trackPeak, track.gains.trackGainDb, track.gains.trackPeak);
+    }
+    return gains;
+}
+
 OpenedSource openTrack(const CueSheet &sheet, const std::string &folder, const SourceRequest &request)
 {
     const std::vector<CueSpan> spans = cueSpans(sheet);
@@ -21,10 +40,12 @@ OpenedSource openTrack(const CueSheet &sheet, const std::string &folder, const S
     OpenedSource file = openCueAudio(folder, sheet.files[span->file], request);
     if (!file.source)
         return file;
+    const GainTags gains = gainsOf(sheet, request.track, file.source->facts().gains);
     const int64_t perSecond = file.source->facts().format.framesPerSecond();
     const int64_t start = cueTimeToFrames(span->startFrames, perSecond);
     const int64_t end = span->endFrames < 0 ? -1 : cueTimeToFrames(span->endFrames, perSecond);
-    return makeSpanSource(std::move(file.source), start, end, "track " + std::to_string(request.track));
+    return makeSpanSource(std::move(file.source), start, end, "track " + std::to_string(request.track),
+                          gains);
 }
 
 OpenedSource openWhole(const CueSheet &sheet, const std::string &folder, const SourceRequest &request)

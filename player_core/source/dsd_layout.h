@@ -1,5 +1,6 @@
 #pragma once
 
+#include "player_core/audio/gain_tags.h"
 #include "player_core/source/byte_input.h"
 
 #include <cstdint>
@@ -23,6 +24,7 @@ struct DsdLayout
     bool lowestBitFirst = false; ///< the oldest bit is bit 0
     bool dst = false;            ///< data is a chain of DST frame chunks
     int64_t tagOffset = 0;       ///< an ID3v2 tag, 0 when there is none
+    GainTags gains;              ///< of that tag
 
     static constexpr int maxChannels = 32;
 

@@ -112,6 +112,7 @@ SourceFacts dsdFacts(const DsdLayout &layout)
     facts.format = {SignalKind::dsd, layout.rateHz, layout.channels, 1, false};
     facts.formatWord = "dsd";
     facts.dst = layout.dst;
+    facts.gains = layout.gains;
     facts.totalFrames = layout.totalFrames;
     std::string rate = std::to_string(layout.rateHz) + " Hz";
     if (layout.rateHz % 44100 == 0)

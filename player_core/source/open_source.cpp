@@ -1,9 +1,11 @@
 #include "player_core/source/av_log.h"
+#include "player_core/source/av_reader.h"
 #include "player_core/source/content_kind.h"
 #include "player_core/source/cue_source.h"
 #include "player_core/source/dsd_source.h"
 #include "player_core/source/dst_decoder.h"
 #include "player_core/source/file_input.h"
+#include "player_core/source/gain_tag_text.h"
 #include "player_core/source/open_file.h"
 #include "player_core/source/pcm_source.h"
 #include "player_core/source/sacd_source.h"
@@ -26,12 +28,24 @@ ContentKind rawCdAudio(bool bigEndian)
 
 using LayoutParser = DsdLayoutOutcome (*)(ByteInput &);
 
-OpenedSource openDsdFile(std::unique_ptr<FileInput> file, LayoutParser parse)
+/// The tags of a DSF file. One that FFmpeg does not like plays without.
+GainTags dsfGains(const std::string &path)
 {
-    const DsdLayoutOutcome outcome = parse(*file);
+    std::string error;
+    const auto reader = AvReader::open(path, {"dsf", "", nullptr}, error);
+    takeAvError();
+    return reader ? gainTagsOf(*reader->context(), reader->audio() ? reader->audio()->index : -1)
+                  : GainTags();
+}
+
+OpenedSource openDsdFile(const std::string &path, std::unique_ptr<FileInput> file, LayoutParser parse)
+{
+    DsdLayoutOutcome outcome = parse(*file);
     if (!outcome.layout)
         return {nullptr, outcome.error};
-    const DsdLayout &layout = *outcome.layout;
+    DsdLayout &layout = *outcome.layout;
+    if (layout.tagOffset > 0)
+        layout.gains = dsfGains(path);
     if (!layout.dst)
         return {makeDsdSource(std::move(file), layout), {}};
     if (!DstDecoder::supports(layout.channels, static_cast<int>(layout.dstFrameBytes())))
@@ -56,11 +70,11 @@ OpenedSource openAudioFile(const std::string &path, const SourceRequest &request
     case ContentReader::container:
         return openPcmFile(path, kind, request);
     case ContentReader::dsf:
-        return openDsdFile(std::move(file), parseDsf);
+        return openDsdFile(path, std::move(file), parseDsf);
     case ContentReader::dff:
-        return openDsdFile(std::move(file), parseDff);
+        return openDsdFile(path, std::move(file), parseDff);
     case ContentReader::wsd:
-        return openDsdFile(std::move(file), parseWsd);
+        return openDsdFile(path, std::move(file), parseWsd);
     case ContentReader::sacd: {
         SourceRequest whole = request;
         whole.isoPath = path;

@@ -2,6 +2,7 @@
 
 #include "player_core/source/av_log.h"
 #include "player_core/source/av_reader.h"
+#include "player_core/source/gain_tag_text.h"
 #include "player_core/source/pcm_codec.h"
 #include "player_core/source/pcm_convert.h"
 #include "player_core/source/read_failure.h"
@@ -85,6 +86,7 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
     if (first.status == ReadStatus::failed)
         return first.message;
     facts_ = pcmFacts(kind_, *reader_->audio()->codecpar, *decoder_, reader_->file());
+    facts_.gains = gainTagsOf(*reader_->context(), reader_->audio()->index);
     const StreamFormat &format = facts_.format;
     if (!isConvertible(decoder_->sample_fmt) || format.rateHz <= 0 || format.channels < 1 ||
         format.channels > StreamFormat::maxChannels)

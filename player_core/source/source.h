@@ -1,6 +1,7 @@
 #pragma once
 
 #include "player_core/audio/audio_block.h"
+#include "player_core/audio/gain_tags.h"
 #include "player_core/audio/stream_format.h"
 
 #include <atomic>
@@ -23,8 +24,9 @@ struct SourceFacts
     bool dst = false;         ///< DSD that was packed by Direct Stream Transfer
     int64_t totalFrames = -1; ///< frames of this track (of the CUE track, not of its file); -1 when not known
     int64_t firstFrame = 0;   ///< where the track begins within its file
-    std::string
-        choice; ///< a sentence for the listener on what was chosen where a file holds several recordings
+    /// A sentence for the listener on what was chosen where a file holds several recordings.
+    std::string choice;
+    GainTags gains; ///< of its file, or of its CUE sheet where that has them
 };
 
 enum class ReadStatus

@@ -8,11 +8,12 @@ namespace {
 class SpanSource final : public Source
 {
 public:
-    SpanSource(std::unique_ptr<Source> whole, int64_t start, int64_t end)
+    SpanSource(std::unique_ptr<Source> whole, int64_t start, int64_t end, const GainTags &gains)
         : whole_(std::move(whole))
         , facts_(whole_->facts())
         , start_(start)
     {
+        facts_.gains = gains;
         facts_.firstFrame = start;
         facts_.totalFrames = end < 0 ? -1 : end - start;
     }
@@ -55,7 +56,7 @@ private:
 } // namespace
 
 OpenedSource makeSpanSource(std::unique_ptr<Source> whole, int64_t start, int64_t end,
-                            const std::string &what)
+                            const std::string &what, const GainTags &gains)
 {
     const int64_t total = whole->facts().totalFrames;
     if (total >= 0) {
@@ -65,7 +66,7 @@ OpenedSource makeSpanSource(std::unique_ptr<Source> whole, int64_t start, int64_
     }
     if (start > 0 && !whole->seekFrame(start))
         return {nullptr, what + " cannot be reached in its file"};
-    return {std::make_unique<SpanSource>(std::move(whole), start, end), {}};
+    return {std::make_unique<SpanSource>(std::move(whole), start, end, gains), {}};
 }
 
 } // namespace kelp_core

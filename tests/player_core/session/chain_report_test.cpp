@@ -91,6 +91,41 @@ const ChainCase cases[] = {
          f.transform.toRateHz = 176400;
      },
      "converted (DSD64 is decoded to PCM at 176400 Hz", "NO: DSD64 is decoded"},
+    {"speed",
+     [](ChainFacts &f) {
+         f.transform.speed.ratio = 1.5;
+         f.volume.gain = 0.5;
+     },
+     "converted (the speed is changed to 1.50x", "NO: the speed is changed to 1.50x"},
+    {"a speed as good as the original's", [](ChainFacts &f) { f.transform.speed.ratio = 1.0004; }, "clean (",
+     "YES: "},
+    {"a speed that DSD cannot have",
+     [](ChainFacts &f) {
+         f.transform.from = {SignalKind::dsd, 2822400, 2, 1, false};
+         f.transform.toDsd = true;
+         f.transform.speed.ratio = f.speedWanted.ratio = 1.5;
+         f.volume.place = VolumePlace::dop;
+     },
+     "clean (", "YES: "},
+    {"ReplayGain before volume",
+     [](ChainFacts &f) {
+         f.replayGainFactor = 0.5;
+         f.volume.gain = 0.25;
+     },
+     "converted (ReplayGain scales the samples by -6.02 dB",
+     "NO: ReplayGain scales the samples by -6.02 dB."},
+    {"an idle guard", [](ChainFacts &f) { f.guard = true; }, "clean (", "YES: "},
+    {"a guard that acts",
+     [](ChainFacts &f) {
+         f.guard = true;
+         f.guardedFrames = 12;
+         f.guardGain = 0.5;
+     },
+     "converted (the peak guard has brought 12 frames of this track down, by up to 6.02 dB",
+     "NO: the peak guard has brought 12 frames"},
+    {"clipping", [](ChainFacts &f) { f.clippedSamples = 3; }, "converted (3 samples of this track passed",
+     "NO: 3 samples of this track passed full scale and were cut."},
+    {"a loop", [](ChainFacts &f) { f.looping = true; }, "clean (", "YES: "},
     {"fade", [](ChainFacts &f) { f.fading = true; }, "converted (a fade", "NO: a fade"},
 };
 
@@ -155,6 +190,31 @@ TEST(ChainReportTest, TheDspLineIsActiveExactlyWhenSomethingIs)
     EXPECT_THAT(chainReport(facts)[7], Not(HasSubstr("ACTIVE")));
     facts.transform.toRateHz = 96000;
     EXPECT_THAT(chainReport(facts)[7], HasSubstr("ACTIVE: resampling to 96000 Hz"));
+}
+
+TEST(ChainReportTest, TheSpeedLineTellsWhatIsDoneAndWhatCannotBe)
+{
+    ChainFacts facts = cleanFacts();
+    EXPECT_EQ(speedLine(facts), "speed: 1.00x (no stage in the path)");
+    facts.transform.speed = facts.speedWanted = {1.5, true};
+    EXPECT_EQ(speedLine(facts), "speed: 1.50x, pitch kept (time stretching)");
+    facts.transform.speed.pitchKept = false;
+    EXPECT_EQ(speedLine(facts), "speed: 1.50x, pitch goes along (resampling)");
+    facts.transform.toDsd = true;
+    EXPECT_EQ(speedLine(facts),
+              "speed: 1.00x (DSD goes out directly and cannot be stretched; 1.50x was asked for)");
+}
+
+TEST(ChainReportTest, WhatIsOnButDoesNothingIsSaidWithoutBeingActive)
+{
+    ChainFacts facts = cleanFacts();
+    facts.guard = true;
+    facts.looping = true;
+    facts.replayGain = "this track has no tag for it, so its level stays";
+    EXPECT_EQ(
+        chainReport(facts)[7],
+        "dsp: none (samples pass through untouched); ReplayGain: this track has no tag for it, so its level "
+        "stays; the peak guard is on and has not been needed; an A/B loop repeats a part of the track");
 }
 
 TEST(ChainReportTest, ThePathCannotBreakTheBlock)

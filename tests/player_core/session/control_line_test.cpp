@@ -53,18 +53,40 @@ INSTANTIATE_TEST_SUITE_P(
         ControlCase{"load-cue /a.cue", ControlKind::malformed}, ControlCase{"vol", ControlKind::malformed},
         ControlCase{"vol 101", ControlKind::malformed}, ControlCase{"vol 1 2", ControlKind::malformed},
         ControlCase{"vol 3.5", ControlKind::malformed}, ControlCase{"spectrum", ControlKind::malformed},
+        ControlCase{"speed 0.50", ControlKind::speed}, ControlCase{"speed 3.00", ControlKind::speed},
+        ControlCase{"speed 0.49", ControlKind::malformed}, ControlCase{"speed 3.01", ControlKind::malformed},
+        ControlCase{"speed", ControlKind::malformed}, ControlCase{"speed fast", ControlKind::malformed},
+        ControlCase{"speed nan", ControlKind::malformed}, ControlCase{"ab off", ControlKind::loopOff},
+        ControlCase{"ab 1.000 2.500", ControlKind::loop}, ControlCase{"ab 0.000 0.500", ControlKind::loop},
+        ControlCase{"ab 2.000 1.000", ControlKind::malformed},
+        ControlCase{"ab 1.000 1.000", ControlKind::malformed},
+        ControlCase{"ab -1.000 1.000", ControlKind::malformed},
+        ControlCase{"ab 1.000", ControlKind::malformed}, ControlCase{"ab", ControlKind::malformed},
+        ControlCase{"ab 1 2 3", ControlKind::malformed}, ControlCase{"ab 1 1e9", ControlKind::malformed},
+        ControlCase{"ab off now", ControlKind::malformed}, ControlCase{"guard on", ControlKind::guard},
+        ControlCase{"guard off", ControlKind::guard}, ControlCase{"guard", ControlKind::malformed},
         ControlCase{"fx eq on", ControlKind::notSupported}, ControlCase{"Stop", ControlKind::notSupported},
         ControlCase{"stopp", ControlKind::notSupported}));
 
 TEST(ControlLineTest, OnlyAudibleWishesAreMissed)
 {
-    for (const char *neutral :
-         {"fx balance 50", "fx width 100", "fx denoise off", "fx eq off", "fx reverb 1 2 3", "fx hrtf az 3",
-          "fx order a,b", "speed 1.00", "ab off", "guard off", "nonsense"})
+    for (const char *neutral : {"fx balance 50", "fx width 100", "fx denoise off", "fx eq off",
+                                "fx reverb 1 2 3", "fx hrtf az 3", "fx order a,b", "nonsense"})
         EXPECT_TRUE(parseControlLine(neutral).heardAbout.empty()) << neutral;
-    for (const char *heard : {"fx balance 40", "fx width 90", "fx denoise deep", "fx eq on", "fx reverb on",
-                              "speed 1.25", "ab 1.000 2.000", "guard on"})
+    for (const char *heard :
+         {"fx balance 40", "fx width 90", "fx denoise deep", "fx eq on", "fx reverb on", "fx plugins on"})
         EXPECT_FALSE(parseControlLine(heard).heardAbout.empty()) << heard;
+}
+
+TEST(ControlLineTest, SpeedAndLoopBringTheirNumbers)
+{
+    EXPECT_DOUBLE_EQ(parseControlLine("speed 1.25").ratio, 1.25);
+    const ControlLine loop = parseControlLine("ab 12.345 67.890\n");
+    EXPECT_DOUBLE_EQ(loop.seconds, 12.345);
+    EXPECT_DOUBLE_EQ(loop.toSec, 67.89);
+    EXPECT_TRUE(parseControlLine("guard on").on);
+    EXPECT_EQ(parseControlLine("ab 2.000 1.500").error,
+              "The A/B loop is refused: point B (1.500 s) must come after point A (2.000 s).");
 }
 
 TEST(LineCutterTest, CutsHoweverTheBytesCome)

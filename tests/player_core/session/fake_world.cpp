@@ -24,6 +24,7 @@ public:
         facts_.formatWord = track.format.isDsd() ? "dsd" : "wav";
         facts_.description = "a made-up track";
         facts_.lossless = track.lossless;
+        facts_.gains = track.gains;
         facts_.totalFrames = track.lengthKnown ? track.frames : -1;
     }
 
@@ -45,7 +46,7 @@ public:
                 if (track_.format.isDsd())
                     block.dsd.push_back(static_cast<uint8_t>(s));
                 else
-                    block.pcm.push_back(s / 32768.0);
+                    block.pcm.push_back(track_.scale * s / 32768.0);
             }
         }
         block.frames = static_cast<size_t>(n);

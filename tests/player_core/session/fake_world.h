@@ -26,6 +26,8 @@ struct FakeTrack
     uint32_t seed = 1; ///< gives each track samples of its own
     bool lossless = true;
     std::vector<SourceSegment> segments;
+    double scale = 1.0; ///< of PCM samples
+    GainTags gains;
     bool plain = false; ///< every byte of DSD the same, for very long tracks
 };
 

@@ -46,6 +46,21 @@ TEST(LoadPlanTest, TheCrossfadeTimeIsTheWindowWhenThereIsOne)
     EXPECT_EQ(planLoad(facts), LoadAction::preload);
 }
 
+TEST(LoadPlanTest, WhileALoopRepeatsThereIsNothingToPreloadFor)
+{
+    LoadFacts facts = near(1);
+    facts.looping = true;
+    EXPECT_EQ(planLoad(facts), LoadAction::switchNow);
+}
+
+TEST(LoadPlanTest, TheWayOfTheLinesTakesMoreMusicAtAHigherSpeed)
+{
+    LoadFacts facts = near(2.2);
+    EXPECT_EQ(planLoad(facts), LoadAction::switchNow);
+    facts.speed = 3.0;
+    EXPECT_EQ(planLoad(facts), LoadAction::preload);
+}
+
 TEST(LoadPlanTest, WithoutAWindowEveryLoadIsAChoice)
 {
     LoadFacts facts = near(0.1);

@@ -115,11 +115,11 @@ INSTANTIATE_TEST_SUITE_P(
                     FlagCase{{"-mode", "crossover", "-devs", "a;b", "-xo", "2000"}, 1},
                     FlagCase{{"-rig", "direct"}, 0}, FlagCase{{"-rig", "bs775"}, 1},
                     FlagCase{{"-dsp-plugins-on"}, 1}, FlagCase{{"-prefetch", "on"}, 0},
-                    FlagCase{{"-peak-guard", "on"}, 1}, FlagCase{{"-peak-guard", "off"}, 0},
+                    FlagCase{{"-peak-guard", "on"}, 0}, FlagCase{{"-peak-guard", "off"}, 0},
                     FlagCase{{"-denoise", "strong", "-keep-harmonics", "on"}, 1},
-                    FlagCase{{"-replaygain", "album"}, 1},
+                    FlagCase{{"-replaygain", "album"}, 0},
                     FlagCase{{"-speed", "1.00", "-pitch-lock", "on"}, 0},
-                    FlagCase{{"-speed", "1.25", "-pitch-lock", "on"}, 1},
+                    FlagCase{{"-speed", "1.25", "-pitch-lock", "off"}, 0},
                     FlagCase{{"-pcm2dsd", "-pcm2dsd-target", "2822400", "-pcm2dsd-taps", "2048"}, 1},
                     FlagCase{{"-ext-decoder", "/x.so"}, 1}, FlagCase{{"-dop", "asio"}, 1}));
 
@@ -149,7 +149,11 @@ INSTANTIATE_TEST_SUITE_P(Lines, BadCommand,
                                          std::vector<std::string>{"-stream", "-pcm-bits", "20"},
                                          std::vector<std::string>{"-stream", "-parent-pid", "0"},
                                          std::vector<std::string>{"-stream", "-inproc-ctl", "12"},
-                                         std::vector<std::string>{"-stream", "-speed", "0"},
+                                         std::vector<std::string>{"-stream", "-speed", "0.49"},
+                                         std::vector<std::string>{"-stream", "-speed", "3.01"},
+                                         std::vector<std::string>{"-stream", "-pitch-lock", "yes"},
+                                         std::vector<std::string>{"-stream", "-peak-guard", "maybe"},
+                                         std::vector<std::string>{"-stream", "-replaygain", "loud"},
                                          std::vector<std::string>{"-stream", "-track", "-1"},
                                          std::vector<std::string>{"-stream", "--volume", "1"},
                                          std::vector<std::string>{"file.flac"}));
@@ -160,6 +164,22 @@ TEST(OptionsTest, TheSourceGivenLastCounts)
     EXPECT_TRUE(o.path.empty());
     EXPECT_EQ(o.cuePath, "/b.cue");
     EXPECT_EQ(o.track, 3);
+}
+
+TEST(OptionsTest, LevelAndSpeedAreTaken)
+{
+    const SessionOptions plain = parse({"-stream"}).options;
+    EXPECT_FALSE(plain.peakGuard);
+    EXPECT_EQ(plain.replayGain, ReplayGainMode::off);
+    EXPECT_FALSE(plain.speed.active());
+    EXPECT_TRUE(plain.speed.pitchKept);
+    const SessionOptions o = parse({"-stream", "-peak-guard", "on", "-replaygain", "album", "-speed", "1.25",
+                                    "-pitch-lock", "off"})
+                                 .options;
+    EXPECT_TRUE(o.peakGuard);
+    EXPECT_EQ(o.replayGain, ReplayGainMode::album);
+    EXPECT_EQ(o.speed, (SpeedPlan{1.25, false}));
+    EXPECT_EQ(parse({"-stream", "-replaygain", "track"}).options.replayGain, ReplayGainMode::track);
 }
 
 TEST(OptionsTest, HelpAndVersionNeedNoSource)

@@ -47,6 +47,31 @@ ChainFacts dopFacts()
     return f;
 }
 
+/// Items that break no verdict, and what they say.
+struct KeptCase
+{
+    const char *name;
+    std::function<void(ChainFacts &)> change;
+    const char *item;
+    const char *reason; ///< whole
+};
+
+const KeptCase keptCases[] = {
+    {"the original's speed", [](ChainFacts &f) { f.transform.speed.ratio = 1.0004; }, stage_name::speed,
+     "1.00x, no stage for another speed is in the chain"},
+    {"no ReplayGain", [](ChainFacts &) {}, stage_name::replayGain, "off"},
+    {"ReplayGain without a tag",
+     [](ChainFacts &f) { f.replayGain = "this track has no tag for it, so its level stays"; },
+     stage_name::replayGain, "on, but it scales nothing (this track has no tag for it, so its level stays)"},
+    {"ReplayGain at unity", [](ChainFacts &f) { f.replayGain = "album gain +0.00 dB"; },
+     stage_name::replayGain, "on, but it scales nothing (album gain +0.00 dB)"},
+    {"no guard", [](ChainFacts &) {}, stage_name::guard, "off"},
+    {"an idle guard", [](ChainFacts &f) { f.guard = true; }, stage_name::guard,
+     "on, and no sample of this track has needed it"},
+    {"a loop", [](ChainFacts &f) { f.looping = true; }, stage_name::loop,
+     "a part of the track is repeated, its frames themselves are not touched"},
+};
+
 struct VerifyCase
 {
     const char *name;
@@ -73,7 +98,47 @@ const VerifyCase cases[] = {
     {"scaled", [](ChainFacts &f) { f.volume.gain = 0.5; }, stage_name::volume, "-6.02 dB"},
     {"mixed", [](ChainFacts &f) { f.mixing = true; }, stage_name::crossfade, "two tracks"},
     {"fading", [](ChainFacts &f) { f.fading = true; }, stage_name::crossfade, "a fade is under way"},
-    {"clipped", [](ChainFacts &f) { f.clipped = 3; }, stage_name::clipping, "3 samples of this track"},
+    {"clipped", [](ChainFacts &f) { f.clippedSamples = 3; }, stage_name::clipping,
+     "3 samples of this track passed full scale and were cut"},
+    {"one sample clipped", [](ChainFacts &f) { f.clippedSamples = 1; }, stage_name::clipping,
+     "1 sample of this track passed full scale and was cut"},
+    {"faster, pitch kept",
+     [](ChainFacts &f) {
+         f.transform.speed = {1.25, true};
+     },
+     stage_name::speed, "the speed is changed to 1.25x, pitch kept (time stretching)"},
+    {"slower, pitch not kept",
+     [](ChainFacts &f) {
+         f.transform.speed = {0.8, false};
+     },
+     stage_name::speed, "the speed is changed to 0.80x, pitch goes along (resampling)"},
+    {"ReplayGain",
+     [](ChainFacts &f) {
+         f.replayGainFactor = f.volume.gain = 0.5;
+         f.replayGain = "track gain -6.02 dB";
+     },
+     stage_name::replayGain, "ReplayGain scales the samples by -6.02 dB (track gain -6.02 dB)"},
+    {"volume beside ReplayGain",
+     [](ChainFacts &f) {
+         f.replayGainFactor = 0.5;
+         f.volume.gain = 0.125;
+     },
+     stage_name::volume, "the volume stage scales the samples by -12.04 dB"},
+    {"volume that undoes ReplayGain",
+     [](ChainFacts &f) {
+         f.replayGainFactor = 2.0;
+         f.volume.gain = 1.0;
+     },
+     stage_name::volume, "the volume stage scales the samples by -6.02 dB"},
+    {"a guard that acted",
+     [](ChainFacts &f) {
+         f.guard = true;
+         f.guardedFrames = 12;
+         f.guardGain = 0.5;
+     },
+     stage_name::guard, "has brought 12 frames of this track down, by up to 6.02 dB"},
+    {"a guard that acted and is off by now", [](ChainFacts &f) { f.guardedFrames = 1; }, stage_name::guard,
+     "has brought 1 frames of this track down"},
     {"dithered", [](ChainFacts &f) { f.dithered = true; }, stage_name::depth,
      "rounded to 16 bits, with dither"},
     {"too deep", [](ChainFacts &f) { f.source.format.depthBits = 24; }, stage_name::depth,
@@ -99,9 +164,9 @@ const VerifyCase cases[] = {
     {"underrun", [](ChainFacts &f) { f.trackUnderruns = 2; }, stage_name::underruns, "2 times"},
     {"a stage that speaks for itself",
      [](ChainFacts &f) {
-         f.stages.push_back({stage_name::speed, Proof::broken, "the speed is 1.25x"});
+         f.stages.push_back({stage_name::effects, Proof::broken, "reverb"});
      },
-     stage_name::speed, "1.25x"},
+     stage_name::effects, "reverb"},
     {"a stage of its own name",
      [](ChainFacts &f) {
          f.stages.push_back({"equalizer", Proof::broken, "ten bands"});
@@ -141,6 +206,64 @@ TEST(VerifyTest, EachStageBreaksTheVerdictByItself)
         EXPECT_THAT(lineOf(facts, c.item), HasSubstr(c.reason)) << c.name;
         EXPECT_THAT(verifyReport(facts).back(), StartsWith("verify: verdict BITPERFECT=0 | ")) << c.name;
         EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("NO: ")) << c.name;
+    }
+}
+
+TEST(VerifyTest, AnIdleStageSaysWhyItBreaksNothing)
+{
+    for (const KeptCase &c : keptCases) {
+        ChainFacts facts = provenFacts();
+        c.change(facts);
+        EXPECT_EQ(lineOf(facts, c.item), "verify: " + std::string(c.item) + " ok -- " + c.reason) << c.name;
+        EXPECT_THAT(verifyReport(facts).back(), StartsWith("verify: verdict BITPERFECT=1 | ")) << c.name;
+        EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("YES: ")) << c.name;
+        EXPECT_THAT(chainVerdict(facts), StartsWith("clean (")) << c.name;
+    }
+}
+
+TEST(VerifyTest, DirectDsdIsTouchedByNeitherSpeedNorGuardNorReplayGain)
+{
+    ChainFacts facts = dopFacts();
+    facts.transform.speed.ratio = facts.speedWanted.ratio = 1.5;
+    facts.guard = true;
+    facts.replayGain = "not applied, since DSD goes out directly";
+    EXPECT_EQ(lineOf(facts, stage_name::speed),
+              "verify: speed ok -- 1.00x, the 1.50x that was asked for does not act on DSD that goes out "
+              "directly");
+    EXPECT_EQ(lineOf(facts, stage_name::guard),
+              "verify: peak guard ok -- on, but it does not act on DSD that goes out directly");
+    EXPECT_EQ(
+        lineOf(facts, stage_name::replayGain),
+        "verify: ReplayGain ok -- on, but it scales nothing (not applied, since DSD goes out directly)");
+    EXPECT_THAT(verifyReport(facts).back(), StartsWith("verify: verdict BITPERFECT=1 | "));
+    EXPECT_THAT(bitPerfectVerdict(facts), StartsWith("YES: "));
+}
+
+TEST(VerifyTest, TheReportNeverContradictsTheVerdict)
+{
+    std::vector<std::function<void(ChainFacts &)>> changes;
+    for (const VerifyCase &c : cases)
+        changes.push_back(c.change);
+    for (const KeptCase &c : keptCases)
+        changes.push_back(c.change);
+    changes.push_back([](ChainFacts &f) { f.output.readBack = {}; });
+    for (const auto &one : changes) {
+        for (const auto &other : changes) {
+            ChainFacts facts = provenFacts();
+            one(facts);
+            other(facts);
+            const bool passed = verifyReport(facts).back().starts_with("verify: verdict BITPERFECT=1 ");
+            const std::string bits = bitPerfectVerdict(facts);
+            const std::string chain = chainVerdict(facts);
+            EXPECT_EQ(bits.starts_with("YES: "), passed) << bits;
+            EXPECT_TRUE(!passed || chain.starts_with("clean (")) << chain;
+            // A clean path can only be spoilt by what came into it, or by gaps.
+            const std::vector<StageItem> items = verifyItems(facts);
+            const StageItem *objection = firstObjection(items);
+            const bool spoilt = objection && (objection->name == stage_name::source ||
+                                              objection->name == stage_name::underruns);
+            EXPECT_TRUE(passed || spoilt || !chain.starts_with("clean (")) << bits << '\n' << chain;
+        }
     }
 }
 
