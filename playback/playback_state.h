@@ -32,8 +32,10 @@ struct TrackStartState
     double resumePosSec = 0.;
     bool resumeEnabled = false;
 
+    PlaylistEntry started;    ///< what plays or played last; it stays when its row leaves the list
     QString lastPlayed;       ///< path
     QString lastPlayedKey;    ///< rowKey
+    bool lastPlayedDirty = false; ///< the two are not in the settings as they are
     int skippedAtRestore = 0; ///< rows whose file had gone when the list was restored
 };
 
@@ -47,4 +49,5 @@ struct PreloadState
     double positionSec = 0.; ///< of the old track at that moment
     double totalSec = 0.;    ///< likewise
     bool diagnosisDone = false;
+    bool refusalTold = false;
 };

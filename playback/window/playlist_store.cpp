@@ -9,10 +9,13 @@
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QTimer>
+#include <utility>
 
 namespace {
 
 constexpr int lastPlayedShownMs = 8000;
+constexpr int lastPlayedSaveDelayMs = 500;
 
 /// What came of the saved texts.
 struct Restored
@@ -58,12 +61,31 @@ void PlayerGuiWindow::savePlaylist()
     writeSetting(access, settings::playlistRow, m_ui.playlist->currentRow());
     writeSetting(access, settings::lastPlayed, m_start.lastPlayed);
     writeSetting(access, settings::lastPlayedKey, m_start.lastPlayedKey);
+    m_start.lastPlayedDirty = false;
     file.sync();
     if (m_list.historyLoading)
         m_list.historyWaiting = true;
     else if (m_list.historyDirty)
         m_historyStore->save(m_list.history, rows);
     m_list.historyDirty = false;
+}
+
+void PlayerGuiWindow::saveLastPlayedSoon()
+{
+    // The settings are one file, which a list of many thousand rows makes long: it is not written while the
+    // track is on its way, and twenty steps in a second write it once or twice.
+    if (!std::exchange(m_start.lastPlayedDirty, true))
+        QTimer::singleShot(lastPlayedSaveDelayMs, this, &PlayerGuiWindow::saveLastPlayed);
+}
+
+void PlayerGuiWindow::saveLastPlayed()
+{
+    if (!std::exchange(m_start.lastPlayedDirty, false))
+        return;
+    SettingsStore file;
+    QSettingsAccess access(file);
+    writeSetting(access, settings::lastPlayed, m_start.lastPlayed);
+    writeSetting(access, settings::lastPlayedKey, m_start.lastPlayedKey);
 }
 
 void PlayerGuiWindow::restorePlaylist()
