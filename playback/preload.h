@@ -16,7 +16,7 @@ struct PreloadFacts
     bool diagnosisDone = false; ///< once a track
     bool refusalTold = false;   ///< likewise
     int currentRow = -1;
-    int nextRow = -1; ///< -1 when the list ends
+    int nextRow = -1;      ///< -1 when the list ends
     PlaylistEntry playing; ///< what was started, which may have left the list
     PlaylistEntry next;
 };

@@ -98,8 +98,7 @@ void PlayerGuiWindow::retryWithoutExclusive()
 void PlayerGuiWindow::onDoneLine(const QString &file)
 {
     if (m_preload.pending) {
-        const bool nextHasEndedToo =
-            isOfPreloadedTrack(file, m_start.started.path, m_preload.path);
+        const bool nextHasEndedToo = isOfPreloadedTrack(file, m_start.started.path, m_preload.path);
         logLine(tr("播放完成"));
         autoAdvanceTaken();
         if (!nextHasEndedToo)
