@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -198,7 +200,11 @@ TEST_F(Program, TheStepsOfTheStartFollowEachOther)
         set(name, u"/dev/stderr"_s);
     // A session inside the program would take its output lines.
     set(u"KELP_GUI_INPROC"_s, u"0"_s);
-    ASSERT_TRUE(QDir(m_root.filePath(u"tmp"_s)).mkdir(u"kelp-log-old"_s));
+    const QString old = m_root.filePath(u"tmp/kelp-log-old"_s);
+    ASSERT_TRUE(QDir().mkdir(old));
+    const timespec longAgo{1000000000, 0}; // a young one may belong to a program that runs
+    const timespec times[] = {longAgo, longAgo};
+    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(old).constData(), times, 0), 0);
     QFile music(m_root.filePath(u"music.wav"_s));
     ASSERT_TRUE(music.open(QIODevice::WriteOnly));
     music.close();
