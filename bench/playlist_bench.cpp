@@ -316,7 +316,7 @@ private:
         }
         row("  of it, the largest of the steps", *std::max_element(took.begin(), took.end()), 0, "");
         row("  until the key is done with", middle(wholes), 0, "");
-        row("  the last played row, half a second later", millisecondsOf([&] {
+        row("  the last played row, when its time has come", millisecondsOf([&] {
                 while (window.trackStart().lastPlayedDirty)
                     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
             }),

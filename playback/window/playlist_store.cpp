@@ -16,6 +16,10 @@ namespace {
 
 constexpr int lastPlayedShownMs = 8000;
 constexpr int lastPlayedSaveDelayMs = 500;
+/// The settings are one file that is always written whole; with this many rows in it that takes as long as a
+/// blink, and the saving of the position, five seconds into the track, takes the last played row along.
+constexpr int manyRows = 2000;
+constexpr int lateSaveDelayMs = 6000;
 
 /// What came of the saved texts.
 struct Restored
@@ -72,10 +76,10 @@ void PlayerGuiWindow::savePlaylist()
 
 void PlayerGuiWindow::saveLastPlayedSoon()
 {
-    // The settings are one file, which a list of many thousand rows makes long: it is not written while the
-    // track is on its way, and twenty steps in a second write it once or twice.
+    // Not while the track is on its way, and once for twenty steps in a second.
     if (!std::exchange(m_start.lastPlayedDirty, true))
-        QTimer::singleShot(lastPlayedSaveDelayMs, this, &PlayerGuiWindow::saveLastPlayed);
+        QTimer::singleShot(m_ui.playlist->count() > manyRows ? lateSaveDelayMs : lastPlayedSaveDelayMs, this,
+                           &PlayerGuiWindow::saveLastPlayed);
 }
 
 void PlayerGuiWindow::saveLastPlayed()

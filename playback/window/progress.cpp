@@ -80,6 +80,8 @@ void PlayerGuiWindow::saveResumePosition()
     QSettingsAccess store(file);
     writeSetting(store, settings::resumePath, m_start.resumeFile);
     writeSetting(store, settings::resumeSec, m_start.resumePosSec);
+    // In one writing of the file.
+    saveLastPlayed();
 }
 
 void PlayerGuiWindow::saveResumePositionNow(double leastSec)
