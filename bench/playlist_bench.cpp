@@ -14,6 +14,7 @@
 #include <QElapsedTimer>
 #include <QListWidget>
 #include <QTemporaryDir>
+#include <QTest>
 #include <algorithm>
 #include <cstdio>
 #include <fcntl.h>
@@ -294,13 +295,32 @@ private:
     {
         window.startPlayback(window.widgets().playlist->count() / 2);
         QList<double> took;
+        QList<double> wholes;
         for (int i = 0; i < stepRounds; ++i) {
             QCoreApplication::processEvents();
             const qsizetype lines = m_engine.lines().size();
-            took.append(millisecondsOf([&] { window.stepRow(1); }));
-            if (m_engine.lines().size() == lines)
+            // Through the shortcut, as a key comes in; what is measured ends when the session is told.
+            QElapsedTimer clock;
+            double loadAfter = -1.;
+            m_engine.answer = [&](FakeSession &, const QString &line) {
+                if (line.startsWith("load "_L1))
+                    loadAfter = static_cast<double>(clock.nsecsElapsed()) / 1e6;
+            };
+            clock.start();
+            QTest::keyClick(&window, Qt::Key_Right, Qt::ControlModifier);
+            wholes.append(static_cast<double>(clock.nsecsElapsed()) / 1e6);
+            took.append(loadAfter);
+            m_engine.answer = {};
+            if (m_engine.lines().size() == lines || loadAfter < 0.)
                 std::printf("  no load line was written\n");
         }
+        row("  of it, the largest of the steps", *std::max_element(took.begin(), took.end()), 0, "");
+        row("  until the key is done with", middle(wholes), 0, "");
+        row("  the last played row, when its time has come", millisecondsOf([&] {
+                while (window.trackStart().lastPlayedDirty)
+                    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+            }),
+            0, "");
         window.killProc(true);
         return middle(took);
     }

@@ -5,6 +5,7 @@ usage: bench/program.py [start] [list] [idle] [engine] [latency] [instruments]  
 """
 import os
 import shutil
+import sqlite3
 import statistics
 import subprocess
 import sys
@@ -75,12 +76,42 @@ def bench_list(rows=20000, rounds=7):
             folder = os.path.join(stage.env["KELP_SETTINGS_DIR"], "KELP")
             os.makedirs(folder, exist_ok=True)
             with open(os.path.join(folder, "KelpPlayer.ini"), "w", encoding="utf-8") as file:
-                texts = (r"\x1f".join([os.path.basename(path), path, "", "0", "0", "0", ""]) for path in saved)
+                texts = ("\x1f".join([os.path.basename(path), path, "", "0", "0", "0", ""]) for path in saved)
                 file.write("[General]\nplaylist=" + ", ".join(f'"{text}"' for text in texts) + "\n")
+            shown = subprocess.run([PROGRAM], env={**stage.env, "KELP_GUI_SMOKE": "1"}, capture_output=True, text=True, check=False).stdout
+            assert f"KELP_SMOKE_PLAYLIST n={len(saved)} " in shown, shown
             times = [float(subprocess.run([program, PROGRAM], env=stage.env, capture_output=True, text=True, check=True).stdout.split()[-1])
                      for _ in range(rounds + 1)]
             took[name] = statistics.median(times[1:])
             row(f"start to first painted window, {name}", took[name], "ms", f"{took[name] / took['an empty list']:.2f} of an empty one's")
+        if other_saved_list(stage, paths):
+            times = [first_window(stage, ["strawberry"]) for _ in range(rounds + 1)]
+            middle = statistics.median(times[1:])
+            row(f"start to first painted window, strawberry, {rows} rows", middle, "ms", f"KelpPlayer is {took[f'{rows} saved rows'] / middle:.2f} of it")
+
+
+def other_saved_list(stage, paths):
+    """Puts the paths into strawberry's saved playlist, where that is installed."""
+    if not shutil.which("strawberry"):
+        return False
+    store = os.path.join(stage.env["XDG_DATA_HOME"], "strawberry", "strawberry", "strawberry.db")
+    first = stage.start(["strawberry"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def made():
+        try:
+            with sqlite3.connect(store) as base:
+                return base.execute("select rowid from playlists").fetchone()
+        except sqlite3.Error:
+            return None
+    number = support.wait_until(made, 30, "strawberry's first playlist")[0]
+    time.sleep(2)
+    support.end_process(first)
+    empty = statistics.median(first_window(stage, ["strawberry"]) for _ in range(3))
+    row("start to first painted window, strawberry, an empty list", empty, "ms")
+    with sqlite3.connect(store) as base:
+        base.executemany("insert into playlist_items (playlist, type, title, artist, album, url, length, filetype) values (?, 4, ?, 'Artist', 'Album', ?, 1000000000, 2)",
+                         ((number, os.path.basename(path), "file://" + path) for path in paths))
+    return True
 
 
 def cpu_seconds(pid):

@@ -89,6 +89,7 @@ ProgressDisplay updateProgress(TrackProgressState &state, const ProgressFacts &f
     state.progressPercent = percent;
     display.barValue = barValueOf(percent);
     if (facts.positionSec >= 0.) {
+        state.positionTold = true;
         state.lastPosSec = facts.positionSec;
         state.lastPosRow = facts.row;
         state.lastTotalSec = facts.totalSec;

@@ -16,6 +16,7 @@ struct TrackProgressState
     int lastPosRow = -1;         ///< the row that lastPosSec belongs to
     double progressPercent = 0.; ///< 0 … 100
     double lastTotalSec = 0.;    ///< 0 or below: not known
+    bool positionTold = false;   ///< of this track
     bool audioHasStarted = false;
     bool firstUpdateSeen = false; ///< of the program run: what it starts is measured once
     double lastSavedPosSec = 0.;  ///< the position when the resume position was last saved
@@ -29,6 +30,7 @@ struct TrackProgressState
     {
         progressPercent = 0.;
         lastTotalSec = 0.;
+        positionTold = false;
         audioHasStarted = false;
         lastSavedPosSec = resumePosSec;
         lastLoggedTen = 0;

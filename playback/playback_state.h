@@ -32,9 +32,11 @@ struct TrackStartState
     double resumePosSec = 0.;
     bool resumeEnabled = false;
 
-    QString lastPlayed;       ///< path
-    QString lastPlayedKey;    ///< rowKey
-    int skippedAtRestore = 0; ///< rows whose file had gone when the list was restored
+    PlaylistEntry started;        ///< what plays or played last; it stays when its row leaves the list
+    QString lastPlayed;           ///< path
+    QString lastPlayedKey;        ///< rowKey
+    bool lastPlayedDirty = false; ///< the two are not in the settings as they are
+    int skippedAtRestore = 0;     ///< rows whose file had gone when the list was restored
 };
 
 /// The next file, once it has been handed to the engine early.
@@ -47,4 +49,5 @@ struct PreloadState
     double positionSec = 0.; ///< of the old track at that moment
     double totalSec = 0.;    ///< likewise
     bool diagnosisDone = false;
+    bool refusalTold = false;
 };

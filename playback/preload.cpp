@@ -21,12 +21,30 @@ double windowSec(const PreloadFacts &facts)
     return facts.gapless ? gaplessWindowSec : 0.;
 }
 
+QString folderOf(const PlaylistEntry &entry)
+{
+    return QFileInfo(entry.path).path();
+}
+
 QString seconds(double sec)
 {
     return QString::number(sec, 'f', 1);
 }
 
 } // namespace
+
+bool pathMeansRow(const PlaylistEntry &playing, const PlaylistEntry &next)
+{
+    const bool follows = playing.track >= 1 && next.track == playing.track + 1;
+    if (next.isStream())
+        return false;
+    if (!next.isoPath.isEmpty())
+        return next.isoPath == playing.isoPath ? follows : next.track == 1;
+    if (!next.cuePath.isEmpty())
+        return next.cuePath == playing.cuePath && follows;
+    const bool sheetPlays = !playing.cuePath.isEmpty() && !playing.isStream();
+    return !sheetPlays || folderOf(next) != folderOf(playing);
+}
 
 bool preloadNeedsNextRow(const PreloadFacts &facts)
 {
@@ -43,9 +61,11 @@ PreloadPlan planPreload(const PreloadFacts &facts)
     if (facts.pending || facts.totalSec <= 0.)
         return plan;
     plan.diagnose = !facts.diagnosisDone && plan.remainingSec > 0. && plan.remainingSec < diagnosisSec;
-    plan.load = plan.windowSec > 0. && plan.remainingSec > leastRemainingSec &&
-                plan.remainingSec <= plan.windowSec && facts.nextRow >= 0 &&
-                facts.nextRow != facts.currentRow && facts.nextHasPath;
+    const bool due = plan.windowSec > 0. && plan.remainingSec > leastRemainingSec &&
+                     plan.remainingSec <= plan.windowSec && facts.nextRow >= 0 &&
+                     facts.nextRow != facts.currentRow && !facts.next.path.isEmpty();
+    plan.load = due && pathMeansRow(facts.playing, facts.next);
+    plan.refuse = due && !plan.load && !facts.refusalTold;
     return plan;
 }
 
@@ -56,6 +76,13 @@ QString preloadDiagnosis(const PreloadPlan &plan, const PreloadFacts &facts)
         .arg(seconds(plan.remainingSec), seconds(plan.windowSec), seconds(facts.crossfadeSec),
              facts.gapless ? u"on"_s : u"off"_s)
         .arg(facts.nextRow);
+}
+
+QString preloadRefusal(const QString &text)
+{
+    return QCoreApplication::translate(
+               "Preload", "不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载")
+        .arg(text);
 }
 
 QString preloadAnnouncement(const PreloadPlan &plan, double crossfadeSec, const QString &fileName)

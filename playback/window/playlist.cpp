@@ -20,10 +20,22 @@ int PlayerGuiWindow::lastPlayedRow() const
     return m_start.lastPlayed.isEmpty() ? -1 : m_ui.playlist->rowOfPath(m_start.lastPlayed);
 }
 
-void PlayerGuiWindow::setLastPlayed(const PlaylistEntry &entry)
+void PlayerGuiWindow::noteStarted(const PlaylistEntry &entry)
 {
+    m_start.started = entry;
     m_start.lastPlayed = entry.path;
     m_start.lastPlayedKey = rowKey(entry);
+    saveLastPlayedSoon();
+}
+
+int PlayerGuiWindow::startedRow() const
+{
+    const QString key = rowKey(m_start.started);
+    // Of several rows with one key it is the one that was chosen.
+    if (m_ui.playlist->hasRow(m_start.currentRow) &&
+        rowKey(m_ui.playlist->entryAt(m_start.currentRow)) == key)
+        return m_start.currentRow;
+    return m_ui.playlist->rowOfKey(key);
 }
 
 void PlayerGuiWindow::showTrackOf(int row)

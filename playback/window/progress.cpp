@@ -46,12 +46,13 @@ void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 
 void PlayerGuiWindow::updateProgress(double percent, double positionSec, double totalSec)
 {
-    const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
+    // Of what was started: by now another row may stand in its place.
+    const PlaylistEntry &entry = m_start.started;
     ProgressFacts facts;
     facts.percent = percent;
     facts.positionSec = positionSec;
     facts.totalSec = totalSec;
-    facts.row = m_start.currentRow;
+    facts.row = startedRow();
     facts.itemDurationSec = std::max(0., entry.endSec - entry.startSec);
     facts.speedRatio = m_choices.speedRatio;
     facts.resumeTracked = tracksResume(entry);
@@ -72,21 +73,21 @@ void PlayerGuiWindow::updateProgress(double percent, double positionSec, double 
 
 void PlayerGuiWindow::saveResumePosition()
 {
-    const QString path = m_ui.playlist->entryAt(m_start.currentRow).path;
-    m_start.resumeFile = QFileInfo(path).absoluteFilePath();
+    m_start.resumeFile = QFileInfo(m_start.started.path).absoluteFilePath();
     m_start.resumePosSec = m_progress.lastPosSec;
     m_start.resumeEnabled = true;
     SettingsStore file;
     QSettingsAccess store(file);
     writeSetting(store, settings::resumePath, m_start.resumeFile);
     writeSetting(store, settings::resumeSec, m_start.resumePosSec);
+    // In one writing of the file.
+    saveLastPlayed();
 }
 
 void PlayerGuiWindow::saveResumePositionNow(double leastSec)
 {
     // A track that has told no position yet has none to remember.
-    if (m_progress.lastPosRow == m_start.currentRow && m_progress.lastPosSec > leastSec &&
-        tracksResume(m_ui.playlist->entryAt(m_start.currentRow)))
+    if (m_progress.positionTold && m_progress.lastPosSec > leastSec && tracksResume(m_start.started))
         saveResumePosition();
 }
 
@@ -117,16 +118,22 @@ void PlayerGuiWindow::checkPreload()
     facts.gapless = m_choices.gapless;
     facts.pending = m_preload.pending;
     facts.diagnosisDone = m_preload.diagnosisDone;
+    facts.refusalTold = m_preload.refusalTold;
     facts.currentRow = m_start.currentRow;
     if (!preloadNeedsNextRow(facts))
         return;
     facts.nextRow = peekNextRow();
     const PlaylistEntry next = m_ui.playlist->entryAt(facts.nextRow);
-    facts.nextHasPath = !next.path.isEmpty();
+    facts.playing = m_start.started;
+    facts.next = next;
     const PreloadPlan plan = planPreload(facts);
     if (plan.diagnose) {
         m_preload.diagnosisDone = true;
         logLine(preloadDiagnosis(plan, facts));
+    }
+    if (plan.refuse) {
+        m_preload.refusalTold = true;
+        logLine(preloadRefusal(next.text));
     }
     if (!plan.load)
         return;
@@ -148,10 +155,12 @@ void PlayerGuiWindow::autoAdvanceTaken()
         return;
     commitPlayStat();
     closeFinishedTrack();
-    // A row number alone proves nothing: another file may have moved into its place.
+    // A row number alone proves nothing: another track may have moved into its place. Nor does the path: the
+    // tracks of a sheet share it.
     if (!advanceRow() || m_start.currentRow != taken.row ||
-        m_ui.playlist->entryAt(m_start.currentRow).path != taken.path) {
-        const int byFile = m_ui.playlist->rowOfPath(taken.path);
+        rowKey(m_ui.playlist->entryAt(m_start.currentRow)) != taken.key) {
+        const int byKey = m_ui.playlist->rowOfKey(taken.key);
+        const int byFile = byKey >= 0 ? byKey : m_ui.playlist->rowOfPath(taken.path);
         m_start.currentRow = byFile >= 0 ? byFile : taken.row;
         logLine(
             tr("自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首").arg(m_start.currentRow + 1).arg(count),
@@ -162,7 +171,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
     beginTrackFacts(true);
     discardAbLoopOfOtherTrack();
     const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
-    setLastPlayed(entry);
+    noteStarted(entry);
     showTrackOf(m_start.currentRow);
     refreshNavButtons();
     logLine(tr("自动换曲（无缝/交叉淡化）: 第 %1/%2 首: %3")

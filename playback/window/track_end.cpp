@@ -98,8 +98,7 @@ void PlayerGuiWindow::retryWithoutExclusive()
 void PlayerGuiWindow::onDoneLine(const QString &file)
 {
     if (m_preload.pending) {
-        const bool nextHasEndedToo =
-            isOfPreloadedTrack(file, m_ui.playlist->entryAt(m_start.currentRow).path, m_preload.path);
+        const bool nextHasEndedToo = isOfPreloadedTrack(file, m_start.started.path, m_preload.path);
         logLine(tr("播放完成"));
         autoAdvanceTaken();
         if (!nextHasEndedToo)
@@ -148,16 +147,15 @@ void PlayerGuiWindow::segmentChanged(int number)
 {
     if (number < 1 || !m_ui.playlist->hasRow(m_start.currentRow))
         return;
-    const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
-    const QString key = rowKey(entry, number);
+    const QString key = rowKey(m_start.started, number);
     if (key == m_start.lastPlayedKey)
         return;
     m_start.lastPlayedKey = key;
-    m_start.lastPlayed = entry.path;
+    m_start.lastPlayed = m_start.started.path;
+    m_start.lastPlayedDirty = true;
     if (const int row = m_ui.playlist->rowOfKey(key); row >= 0)
         showMessage(tr("正在播放… %1/%2").arg(row + 1).arg(m_ui.playlist->count()));
-    writeUserSetting(settings::lastPlayed, m_start.lastPlayed);
-    writeUserSetting(settings::lastPlayedKey, m_start.lastPlayedKey);
+    saveLastPlayed();
 }
 
 void PlayerGuiWindow::commitPlayStat() {}

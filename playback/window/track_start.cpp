@@ -74,7 +74,7 @@ void PlayerGuiWindow::playCurrentUnguarded()
     ++m_start.playGeneration;
     resetTrackState(std::max(0., plan.startSec));
     showTrackOf(m_start.currentRow);
-    setLastPlayed(entry);
+    noteStarted(entry);
     setPlayingUi(true);
     logElapsed(u"prepare"_s, clock.restart());
     if (!plan.reuse && !startSession(plan, built.args, facts.wanted)) {

@@ -5,7 +5,9 @@
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -189,6 +191,46 @@ TEST_F(Program, ABadRowMoveIsReportedAndTheProgramGoesOn)
     ASSERT_TRUE(process.waitForFinished(limitMs));
     EXPECT_EQ(process.exitCode(), 0) << "an empty argument is a plain start";
     EXPECT_TRUE(process.readAllStandardError().contains("KELP_GUI_MOVEROW bad spec='7' (want from:to)"));
+}
+
+TEST_F(Program, TheStepsOfTheStartFollowEachOther)
+{
+    // All that the steps say goes into one pipe, and so stands there in the order of the steps.
+    for (const QString &name : {u"KELP_GUARD_TRACE"_s, u"KELP_GUI_LOG"_s})
+        set(name, u"/dev/stderr"_s);
+    // A session inside the program would take its output lines.
+    set(u"KELP_GUI_INPROC"_s, u"0"_s);
+    const QString old = m_root.filePath(u"tmp/kelp-log-old"_s);
+    ASSERT_TRUE(QDir().mkdir(old));
+    const timespec longAgo{1000000000, 0}; // a young one may belong to a program that runs
+    const timespec times[] = {longAgo, longAgo};
+    ASSERT_EQ(utimensat(AT_FDCWD, QFile::encodeName(old).constData(), times, 0), 0);
+    QFile music(m_root.filePath(u"music.wav"_s));
+    ASSERT_TRUE(music.open(QIODevice::WriteOnly));
+    music.close();
+    set(u"KELP_GUI_SHOT"_s, m_root.filePath(u"shot.png"_s));
+    set(u"KELP_GUI_MOVEROW"_s, u"bad"_s);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    start(process, {music.fileName()});
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    const QByteArray said = process.readAll();
+    qsizetype from = 0;
+    for (const char *step : {
+             "swept 1 empty + 0 aged session log dir(s)", // logs, before anything of the window
+             "GetLastError=0 (183=ALREADY_EXISTS)",       // the single instance
+             "=== KelpPlayer",                            // the window is made, in the language chosen before
+             "[shot] ",                                   // it is shown, and its picture taken
+             "Play command: ",                            // the file of the command line
+             "KELP_GUI_MOVEROW bad spec='bad'",           // the other hooks
+             "KELP_SMOKE_SIZE w=",                        // the self-check, from the event loop's threshold
+         }) {
+        const qsizetype at = said.indexOf(step, from);
+        ASSERT_GE(at, 0) << step << " is missing, or came too early:\n" << said.constData();
+        from = at;
+    }
+    EXPECT_TRUE(said.contains("KELP_SMOKE lang=en")) << "the language was chosen by then";
 }
 
 int main(int argc, char **argv)

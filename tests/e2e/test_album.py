@@ -17,7 +17,7 @@ MIXED = [("flac", dict(rate=44100, bits=16)), ("wav", dict(rate=48000, bits=24))
 class Window(Player):
     """The window with files in its list, driven by commands. Its log is in the language of the sources."""
 
-    def __init__(self, stage, name, files, inproc, device, **param):
+    def __init__(self, stage, name, files, inproc, device, platform="offscreen", **param):
         folder = stage.folder(f"settings-{name}/KELP")
         with open(os.path.join(folder, "KelpPlayer.ini"), "w", encoding="utf-8") as file:
             file.write("[param]\n" + "".join(f"{key}={value}\n" for key, value in param.items()))
@@ -28,7 +28,7 @@ class Window(Player):
         with open(self.output_path, "wb") as output:
             self.process = stage.start([DRIVER, *files], stdin=subprocess.PIPE, stdout=output, stderr=subprocess.STDOUT, text=True,
                                        env={**stage.env, "KELP_GUI_LOG": self.log_path, "KELP_SETTINGS_DIR": os.path.dirname(folder),
-                                            "KELP_GUI_INPROC": str(inproc), "KELP_ENGINE_PACE": "realtime", "QT_QPA_PLATFORM": "offscreen"})
+                                            "KELP_GUI_INPROC": str(inproc), "KELP_ENGINE_PACE": "realtime", "QT_QPA_PLATFORM": platform})
         self.send("device " + device)
 
     def send(self, *lines):

@@ -1,6 +1,7 @@
 // window_driver FILE...: the program's window over real sessions, with the files in its list; commands come
 // in on standard input, one a line. For tests that press what a listener presses.
 //   start ROW   next   stop   pause   order AXIS   repeat AXIS   device ID   state NAME   quit
+//   show   place ROW (where it stands on the screen)   rows NAME (the files in their order)
 #include "app/settings_store.h"
 #include "playback/playlist_widget.h"
 #include "ui/window/player_gui_window.h"
@@ -31,6 +32,27 @@ void tellState(PlayerGuiWindow &window, const QString &name)
                            .arg(window.trackAnnounced()));
 }
 
+/// The row's rectangle on the screen.
+void tellPlace(PlayerGuiWindow &window, int row)
+{
+    const PlaylistWidget &list = *window.widgets().playlist;
+    const QRect rect = list.visualItemRect(list.item(row));
+    const QPoint corner = list.viewport()->mapToGlobal(rect.topLeft());
+    window.logFileOnly(u"[driver] place %1 %2 %3 %4 %5"_s.arg(row)
+                           .arg(corner.x())
+                           .arg(corner.y())
+                           .arg(rect.width())
+                           .arg(rect.height()));
+}
+
+void tellRows(PlayerGuiWindow &window, const QString &name)
+{
+    QStringList files;
+    for (const PlaylistEntry &entry : window.widgets().playlist->entries())
+        files.append(entry.text);
+    window.logFileOnly(u"[driver] rows %1 %2"_s.arg(name, files.join(u' ')));
+}
+
 void obey(PlayerGuiWindow &window, const QString &line)
 {
     const QString word = line.section(u' ', 0, 0);
@@ -51,6 +73,12 @@ void obey(PlayerGuiWindow &window, const QString &line)
         chooseDevice(window.widgets().device, operand);
     else if (word == "state"_L1)
         tellState(window, operand);
+    else if (word == "show"_L1)
+        window.show();
+    else if (word == "place"_L1)
+        tellPlace(window, operand.toInt());
+    else if (word == "rows"_L1)
+        tellRows(window, operand);
     else if (word == "quit"_L1)
         QCoreApplication::quit();
     else

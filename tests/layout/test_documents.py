@@ -31,6 +31,12 @@ class Documents(unittest.TestCase):
                 self.assertTrue(os.path.exists(os.path.join(ROOT, path)), f"{document} names {path}, which does not exist")
         self.assertGreater(named, 20)
 
+    def test_the_readme_names_every_folder_of_the_program(self):
+        table = read("README.md")
+        for folder in sorted(os.listdir(ROOT)):
+            if os.path.isfile(os.path.join(ROOT, folder, "CMakeLists.txt")) and not os.path.isfile(os.path.join(ROOT, folder, "CMakeCache.txt")):
+                self.assertIn(f"`{folder}/`", table, folder)
+
     def test_links_lead_somewhere(self):
         for document in DOCUMENTS:
             for link in re.findall(r"\]\(([^)#:]+)\)", read(document)):

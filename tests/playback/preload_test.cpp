@@ -12,7 +12,7 @@ PreloadFacts remaining(double sec)
     facts.gapless = true;
     facts.currentRow = 0;
     facts.nextRow = 1;
-    facts.nextHasPath = true;
+    facts.next.path = QStringLiteral("/m/b.flac");
     return facts;
 }
 
@@ -56,7 +56,7 @@ TEST(Preload, NeverWithoutAWindowOrANextRow)
     facts.nextRow = -1;
     EXPECT_FALSE(planPreload(facts).load);
     facts = remaining(1.);
-    facts.nextHasPath = false;
+    facts.next.path.clear();
     EXPECT_FALSE(planPreload(facts).load);
     facts = remaining(1.);
     facts.totalSec = -1.;
@@ -72,6 +72,95 @@ TEST(Preload, TheDiagnosisComesOnceATrack)
     EXPECT_FALSE(planPreload(remaining(3.)).diagnose);
     EXPECT_FALSE(preloadNeedsNextRow(remaining(30.)));
 }
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+PlaylistEntry file(const QString &path)
+{
+    PlaylistEntry entry;
+    entry.path = path;
+    return entry;
+}
+
+PlaylistEntry sheetTrack(const QString &sheet, int track)
+{
+    PlaylistEntry entry = file(u"/m/"_s + sheet + u".wav"_s);
+    entry.cuePath = u"/m/"_s + sheet + u".cue"_s;
+    entry.track = track;
+    return entry;
+}
+
+PlaylistEntry imageTrack(const QString &image, int track)
+{
+    PlaylistEntry entry = file(u"/m/"_s + image + u".iso"_s);
+    entry.isoPath = entry.path;
+    entry.track = track;
+    return entry;
+}
+
+PlaylistEntry station()
+{
+    PlaylistEntry entry = file(u"http://host/x"_s);
+    entry.cuePath = u"stream"_s;
+    return entry;
+}
+
+} // namespace
+
+struct PathCase
+{
+    const char *name;
+    PlaylistEntry playing;
+    PlaylistEntry next;
+    bool meansIt;
+};
+
+class PreloadPath : public testing::TestWithParam<PathCase>
+{
+};
+
+TEST_P(PreloadPath, MeansTheRowOrIsNotHandedOver)
+{
+    PreloadFacts facts = remaining(1.);
+    facts.playing = GetParam().playing;
+    facts.next = GetParam().next;
+    const PreloadPlan plan = planPreload(facts);
+    EXPECT_EQ(plan.load, GetParam().meansIt);
+    EXPECT_EQ(plan.refuse, !GetParam().meansIt);
+    facts.refusalTold = true;
+    EXPECT_FALSE(planPreload(facts).refuse) << "said once a track";
+    facts = remaining(1.51);
+    facts.playing = GetParam().playing;
+    facts.next = GetParam().next;
+    EXPECT_FALSE(planPreload(facts).refuse) << "not due yet";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Rows, PreloadPath,
+    testing::Values(PathCase{"FileAfterFile", file(u"/m/a.wav"_s), file(u"/m/b.wav"_s), true},
+                    PathCase{"NextOfTheSheet", sheetTrack(u"a"_s, 2), sheetTrack(u"a"_s, 3), true},
+                    PathCase{"AnotherOfTheSheet", sheetTrack(u"a"_s, 2), sheetTrack(u"a"_s, 4), false},
+                    PathCase{"AnEarlierOneOfTheSheet", sheetTrack(u"a"_s, 3), sheetTrack(u"a"_s, 2), false},
+                    PathCase{"FirstOfAnotherSheet", sheetTrack(u"a"_s, 3), sheetTrack(u"b"_s, 1), false},
+                    PathCase{"SheetAfterFile", file(u"/m/x.wav"_s), sheetTrack(u"a"_s, 1), false},
+                    PathCase{"TheSheetsFileAfterIt", sheetTrack(u"a"_s, 2), file(u"/m/a.wav"_s), false},
+                    PathCase{"AFileBesideTheSheet", sheetTrack(u"a"_s, 2), file(u"/m/b.wav"_s), false},
+                    PathCase{"AFileElsewhere", sheetTrack(u"a"_s, 2), file(u"/n/b.wav"_s), true},
+                    PathCase{"NextOfTheImage", imageTrack(u"a"_s, 2), imageTrack(u"a"_s, 3), true},
+                    PathCase{"AnotherOfTheImage", imageTrack(u"a"_s, 2), imageTrack(u"a"_s, 5), false},
+                    PathCase{"FirstOfTheImageAgain", imageTrack(u"a"_s, 2), imageTrack(u"a"_s, 1), false},
+                    PathCase{"FirstOfAnotherImage", imageTrack(u"a"_s, 2), imageTrack(u"b"_s, 1), true},
+                    PathCase{"SecondOfAnotherImage", imageTrack(u"a"_s, 1), imageTrack(u"b"_s, 2), false},
+                    PathCase{"FirstOfAnImageAfterFile", file(u"/m/x.wav"_s), imageTrack(u"a"_s, 1), true},
+                    PathCase{"FirstOfAnImageAfterSheet", sheetTrack(u"a"_s, 1), imageTrack(u"b"_s, 1), true},
+                    PathCase{"SecondOfAnImageAfterSheet", sheetTrack(u"a"_s, 1), imageTrack(u"b"_s, 2),
+                             false},
+                    PathCase{"FileAfterImage", imageTrack(u"a"_s, 1), file(u"/m/b.wav"_s), true},
+                    PathCase{"Station", file(u"/m/a.wav"_s), station(), false},
+                    PathCase{"FileAfterStation", station(), file(u"/m/a.wav"_s), true}),
+    [](const testing::TestParamInfo<PathCase> &one) { return std::string(one.param.name); });
 
 TEST(PreloadTaken, SeesThePositionRunBackward)
 {
@@ -97,7 +186,6 @@ TEST(PreloadTaken, SeesTheChangeBetweenTwoTracksOfTwoSeconds)
 
 TEST(PreloadTaken, AnEndThatNamesThePreloadedTrackIsItsEnd)
 {
-    using namespace Qt::StringLiterals;
     const QString first = u"/m/a.wav"_s, second = u"/m/b.wav"_s;
     EXPECT_TRUE(isOfPreloadedTrack(second, first, second));
     EXPECT_TRUE(isOfPreloadedTrack(u"b.wav"_s, first, second)) << "an engine may name the file alone";

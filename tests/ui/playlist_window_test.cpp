@@ -233,6 +233,19 @@ TEST_F(Playlist, TheLastPlayedRowIsShown)
     EXPECT_EQ(m_window->lastPlayedRow(), 1);
 }
 
+TEST_F(Playlist, AStartedTrackIsTheLastPlayedOnTheDiskWithoutTheListBeingSaved)
+{
+    abc();
+    const QStringList before{u"nothing writes this row"_s};
+    writeUserSetting(settings::playlist, before);
+    m_window->startPlayback(0);
+    m_window->startPlayback(1);
+    EXPECT_TRUE(readUserSetting(settings::lastPlayed).isEmpty()) << "not while the track is on its way";
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readUserSetting(settings::lastPlayed) == fileAt(1); }, 30000));
+    EXPECT_EQ(readUserSetting(settings::lastPlayedKey), rowKey(list()->entryAt(1)));
+    EXPECT_EQ(saved(), before);
+}
+
 TEST_F(Playlist, ThePathServesWhereNoKeyWasStored)
 {
     abc();

@@ -403,6 +403,89 @@ TEST_P(Preloading, AListThatChangedUnderRandomOrderIsMatchedByFile)
     EXPECT_TRUE(logHas(u"按文件对回"_s));
 }
 
+TEST_P(Preloading, OnlyTheNextTrackOfASheetIsHandedOver)
+{
+    PlaylistEntry entry;
+    entry.path = fileAt(0);
+    entry.cuePath = m_root.filePath(u"a.cue"_s);
+    for (const int track : {1, 2, 4}) {
+        entry.track = track;
+        entry.text = u"%1. Song"_s.arg(track);
+        ui().playlist->appendEntry(entry);
+    }
+    m_window->startPlayback(3);
+    takeLines();
+    at(99.);
+    EXPECT_EQ(takeLines(), QStringList{u"load "_s + entry.path}) << "the engine takes it for track 2";
+    at(0.1);
+    EXPECT_EQ(start().currentRow, 4) << "and not the plain row of the same path";
+    EXPECT_FALSE(logHas(u"按文件对回"_s));
+
+    at(99.);
+    at(99.1);
+    EXPECT_TRUE(takeLines().isEmpty()) << "the engine would take it for track 3";
+    EXPECT_EQ(takeLog().count(u"不提前装载下一首 (4. Song)"_s), 1);
+    say(u"DONE a.wav"_s);
+    EXPECT_EQ(takeLines(), QStringList{u"load-cue 4 "_s + entry.cuePath});
+    EXPECT_EQ(start().currentRow, 5);
+}
+
+TEST_P(Preloading, RandomOrderPlaysTheTracksOfAnImageThatItShows)
+{
+    open(1);
+    m_window->clearPlaylist();
+    addFiles(1);
+    PlaylistEntry entry = ui().playlist->entryAt(0);
+    m_window->clearPlaylist();
+    entry.isoPath = entry.path;
+    for (entry.track = 1; entry.track <= 8; ++entry.track)
+        ui().playlist->appendEntry(entry);
+    m_window->setOrderAxis(1);
+    m_window->startPlayback(0);
+    int sounding = 1;
+    for (int i = 1; i < 8; ++i) {
+        takeLines();
+        at(99.);
+        if (const QStringList handed = takeLines(); !handed.isEmpty()) {
+            EXPECT_EQ(handed, QStringList{u"load "_s + entry.path});
+            ++sounding; // what an engine makes of the image's path
+            at(0.1);
+        } else {
+            say(u"DONE a.iso"_s);
+            const QString line = takeLines().value(0);
+            ASSERT_TRUE(line.startsWith(u"load-iso "_s)) << qPrintable(line);
+            sounding = line.section(u' ', 1, 1).toInt();
+        }
+        EXPECT_EQ(ui().playlist->entryAt(start().playingRow).track, sounding);
+    }
+}
+
+TEST_P(Preloading, ASheetsTrackThatMovedIsFoundByItsNumber)
+{
+    PlaylistEntry entry;
+    entry.path = fileAt(0);
+    entry.cuePath = m_root.filePath(u"a.cue"_s);
+    for (entry.track = 1; entry.track <= 3; ++entry.track)
+        ui().playlist->appendEntry(entry);
+    m_window->startPlayback(3);
+    at(99.);
+    ASSERT_TRUE(m_window->moveRow(4, 5)) << "track 2 behind track 3";
+    at(0.1);
+    EXPECT_EQ(start().currentRow, 5);
+    EXPECT_EQ(ui().playlist->entryAt(start().playingRow).track, 2);
+    EXPECT_TRUE(logHas(u"按文件对回第 6/6 首"_s));
+}
+
+TEST_P(Preloading, ATrackThatWasHandedOverIsTheLastPlayed)
+{
+    m_window->startPlayback(0);
+    at(99.);
+    at(0.1);
+    const QString path = fileAt(1);
+    EXPECT_TRUE(eventually([&] { return readUserSetting(settings::lastPlayed) == path; }));
+    EXPECT_EQ(readUserSetting(settings::lastPlayedKey), rowKey(ui().playlist->entryAt(1)));
+}
+
 // ── nothing is heard ──
 
 class NoAudio : public BothKinds

@@ -334,6 +334,40 @@ TEST_P(ResumeWindow, ATrackThatHandedOverToTheNextIsForgotten)
     EXPECT_TRUE(readUserSetting(settings::resumePath).isEmpty());
 }
 
+TEST_P(ResumeWindow, ATrackRemovedWhileItPlaysKeepsItsOwnPosition)
+{
+    const QString removed = fileAt(1);
+    m_window->startPlayback(1);
+    at(20.);
+    ui().playlist->setCurrentRow(1, QItemSelectionModel::ClearAndSelect);
+    m_window->removeSelectedRows();
+    at(30.);
+    EXPECT_EQ(readUserSetting(settings::resumePath), removed) << "and not the row in its place";
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 30.);
+    EXPECT_EQ(progress().lastPosRow, -1);
+    at(33.);
+    m_window->stopPlayback();
+    EXPECT_EQ(readUserSetting(settings::resumePath), removed);
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 33.);
+    takeLines();
+    m_window->startPlayback(0);
+    EXPECT_EQ(takeLines(), QStringList{load(0)}) << "another track begins at its beginning";
+}
+
+TEST_P(ResumeWindow, ARemovedTrackThatEndsIsForgottenAndNoOther)
+{
+    const QString removed = fileAt(1);
+    m_window->startPlayback(1);
+    at(20.);
+    ui().playlist->setCurrentRow(1, QItemSelectionModel::ClearAndSelect);
+    m_window->removeSelectedRows();
+    ASSERT_EQ(readUserSetting(settings::resumePath), removed);
+    takeLines();
+    say(u"DONE b.wav"_s);
+    EXPECT_TRUE(readUserSetting(settings::resumePath).isEmpty());
+    EXPECT_EQ(takeLines(), QStringList{load(1)}) << "the row that followed it";
+}
+
 TEST_P(ResumeWindow, ATrackOfASheetIsNotRemembered)
 {
     PlaylistEntry entry;

@@ -314,7 +314,11 @@ private:
     void refreshNavButtons();
     void resetTrackState(double startSec);
     bool closeLeftoverSession();
-    void setLastPlayed(const PlaylistEntry &entry);
+    void noteStarted(const PlaylistEntry &entry);
+    void saveLastPlayedSoon();
+    void saveLastPlayed();
+    /// Where the track that was started stands now, -1 when it has left the list.
+    int startedRow() const;
     int baseRow() const;
 
     void onEngineDone(int exitCode, bool crashed, int startIndex);
