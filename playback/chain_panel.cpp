@@ -123,7 +123,10 @@ void ValueCards::arrange(bool narrow)
         const int upright = narrow ? 4 : cellPadding;
         card.box->setContentsMargins(cellPadding, upright, cellPadding, upright);
         card.box->setSpacing(narrow ? cellPadding : 2);
-        card.value->setAlignment((narrow ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter);
+        // By the interface's direction, not by that of the figure.
+        const bool left = narrow == isRightToLeft();
+        card.value->setAlignment((left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute |
+                                 Qt::AlignVCenter);
     }
     m_grid->setColumnStretch(0, 1);
     m_grid->setColumnStretch(1, narrow ? 0 : 1);
@@ -282,6 +285,8 @@ ChainPanel::ChainPanel(QWidget *parent)
     m_word->setObjectName("vesperChainVerdict"_L1);
     m_word->setTextFormat(Qt::PlainText);
     m_word->setWordWrap(true);
+    m_word->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                         Qt::AlignVCenter);
     m_word->setAccessibleName(tr("信号链的结论"));
     verdict->addWidget(m_lamp);
     verdict->addWidget(m_word, 1);

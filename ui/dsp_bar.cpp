@@ -42,7 +42,8 @@ DspBar::DspBar(QWidget *parent)
         row->addWidget(tab);
     }
     m_summary->setObjectName("vesperDspSummary"_L1);
-    m_summary->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_summary->setAlignment((isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute |
+                            Qt::AlignVCenter);
     m_live->setObjectName("vesperDspLive"_L1);
     m_live->setFont(captionFont(m_live->text()));
     row->addSpacing(12);
