@@ -109,6 +109,8 @@ LanguageChoice installTranslator()
         GuiLogFile::ofProcess().write(installed.warning);
     }
     choice.code = installed.code;
+    setFontLanguage(choice.code);
+    QApplication::setFont(interfaceFont());
     return choice;
 }
 

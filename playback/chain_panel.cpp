@@ -78,6 +78,8 @@ ValueCards::ValueCards(QWidget *parent)
     , m_grid(new QGridLayout(this))
 {
     setObjectName("vesperCard"_L1);
+    // Room that the rows leave is left free.
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_grid->setContentsMargins(1, 1, 1, 1);
     m_grid->setSpacing(1);
     m_cards = {addCard(tr("码率")), addCard(tr("采样率")), addCard(tr("声道")), addCard(tr("播放次数"))};
@@ -120,7 +122,11 @@ void ValueCards::arrange(bool narrow)
         card.box->setDirection(narrow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
         const int upright = narrow ? 4 : cellPadding;
         card.box->setContentsMargins(cellPadding, upright, cellPadding, upright);
-        card.value->setAlignment((narrow ? Qt::AlignTrailing : Qt::AlignLeading) | Qt::AlignVCenter);
+        card.box->setSpacing(narrow ? cellPadding : 2);
+        // By the interface's direction, not by that of the figure.
+        const bool left = narrow == isRightToLeft();
+        card.value->setAlignment((left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute |
+                                 Qt::AlignVCenter);
     }
     m_grid->setColumnStretch(0, 1);
     m_grid->setColumnStretch(1, narrow ? 0 : 1);
@@ -181,7 +187,10 @@ void ChainRowList::setRows(const QList<ChainRow> &rows)
         label->setTextFormat(Qt::RichText);
         label->setWordWrap(true);
         label->setIndent(0);
-        label->setText(chainRowHtml(row));
+        // Also a row that begins with a Latin word stands at the interface's leading edge.
+        label->setText(u"<div dir=\"%1\">"_s.arg(isRightToLeft() ? "rtl"_L1 : "ltr"_L1) + chainRowHtml(row) +
+                       u"</div>"_s);
+        label->setProperty("mirrored", isRightToLeft());
         // The tool tip is the value as it came, which may look like rich text and is none.
         label->setToolTip(row.value.toHtmlEscaped());
         label->setAccessibleName(chainRowLabel(row) + u": "_s + row.value);
@@ -276,6 +285,8 @@ ChainPanel::ChainPanel(QWidget *parent)
     m_word->setObjectName("vesperChainVerdict"_L1);
     m_word->setTextFormat(Qt::PlainText);
     m_word->setWordWrap(true);
+    m_word->setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                         Qt::AlignVCenter);
     m_word->setAccessibleName(tr("信号链的结论"));
     verdict->addWidget(m_lamp);
     verdict->addWidget(m_word, 1);

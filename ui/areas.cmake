@@ -12,10 +12,13 @@ target_sources(ui_parts PRIVATE
     edge_grips.h
     elided_label.cpp
     elided_label.h
+    fitted_button.cpp
     fitted_title.cpp
     fitted_title.h
     library_panel.cpp
     library_panel.h
+    look_controls.cpp
+    look_controls.h
     mini_cover.cpp
     mini_cover.h
     progress_dial.cpp

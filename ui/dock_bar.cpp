@@ -26,9 +26,9 @@ DockBar::DockBar(QWidget *parent)
     auto *columns = new QGridLayout(this);
     columns->setContentsMargins(16, 0, 16, 0);
     columns->setHorizontalSpacing(12);
-    columns->addLayout(buildNow(), 0, 0);
+    columns->addWidget(area("vesperNow"_L1, buildNow()), 0, 0);
     columns->addWidget(buildTransport(), 0, 1);
-    columns->addLayout(buildRight(), 0, 2);
+    columns->addWidget(area("vesperDockRight"_L1, buildRight()), 0, 2);
     // Equal outer columns, whatever stands in them, keep the middle in the middle.
     for (const int outer : {0, 2}) {
         columns->setColumnStretch(outer, 1);
@@ -38,6 +38,17 @@ DockBar::DockBar(QWidget *parent)
     showModes(0, 0);
     showTrack(u"NO DISC"_s, tr("选择曲目或导入音频"));
     showVolume(100);
+}
+
+QWidget *DockBar::area(QLatin1StringView name, QLayout *content)
+{
+    auto *made = new QWidget(this);
+    made->setObjectName(name);
+    // It never asks for more than its column: what stands in it elides.
+    made->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    content->setContentsMargins(0, 0, 0, 0);
+    made->setLayout(content);
+    return made;
 }
 
 QLayout *DockBar::buildNow()
@@ -87,12 +98,15 @@ QWidget *DockBar::buildTransport()
 
 QLayout *DockBar::buildRight()
 {
-    mute = addButton(this, Glyph::VolumeHigh, tr("静音"), tr("静音；再按一次回到原来的音量"));
-    volume = new QSlider(Qt::Horizontal, this);
+    // Loud is at the right in every language, as it is on the front of an amplifier.
+    auto *level = new QWidget(this);
+    level->setLayoutDirection(Qt::LeftToRight);
+    mute = addButton(level, Glyph::VolumeHigh, tr("静音"), tr("静音；再按一次回到原来的音量"));
+    volume = new QSlider(Qt::Horizontal, level);
     volume->setRange(0, 100);
     volume->setAccessibleName(tr("音量"));
     volume->setToolTip(tr("音量；100% 不改变样本"));
-    m_volumeText = new QLabel(this);
+    m_volumeText = new QLabel(level);
     m_volumeText->setObjectName("vesperVolume"_L1);
     m_volumeText->setFont(figureFont(figurePixels));
     m_volumeText->setFixedWidth(QFontMetrics(m_volumeText->font()).horizontalAdvance(u"100%"_s) + 4);
@@ -105,12 +119,16 @@ QLayout *DockBar::buildRight()
     tools->setLayoutDirection(tools->layoutDirection() == Qt::RightToLeft ? Qt::LeftToRight
                                                                           : Qt::RightToLeft);
     tools->setToolTip(tr("曲库、标签、网络等工具"));
+    auto *levelRow = new QHBoxLayout(level);
+    levelRow->setContentsMargins(0, 0, 0, 0);
+    levelRow->setSpacing(8);
+    levelRow->addWidget(mute);
+    levelRow->addWidget(volume);
+    levelRow->addWidget(m_volumeText);
     auto *right = new QHBoxLayout;
     right->setSpacing(8);
     right->addStretch();
-    right->addWidget(mute);
-    right->addWidget(volume);
-    right->addWidget(m_volumeText);
+    right->addWidget(level);
     right->addSpacing(8);
     right->addWidget(tools);
     return right;

@@ -50,6 +50,7 @@ public:
     QList<QWidget *> controls() const;
 
 private:
+    QWidget *area(QLatin1StringView name, QLayout *content);
     QLayout *buildNow();
     QWidget *buildTransport();
     QLayout *buildRight();

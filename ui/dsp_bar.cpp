@@ -11,7 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int captionPixels = 12;
-constexpr int livePixels = 11;
 constexpr int denoiseTab = 4;
 constexpr int summaryShare = 100;
 
@@ -27,9 +26,9 @@ DspBar::DspBar(QWidget *parent)
     setFixedHeight(areas::dspBar);
     auto *caption = new QLabel(u"DSP"_s, this);
     caption->setObjectName("vesperDspCaption"_L1);
-    QFont captionFont = figureFont(captionPixels);
-    captionFont.setBold(true);
-    caption->setFont(captionFont);
+    QFont headFont = figureFont(captionPixels);
+    headFont.setBold(true);
+    caption->setFont(headFont);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 0, 16, 0);
     row->setSpacing(4);
@@ -43,9 +42,10 @@ DspBar::DspBar(QWidget *parent)
         row->addWidget(tab);
     }
     m_summary->setObjectName("vesperDspSummary"_L1);
-    m_summary->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
+    m_summary->setAlignment((isRightToLeft() ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute |
+                            Qt::AlignVCenter);
     m_live->setObjectName("vesperDspLive"_L1);
-    m_live->setFont(figureFont(livePixels));
+    m_live->setFont(captionFont(m_live->text()));
     row->addSpacing(12);
     // Takes over where the summary has no room.
     row->addStretch(1);
@@ -59,7 +59,7 @@ void DspBar::showSummary(const QString &words, bool live)
 {
     m_summary->setWhole(words);
     m_live->setEnabled(live);
-    m_live->setToolTip(live ? tr("效果正作用在听到的声音上") : tr("现在没有效果作用在声音上"));
+    m_live->setToolTip(live ? tr("效果链在播放的路径上：改动马上听得到") : tr("效果链现在不在播放的路径上"));
     m_live->setAccessibleDescription(m_live->toolTip());
 }
 

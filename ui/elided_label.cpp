@@ -8,6 +8,8 @@ ElidedLabel::ElidedLabel(QWidget *parent, Qt::TextElideMode mode)
 {
     setTextFormat(Qt::PlainText);
     setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    // With the interface, not with the script of each text.
+    setAlignment((isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute | Qt::AlignVCenter);
 }
 
 void ElidedLabel::setWhole(const QString &text, const QString &tip)

@@ -59,6 +59,8 @@ InstrumentPanel::InstrumentPanel(QWidget *parent)
     , m_bandCount(likelyBands)
 {
     setObjectName("vesperInstruments"_L1);
+    // Time, level and frequency run from left to right in every language.
+    setLayoutDirection(Qt::LeftToRight);
     SpokenValue::install();
     const QString spectrumName = tr("频谱");
     const QString scopeName = tr("波形");

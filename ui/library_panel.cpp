@@ -1,6 +1,6 @@
 #include "ui/library_panel.h"
 
-#include "ui/glyph_icons.h"
+#include "ui/fitted_button.h"
 #include "ui/style_sheet.h"
 
 #include <QButtonGroup>
@@ -16,6 +16,7 @@ constexpr int searchHeight = 32;
 constexpr int chipHeight = 28;
 constexpr int comboHeight = 30;
 constexpr int gap = 8;
+constexpr int buttonGap = 4;
 
 } // namespace
 
@@ -23,6 +24,7 @@ LibraryPanel::LibraryPanel(QWidget *list, QWidget *parent)
     : QFrame(parent)
 {
     setObjectName("vesperPanel"_L1);
+    setProperty("mirrored", layoutDirection() == Qt::RightToLeft);
     auto *rows = new QVBoxLayout(this);
     rows->setSpacing(gap);
     rows->addLayout(buildHead());
@@ -36,9 +38,10 @@ LibraryPanel::LibraryPanel(QWidget *list, QWidget *parent)
     m_shown->setFont(figureFont(captionPixels));
     m_shown->setAccessibleName(tr("显示的 / 全部"));
     auto *inside = new QHBoxLayout(search);
-    inside->setContentsMargins(0, 0, 10, 0);
+    inside->setContentsMargins(0, 0, 0, 0);
     inside->addStretch();
     inside->addWidget(m_shown);
+    inside->addSpacing(10);
     // The text keeps clear of the count, on whichever side that stands.
     const int kept = m_shown->fontMetrics().horizontalAdvance(u"00000 / 00000"_s);
     const bool mirrored = layoutDirection() == Qt::RightToLeft;
@@ -62,9 +65,7 @@ QLayout *LibraryPanel::buildHead()
     auto *head = new QHBoxLayout;
     auto *caption = new QLabel(tr("曲库 · TITLE"), this);
     caption->setObjectName("vesperPanelTitle"_L1);
-    QFont captionFont = figureFont(captionPixels);
-    captionFont.setLetterSpacing(QFont::AbsoluteSpacing, 0.08 * captionPixels);
-    caption->setFont(captionFont);
+    caption->setFont(captionFont(caption->text()));
     m_counter = new QLabel(u"-- / 0"_s, this);
     m_counter->setObjectName("vesperPanelMeta"_L1);
     m_counter->setFont(figureFont(captionPixels));
@@ -90,8 +91,12 @@ QLayout *LibraryPanel::buildChips()
         row->addWidget(chip, 1);
     }
     chips.first()->setChecked(true);
-    chips.first()->setProperty("place", u"first"_s);
-    chips.last()->setProperty("place", u"last"_s);
+    // Of two neighbours one draws the line between them.
+    for (QPushButton *chip : chips)
+        chip->setProperty("place", u"middle"_s);
+    const bool mirrored = layoutDirection() == Qt::RightToLeft;
+    (mirrored ? chips.last() : chips.first())->setProperty("place", u"first"_s);
+    (mirrored ? chips.first() : chips.last())->setProperty("place", u"last"_s);
     return row;
 }
 
@@ -130,7 +135,7 @@ QLayout *LibraryPanel::buildButtons()
     removeRows = addButton("vesperMinor", tr("移除"), tr("把选中的曲目从列表移除；文件不动"));
     clearList = addButton("vesperMinor", tr("清空"), tr("清空列表；文件不动，可以撤销"));
     auto *row = new QHBoxLayout;
-    row->setSpacing(4);
+    row->setSpacing(buttonGap);
     for (QPushButton *button : {importFiles, importFolder, removeRows, clearList})
         row->addWidget(button);
     row->addStretch();
@@ -154,4 +159,6 @@ void LibraryPanel::applyPlan(const AreaPlan &plan)
 {
     setFixedWidth(plan.leftWidth);
     layout()->setContentsMargins(plan.padding, plan.padding, plan.padding, plan.padding);
+    fitButtons({importFiles, importFolder, removeRows, clearList},
+               plan.leftWidth - 2 * plan.padding - 1 - 3 * buttonGap);
 }

@@ -30,6 +30,8 @@ MeterScale::MeterScale(QWidget *parent)
 void MeterScale::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
+    // The sign stands before its number in every language.
+    painter.setLayoutDirection(Qt::LeftToRight);
     painter.setFont(figureFont(figurePixels));
     painter.setPen(theme::ink4());
     const int meters = width() - 2 * overhang;

@@ -24,7 +24,7 @@ const QLatin1StringView chainRules = R"(
 QFrame#vesperChainBox, QWidget#vesperCardCell, QWidget#vesperChainRows { background: transparent; border: none; }
 QFrame#vesperChainCard, QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
 QFrame#vesperCard { color: #23232B; }
-QLabel#vesperCardKey { color: #8A857C; font-family: "DejaVu Sans Mono"; font-size: 11px; }
+QLabel#vesperCardKey { color: #8A857C; @caption@; }
 QLabel#vesperCardVal { color: #EDEAE3; font-family: "DejaVu Sans Mono"; font-size: 14px; }
 QFrame#vesperChainLamp { background: #4A4842; border: none; border-radius: 5px; }
 QFrame#vesperChainLamp[lamp="good"] { background: #6FC084; }
@@ -38,13 +38,14 @@ QLabel#vesperChainWarnings { color: #D4A843; font-size: 12px; font-weight: 600; 
 QLabel#vesperChainRow { color: #B9B3A8; border: none; border-bottom: 1px solid #23232B; padding: 5px 0; }
 QLabel#vesperChainRow[chainWarn="true"] { background: rgba(212, 168, 67, 31); color: #EDEAE3;
     border-left: 2px solid #D4A843; padding: 5px 10px; }
+QLabel#vesperChainRow[chainWarn="true"][mirrored="true"] { border-left: none; border-right: 2px solid #D4A843; }
 QDialog#vesperReportDialog, QDialog#vesperCheckDialog { background: #131317; }
 QPlainTextEdit#vesperReport { font-family: "DejaVu Sans Mono"; font-size: 12px; }
-QFrame#vesperCheckPlate { background: #0C0C0F; border: none; border-bottom: 1px solid #23232B; }
-QLabel#vesperCheckVerdict { color: #CFC9BF; font-size: 18px; font-weight: 700; }
+QFrame#vesperCheckPlate { background: @plate@; border: none; border-bottom: 1px solid #23232B; }
+QLabel#vesperCheckVerdict { color: @plateink@; font-size: 18px; font-weight: 700; }
 QLabel#vesperCheckVerdict[passed="true"] { color: #78C88C; }
 QLabel#vesperCheckVerdict[passed="false"] { color: #D08A5A; }
-QLabel#vesperCheckAbout { color: #B9B3A8; font-size: 13px; }
+QLabel#vesperCheckAbout { color: @plateink@; font-size: 13px; }
 QFrame#vesperCheckStatement { background: transparent; border: none; border-bottom: 1px solid #23232B; }
 QLabel#vesperCheckMark { color: #8A857C; }
 QLabel#vesperCheckMark[mark="proved"] { color: #6FC084; }

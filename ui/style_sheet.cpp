@@ -13,6 +13,10 @@ Q_IMPORT_PLUGIN(KelpGlyphPlugin)
 
 namespace {
 
+QString eastAsianFamily = u"Noto Sans CJK SC"_s;
+/// Whether the interface's language has capitals to engrave.
+bool engravesCaptions = true;
+
 // Areas and text. Fonts are the widgets' own, so that a sheet costs no matching of families.
 constexpr auto surfaces = R"(
 QLabel { color: #CFC9BF; }
@@ -23,8 +27,10 @@ QFrame#vesperTitleBar, QFrame#vesperDock {
 QFrame#vesperTitleBar { border-bottom: 1px solid #23232B; }
 QFrame#vesperDock, QFrame#vesperProg, QFrame#vesperDspBar { border: none; border-top: 1px solid #23232B; }
 QFrame#vesperPanel { background: #131317; border: none; border-right: 1px solid #23232B; }
+QFrame#vesperPanel[mirrored="true"] { border-right: none; border-left: 1px solid #23232B; }
 QFrame#vesperSide, QFrame#vesperChainBox { background: #131317; border: none;
     border-left: 1px solid #23232B; }
+QFrame#vesperSide[mirrored="true"] { border-left: none; border-right: 1px solid #23232B; }
 QFrame#vesperStatusLine { background: #0C0C0F; border: none; border-top: 1px solid #23232B; }
 QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
 QFrame#vesperWell { background: #0C0C0F; border: 1px solid #23232B; border-radius: 6px; }
@@ -61,7 +67,11 @@ QPushButton:checked, QPushButton:default, QPushButton[primary="true"] { backgrou
 QPushButton:checked:hover, QPushButton:default:hover, QPushButton[primary="true"]:hover { background: @strong@; }
 QPushButton:default:pressed, QPushButton[primary="true"]:pressed { background: @ink@; color: #08080A; }
 QPushButton:disabled { background: #131317; border-color: #23232B; color: #4A4842; font-weight: 400; }
+QPushButton[pad="9"] { padding: 0 9px; }
+QPushButton[pad="5"] { padding: 0 5px; }
 QPushButton[keyFocus="true"] { border: 2px solid @ring@; padding: 0 11px; min-height: 26px; }
+QPushButton[pad="9"][keyFocus="true"] { padding: 0 8px; }
+QPushButton[pad="5"][keyFocus="true"] { padding: 0 4px; }
 IconButton, DspTab { background: transparent; border: none; min-height: 0; padding: 0; }
 QPushButton#vesperMinor { background: transparent; border-color: transparent; color: #B9B3A8; }
 QPushButton#vesperMinor:hover { background: #18181E; color: #EDEAE3; }
@@ -75,6 +85,7 @@ QPushButton#vesperBrand:hover { border-color: @accent@; }
 QPushButton#vesperBrand[keyFocus="true"] { border: 2px solid @ring@; min-height: 24px; padding: 0 11px; }
 QPushButton#vesperChip { background: #0C0C0F; border: 1px solid #2C2C35; border-radius: 0; color: #B9B3A8;
     min-height: 26px; padding: 0 8px; }
+QPushButton#vesperChip[place="middle"], QPushButton#vesperChip[place="last"] { border-left: none; }
 QPushButton#vesperChip[place="first"] { border-top-left-radius: 4px; border-bottom-left-radius: 4px; }
 QPushButton#vesperChip[place="last"] { border-top-right-radius: 4px; border-bottom-right-radius: 4px; }
 QPushButton#vesperChip:hover { background: #18181E; color: #EDEAE3; }
@@ -113,6 +124,7 @@ QLineEdit:focus { color: #EDEAE3; }
 QComboBox:on { background: #0C0C0F; border-color: @accent@; }
 QComboBox:disabled, QLineEdit:disabled, QAbstractSpinBox:disabled { background: #131317; border-color: #23232B;
     color: #4A4842; }
+QLineEdit#vesperSearch:disabled { color: #B9B3A8; }
 QLineEdit:read-only { background: transparent; border-color: transparent; }
 QComboBox[keyFocus="true"], QAbstractSpinBox[keyFocus="true"] { border: 2px solid @ring@; min-height: 26px;
     padding: 0 9px; }
@@ -229,6 +241,12 @@ QString valueText(const QColor &colour)
         .arg(colour.alpha());
 }
 
+/// The type of the captions that the sheet sets, because their widgets cannot.
+QString captionType()
+{
+    return engravesCaptions ? u"font-family: \"DejaVu Sans Mono\"; font-size: 11px"_s : u"font-size: 12px"_s;
+}
+
 QColor namedColour(QStringView name)
 {
     struct Named
@@ -243,6 +261,8 @@ QColor namedColour(QStringView name)
         {"ring"_L1, theme::focusRing()},
         {"wash"_L1, theme::wash()},
         {"strong"_L1, theme::strongWash()},
+        {"plate"_L1, theme::lightTheme ? theme::reversedPlate() : theme::well()},
+        {"plateink"_L1, theme::lightTheme ? theme::reversedInk() : theme::ink2()},
         {"proof"_L1, theme::statusInk(theme::proof())},
         {"warning"_L1, theme::statusInk(theme::warning())},
         {"failure"_L1, theme::statusInk(theme::failure())},
@@ -271,16 +291,35 @@ QString styleSheetInForce()
         if (i % 2 == 0)
             sheet += pieces.at(i);
         else
-            sheet += valueText(namedColour(pieces.at(i)));
+            sheet += pieces.at(i) == "caption"_L1 ? captionType() : valueText(namedColour(pieces.at(i)));
     }
     return sheet;
+}
+
+void setFontLanguage(const QString &code)
+{
+    struct Variant
+    {
+        QLatin1StringView code;
+        QLatin1StringView family;
+    };
+    static constexpr Variant variants[] = {
+        {"hant"_L1, "Noto Sans CJK TC"_L1},
+        {"ja"_L1, "Noto Sans CJK JP"_L1},
+        {"ko"_L1, "Noto Sans CJK KR"_L1},
+    };
+    eastAsianFamily = "Noto Sans CJK SC"_L1;
+    for (const Variant &variant : variants) {
+        if (variant.code == code)
+            eastAsianFamily = variant.family;
+    }
+    engravesCaptions = !QStringList{u"zh"_s, u"hant"_s, u"ja"_s, u"ko"_s, u"ar"_s}.contains(code);
 }
 
 QFont interfaceFont(int pixelSize)
 {
     QFont font;
-    font.setFamilies(
-        {u"Inter"_s, u"Noto Sans"_s, u"Noto Sans CJK SC"_s, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s});
+    font.setFamilies({u"Inter"_s, u"Noto Sans"_s, eastAsianFamily, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s});
     font.setPixelSize(pixelSize);
     return font;
 }
@@ -288,7 +327,8 @@ QFont interfaceFont(int pixelSize)
 QFont figureFont(int pixelSize)
 {
     QFont font;
-    font.setFamilies({u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s});
+    // A word between figures falls back to the interface's families, not to whatever the system has first.
+    font.setFamilies({u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s, eastAsianFamily, u"Noto Sans Arabic"_s});
     font.setStyleHint(QFont::Monospace);
     font.setPixelSize(pixelSize);
     return font;

@@ -13,6 +13,10 @@ QString darkStyleSheet();
 /// The whole sheet in the colours of theme.h. GUI thread.
 QString styleSheetInForce();
 
+/// Settles which forms of the Chinese signs the fonts below take. Before the first widget is made.
+/// \param code of the interface's language, as the catalogues are named
+void setFontLanguage(const QString &code);
+
 /// The interface's font: a list of families, so that every script finds one of its own.
 QFont interfaceFont(int pixelSize = 12);
 /// For figures and engraved captions, which must not jump.

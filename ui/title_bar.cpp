@@ -62,6 +62,8 @@ TitleBar::TitleBar(QWidget *parent)
 
     auto *left = new QHBoxLayout;
     left->setSpacing(16);
+    // The buttons at the other end have air of their own around their signs.
+    left->addSpacing(4);
     left->addWidget(brand);
     left->addWidget(m_model);
     left->addStretch();
@@ -80,7 +82,7 @@ TitleBar::TitleBar(QWidget *parent)
     right->addLayout(buttons);
     // Equal outer columns keep the title on the middle of the window.
     auto *columns = new QGridLayout(this);
-    columns->setContentsMargins(16, 0, 12, 0);
+    columns->setContentsMargins(12, 0, 12, 0);
     columns->addLayout(left, 0, 0);
     columns->addWidget(m_title, 0, 1, Qt::AlignCenter);
     columns->addLayout(right, 0, 2);

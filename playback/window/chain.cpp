@@ -136,6 +136,7 @@ void PlayerGuiWindow::startBitPerfectCheck()
     if (!m_chain.verifyDialog) {
         m_chain.verifyDialog = new SelfCheckDialog(this);
         m_chain.verifyList = m_chain.verifyDialog->list();
+        colourSelfCheck();
         connect(m_chain.verifyDialog, &QDialog::finished, this,
                 [this] { m_chain.check.verifyActive = false; });
         connect(m_chain.verifyDialog, &SelfCheckDialog::saveRequested, this,

@@ -111,10 +111,12 @@ void PlayerGuiWindow::clearPlaylist()
             {PlaylistChange::Kind::Remove, {{0, count}}, m_ui.playlist->removeEntries({{0, count}}), 0});
     // A number from the old list would point into the next one.
     m_start.playingRow = -1;
+    m_tagSummaries.clear();
     applyLibraryFilter();
     logLine(tr("播放列表已清空"));
     savePlaylist();
     refreshNavButtons();
+    refreshNowPlaying();
 }
 
 void PlayerGuiWindow::recordChange(PlaylistChange change)

@@ -7,6 +7,8 @@
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
 #include "ui/dsp_bar.h"
+#include "ui/fitted_button.h"
+#include "ui/glyph_icons.h"
 #include "ui/instrument_panel.h"
 #include "ui/library_panel.h"
 #include "ui/log_pane.h"
@@ -24,6 +26,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int logHeight = 150;
+constexpr int checkGap = 4;
 constexpr QSize initialSize(1280, 860);
 
 } // namespace
@@ -53,13 +56,13 @@ void PlayerGuiWindow::applyAreaPlan()
     m_ui.dock->applyPlan(plan);
     m_ui.dsp->applyPlan(plan);
     m_ui.side->setFixedWidth(plan.sideWidth);
-    // The sheet's padding would cut the words of a button in a narrow column.
-    m_ui.selfCheck->setStyleSheet(u"padding: 0 %1px;"_s.arg(plan.buttonPadding));
     for (QWidget *column : {m_ui.centre, m_ui.side}) {
         column->layout()->setContentsMargins(plan.padding, plan.padding, plan.padding,
                                              column == m_ui.centre ? 0 : plan.padding);
     }
     m_ui.centre->layout()->setSpacing(plan.groupGap);
+    const int besides = m_ui.report->width() + checkGap + 2 * plan.padding + 1;
+    fitButton(*m_ui.selfCheck, plan.sideWidth - besides);
 }
 
 void PlayerGuiWindow::setSideWidth(int width, bool log)
@@ -133,6 +136,7 @@ void PlayerGuiWindow::openLog(bool open)
         setTabOrder(m_ui.logSwitch, m_ui.log);
         flushLog();
     }
+    m_ui.logSwitch->setIcon(glyphIcon(open ? Glyph::ChevronDown : Glyph::ChevronUp));
     m_ui.logSwitch->setText(open ? tr("收起日志面板") : tr("显示日志面板"));
     // The areas give way before the pane takes its height.
     applyAreaPlan();

@@ -72,7 +72,12 @@ void PlayerGuiWindow::connectList()
     const LibraryPanel &library = *m_ui.library;
     connect(m_ui.playlist, &QListWidget::itemActivated, this,
             [this](QListWidgetItem *item) { startPlayback(m_ui.playlist->row(item)); });
-    connect(m_ui.playlist, &QListWidget::currentRowChanged, this, &PlayerGuiWindow::refreshNavButtons);
+    connect(m_ui.playlist, &QListWidget::currentRowChanged, this, [this] {
+        refreshNavButtons();
+        // What is chosen is what would play; while a session runs, the display belongs to its track.
+        if (!sessionRuns())
+            refreshNowPlaying();
+    });
     connect(library.importFiles, &QPushButton::clicked, this, &PlayerGuiWindow::chooseFiles);
     connect(library.importFolder, &QPushButton::clicked, this, &PlayerGuiWindow::chooseFolder);
     connect(library.removeRows, &QPushButton::clicked, this, &PlayerGuiWindow::removeSelectedRows);

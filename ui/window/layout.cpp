@@ -7,6 +7,7 @@
 #include "ui/dock_bar.h"
 #include "ui/dsp_bar.h"
 #include "ui/edge_grips.h"
+#include "ui/glyph_icons.h"
 #include "ui/icon_button.h"
 #include "ui/instrument_panel.h"
 #include "ui/library_panel.h"
@@ -23,7 +24,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int captionPixels = 11;
 constexpr QSize smallButton(24, 20);
 constexpr QSize reportButton(30, 30);
 
@@ -93,15 +93,16 @@ QWidget *PlayerGuiWindow::buildSide()
 {
     auto *side = new QFrame(centralWidget());
     side->setObjectName("vesperSide"_L1);
+    side->setProperty("mirrored", isRightToLeft());
     auto *rows = new QVBoxLayout(side);
     rows->setSpacing(8);
     m_ui.chain = new ChainPanel(side);
     rows->addWidget(m_ui.chain, 1);
 
     auto *head = new QHBoxLayout;
-    auto *caption = new QLabel(tr("输出设备"), side);
+    auto *caption = new QLabel(tr("音频输出"), side);
     caption->setObjectName("vesperPanelTitle"_L1);
-    caption->setFont(figureFont(captionPixels));
+    caption->setFont(captionFont(caption->text()));
     m_ui.refreshDevices = new IconButton(Glyph::Refresh, tr("刷新设备"), side);
     m_ui.refreshDevices->setFixedSize(smallButton);
     m_ui.refreshDevices->setToolTip(tr("从 KelpPlayer -list 重新读取设备列表"));
@@ -135,7 +136,8 @@ QWidget *PlayerGuiWindow::buildStatusLine()
     line->setObjectName("vesperStatusLine"_L1);
     line->setFixedHeight(areas::statusLine);
     auto *row = new QHBoxLayout(line);
-    row->setContentsMargins(16, 0, 8, 0);
+    row->setContentsMargins(8, 0, 8, 0);
+    row->addSpacing(8);
     m_ui.message = new QLabel(line);
     m_ui.message->setObjectName("vesperMessage"_L1);
     m_ui.message->setTextFormat(Qt::PlainText);
@@ -145,7 +147,10 @@ QWidget *PlayerGuiWindow::buildStatusLine()
     m_ui.logSwitch->setText(tr("显示日志面板"));
     m_ui.logSwitch->setToolTip(tr("程序做了什么决定、为什么"));
     m_ui.logSwitch->setCheckable(true);
-    m_ui.logSwitch->setToolButtonStyle(Qt::ToolButtonTextOnly);
+    m_ui.logSwitch->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_ui.logSwitch->setIcon(glyphIcon(Glyph::ChevronUp));
+    // The sign stands behind the words.
+    m_ui.logSwitch->setLayoutDirection(isRightToLeft() ? Qt::LeftToRight : Qt::RightToLeft);
     m_ui.logSwitch->setFocusPolicy(Qt::StrongFocus);
     row->addWidget(m_ui.message, 1);
     row->addWidget(m_ui.logSwitch);

@@ -5,6 +5,7 @@
 #include "output/engine_controls.h"
 #include "ui/dock_bar.h"
 #include "ui/log_pane.h"
+#include "ui/look_controls.h"
 #include "ui/setup_dialog.h"
 #include "ui/sleep_controls.h"
 #include "ui/tools_menu.h"
@@ -18,6 +19,9 @@ void PlayerGuiWindow::buildSetup()
     m_ui.setup = new SetupDialog(this);
     m_ui.engine = new EngineControls(m_ui.setup);
     m_ui.setup->addSection(tr("引擎设置"), m_ui.engine);
+    m_ui.look = new LookControls(m_ui.setup);
+    m_ui.setup->addSection(tr("显示"), m_ui.look);
+    connectLook();
     m_ui.sleep = new SleepControls(m_ui.setup);
     m_ui.setup->addSection(tr("睡眠定时"), m_ui.sleep);
     m_ui.remote = new RemoteControls(m_ui.setup);

@@ -240,6 +240,9 @@ private:
     void openLog(bool open);
     void buildSetup();
     void showRemote();
+    void connectLook();
+    void showLook();
+    void applyLook(const struct LookChoices &look);
     void openTools();
     void useTool(Tool tool);
     void clearLog();
@@ -250,6 +253,7 @@ private:
     void showPlace(int barValue);
     void showIdle();
     void loadTheme();
+    void colourSelfCheck(); ///< where it has been opened
     bool wantsLightTheme();
     void showLevelReadings();
     void releaseClip();

@@ -6,6 +6,7 @@
 #include "platform/system_scheme.h"
 #include "playback/playlist_delegate.h"
 #include "playback/playlist_widget.h"
+#include "playback/self_check_dialog.h"
 #include "ui/cover_accent.h"
 #include "ui/style_sheet.h"
 #include "ui/theme.h"
@@ -85,7 +86,19 @@ void PlayerGuiWindow::applyTheme()
         setStyleSheet(sheet);
     if (auto *rows = qobject_cast<PlaylistDelegate *>(m_ui.playlist->itemDelegate()))
         rows->setColours(playlistColours());
+    colourSelfCheck();
     Q_EMIT ThemeNotifier::instance().changed();
+}
+
+void PlayerGuiWindow::colourSelfCheck()
+{
+    if (!m_chain.verifyDialog)
+        return;
+    SelfCheckColors colours;
+    // The verdict's colours are fixed and cannot be read on white.
+    if (theme::lightTheme)
+        colours.plate = theme::reversedPlate();
+    m_chain.verifyDialog->setColors(colours);
 }
 
 void PlayerGuiWindow::changeTheme()
@@ -132,4 +145,5 @@ void PlayerGuiWindow::setThemeIndex(int index)
 {
     writeUserSetting(settings::theme, index);
     changeTheme();
+    showLook();
 }

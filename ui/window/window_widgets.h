@@ -10,6 +10,7 @@ class EngineControls;
 class InstrumentPanel;
 class LibraryPanel;
 class LogPane;
+class LookControls;
 class PlaylistWidget;
 class ProgressRow;
 class RemoteControls;
@@ -48,6 +49,7 @@ struct WindowWidgets
     LogPane *log = nullptr;
     SetupDialog *setup = nullptr;
     EngineControls *engine = nullptr;
+    LookControls *look = nullptr;
     SleepControls *sleep = nullptr;
     RemoteControls *remote = nullptr;
 };
