@@ -2,11 +2,10 @@
 
 #include <QDateTime>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
-#include <QFuture>
-#include <QPromise>
-#include <QThreadPool>
-#include <memory>
+#include <QPointer>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +30,13 @@ CoverStore::CoverStore(Ask ask, QObject *parent)
     : QObject(parent)
     , m_ask(std::move(ask))
 {
+    m_pool.setMaxThreadCount(1);
+}
+
+CoverStore::~CoverStore()
+{
+    m_pool.clear();
+    m_pool.waitForDone();
 }
 
 void CoverStore::load(const CoverWish &wish, Deliver deliver)
@@ -60,15 +66,17 @@ void CoverStore::load(const CoverWish &wish, Deliver deliver)
 
 void CoverStore::read(const QString &key, const QString &file, Deliver deliver)
 {
-    auto promise = std::make_shared<QPromise<QImage>>();
-    promise->start();
-    promise->future().then(this, [this, key, deliver = std::move(deliver)](const QImage &image) {
-        m_cache.insert(key, image);
-        deliver(image);
-    });
-    QThreadPool::globalInstance()->start([promise, file] {
-        promise->addResult(readCoverImage(file));
+    // No future with a continuation here: at the end of its work it looks at its context from the pool's
+    // thread, where the context may be going.
+    m_pool.start([this, key, file, deliver = std::move(deliver)]() mutable {
+        QImage image = readCoverImage(file);
         QFile::remove(file);
-        promise->finish();
+        QMetaObject::invokeMethod(
+            this,
+            [this, key, image = std::move(image), deliver = std::move(deliver)] {
+                m_cache.insert(key, image);
+                deliver(image);
+            },
+            Qt::QueuedConnection);
     });
 }

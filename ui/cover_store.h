@@ -7,6 +7,7 @@
 
 #include <QObject>
 #include <QTemporaryDir>
+#include <QThreadPool>
 
 /// Which cover is wanted.
 struct CoverWish
@@ -34,6 +35,8 @@ public:
 
     /// \param ask runs a probe elsewhere and delivers its answer on this thread
     explicit CoverStore(Ask ask, QObject *parent = nullptr);
+    /// Drops what has not been read, and waits for the one picture that is being read.
+    ~CoverStore() override;
     /// Delivers the cover, or a null image when there is none: at once from the cache, else later. Not after
     /// this object is gone.
     void load(const CoverWish &wish, Deliver deliver);
@@ -45,4 +48,5 @@ private:
     QTemporaryDir m_folder;
     CoverCache m_cache{cacheBytes};
     int m_files = 0;
+    QThreadPool m_pool; ///< of one thread; last, so that it ends first
 };

@@ -1,3 +1,4 @@
+#include "engine/engine_probe.h"
 #include "engine/probe_worker.h"
 
 #include <QCoreApplication>
@@ -229,6 +230,26 @@ TEST(ProbeWorker, AnUnusedWorkerEndsAtOnce)
 {
     const ProbeWorker worker(1h);
     EXPECT_EQ(worker.pendingCount(), 0);
+}
+
+// Also shows that a thread sanitizer still sees the locks of a thread that has started a process.
+TEST(ProbeWorker, AProbeThatStartsAProcessHandsOverWhatItTouched)
+{
+    ProbeWorker worker;
+    auto runs = std::make_shared<std::atomic<int>>(0);
+    std::optional<PlayerProbeResult> answer;
+    worker.run(
+        [runs] {
+            const PlayerProbeResult result = runEngineProbe(u"/bin/true"_s, {}, 20000, {});
+            ++*runs;
+            return result;
+        },
+        &worker, [&answer](const PlayerProbeResult &result) { answer = result; });
+    ASSERT_TRUE(waitUntil([&answer] { return answer.has_value(); }));
+    EXPECT_EQ(answer->rc, 0) << answer->text.toStdString();
+    EXPECT_EQ(*runs, 1);
+    ASSERT_EQ(runs.use_count(), 1);
+    runs.reset(); // freed here, after the last use by the worker's thread
 }
 
 } // namespace
