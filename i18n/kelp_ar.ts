@@ -498,12 +498,12 @@
         <translation>لم تُنجز صفحة هذا المؤثر بعد؛ ستأتي في إصدار لاحق</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>المؤثرات تعمل على ما يُسمع الآن</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>المؤثرات في مسار التشغيل: يُسمع التغيير فورًا</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>لا مؤثر يعمل على الصوت الآن</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>المؤثرات ليست في مسار التشغيل الآن</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@
     <message>
         <source>日志</source>
         <translation>السجل</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>لون التمييز يتبع الغلاف</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>تقليل الحركة</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>الطيف</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>راسم الإشارة</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>إعادة ضبط التخطيط</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>استعادة الإعدادات النقية</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>داكن</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>حسب النظام</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>مظهر النافذة؛ يسري فورًا</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>عرض العمود الجانبي، من 200 إلى 420 بكسل؛ يسري فورًا</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>إذا كان للمقطع غلاف أُخذ لون التمييز منه، وإلا فاللون المختار</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>تقفز المؤشرات إلى القيمة الجديدة بلا تنعيم ولا تلاشٍ</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>يطلب الطيف من المحرك؛ يسري من الجلسة التالية</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>يطلب شكل الموجة من المحرك؛ يسري من الجلسة التالية</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>حجم النافذة وموضعها وعرض العمود إلى القيم الافتراضية</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>يوقف كل ما يغيّر العينات ثم يجري الفحص الذاتي</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>السمة</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>عرض العمود</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@
         <source>选择曲目或导入音频</source>
         <translation>اختر مقطعًا أو استورد ملفات صوتية</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>صُغّر إلى علبة النظام والتشغيل مستمر</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>جهاز الإخراج</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>حُفظ اختيار الطيف وراسم الإشارة ويسري من الجلسة التالية</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>العرض</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>بلا فواصل: قبل النهاية بـ %1 s يُحمّل المقطع التالي مسبقًا (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>لا يُحمَّل المقطع التالي مسبقًا (%1): من المسار وحده يعدّه المحرك مقطعًا آخر ⇒ يُحمَّل برقمه بعد انتهاء هذا</translation>
     </message>
 </context>
 <context>

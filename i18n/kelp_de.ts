@@ -498,12 +498,12 @@ Titel %2</translation>
         <translation>Diese Effektseite gibt es noch nicht; sie kommt in einer späteren Version</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Effekte wirken auf das, was gerade zu hören ist</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Die Effekte liegen im Signalweg: Änderungen sind sofort zu hören</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Kein Effekt wirkt gerade auf den Ton</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Die Effekte liegen gerade nicht im Signalweg</translation>
     </message>
 </context>
 <context>
@@ -1012,7 +1012,7 @@ Titel %2</translation>
     </message>
     <message>
         <source>全部艺术家</source>
-        <translation>Alle Interpreten</translation>
+        <translation>Alle Künstler</translation>
     </message>
     <message>
         <source>按艺术家筛选</source>
@@ -1028,7 +1028,7 @@ Titel %2</translation>
     </message>
     <message>
         <source>导入</source>
-        <translation>Importieren</translation>
+        <translation>Import</translation>
     </message>
     <message>
         <source>把音频文件加到列表末尾</source>
@@ -1064,6 +1064,85 @@ Titel %2</translation>
     <message>
         <source>日志</source>
         <translation>Protokoll</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>Akzentfarbe folgt dem Cover</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Weniger Bewegung</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Spektrum</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Oszilloskop</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Layout zurücksetzen</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Reine Vorgaben wiederherstellen</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Wie das System</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Aussehen des Fensters; wirkt sofort</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Breite der rechten Spalte, 200 bis 420 Pixel; wirkt sofort</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Hat der Titel ein Cover, kommt der Akzent daraus; sonst gilt die gewählte Farbe</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Die Anzeigen springen auf den neuen Wert, ohne Glättung und Ausblenden</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Fordert das Spektrum von der Engine an; wirkt ab der nächsten Sitzung</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Fordert die Wellenform von der Engine an; wirkt ab der nächsten Sitzung</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Fenstergröße, Lage und Spaltenbreite auf die Vorgabe</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Schaltet alles ab, was Samples ändert, und prüft dann auf Bitgenauigkeit</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Spaltenbreite</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ Die rechte Spalte sagt, was die Samples durchlaufen. Nur wenn zurückgelesen wur
         <source>选择曲目或导入音频</source>
         <translation>Titel wählen oder Audio importieren</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>In den Infobereich verkleinert, die Wiedergabe läuft weiter</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>AUSGABEGERÄT</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>Die Wahl von Spektrum und Oszilloskop ist gespeichert und gilt ab der nächsten Sitzung</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Anzeige</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ Die rechte Spalte sagt, was die Samples durchlaufen. Nur wenn zurückgelesen wur
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Lückenlos: %1 s vor dem Ende, nächster Titel wird vorgeladen (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>Der nächste Titel wird nicht vorab geladen (%1): allein nach dem Pfad hielte ihn die Engine für einen anderen ⇒ er wird nach diesem mit seiner Nummer geladen</translation>
     </message>
 </context>
 <context>

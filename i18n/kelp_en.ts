@@ -498,12 +498,12 @@ Track %2</translation>
         <translation>This effect page is not built yet; it comes in a later version</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Effects act on what is heard now</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>The effects are in the path of what plays: a change is heard at once</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>No effect acts on the sound now</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>The effects are not in the path now</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@ Track %2</translation>
     <message>
         <source>日志</source>
         <translation>Log</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>Accent colour follows the cover</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Reduce motion</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Spectrum</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Reset layout</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Restore pure defaults</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Follow the system</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>The window&apos;s look; takes effect at once</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Width of the right column, 200 to 420 pixels; takes effect at once</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>While a track with a cover plays, the accent is taken from the cover; otherwise it is the colour you chose</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Instruments jump to the new value, without smoothing or fading</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Asks the engine for a spectrum; takes effect with the next playback session</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Asks the engine for a waveform; takes effect with the next playback session</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Window size, position and side width go back to their defaults</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Switches off everything that could touch the samples, then runs a bit-perfect self-check</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Theme</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Side width</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ The right column tells what the samples go through. Only when what the device re
         <source>选择曲目或导入音频</source>
         <translation>Select a track or import audio</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Reduced to the system tray; playback continues</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>OUTPUT DEVICE</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>The choice of spectrum and oscilloscope is saved and takes effect with the next playback session</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Display</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ The right column tells what the samples go through. Only when what the device re
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Seamless: %1 s before the end, preloading the next track (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>The next track is not loaded early (%1): from its path alone the engine would take it for another one =&gt; it is loaded by its number when this one has ended</translation>
     </message>
 </context>
 <context>

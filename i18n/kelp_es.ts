@@ -498,12 +498,12 @@ Pista %2</translation>
         <translation>Esta página de efectos aún no está lista; llegará en una versión posterior</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Los efectos actúan sobre lo que se oye ahora</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Los efectos están en la ruta: los cambios se oyen al instante</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Ningún efecto actúa ahora sobre el sonido</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Los efectos no están ahora en la ruta</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@ Pista %2</translation>
     <message>
         <source>日志</source>
         <translation>Registro</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>El color de acento sigue la portada</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Reducir el movimiento</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Espectro</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Osciloscopio</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Restablecer la disposición</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Restaurar valores puros</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Oscuro</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Como el sistema</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Aspecto de la ventana; efecto inmediato</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Ancho de la columna derecha, de 200 a 420 píxeles; efecto inmediato</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Si la pista tiene portada, el acento sale de ella; si no, el color elegido</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Los instrumentos saltan al nuevo valor, sin suavizado ni fundido</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Pide el espectro al motor; desde la próxima sesión</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Pide la forma de onda al motor; desde la próxima sesión</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Tamaño, posición y ancho de columna predeterminados</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Apaga todo lo que altera las muestras y hace la autocomprobación</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Ancho de columna</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ La columna derecha dice por dónde pasan las muestras. Solo dice “entrega veri
         <source>选择曲目或导入音频</source>
         <translation>Elija una pista o importe audio</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Reducido a la bandeja, la reproducción continúa</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>SALIDA DE AUDIO</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>La elección de espectro y osciloscopio está guardada y vale desde la próxima sesión</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Pantalla</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ La columna derecha dice por dónde pasan las muestras. Solo dice “entrega veri
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Sin pausas: a %1 s del final, se precarga la siguiente (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>La pista siguiente no se precarga (%1): solo por la ruta el motor la tomaría por otra ⇒ se cargará por su número al terminar esta</translation>
     </message>
 </context>
 <context>

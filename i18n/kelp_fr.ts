@@ -498,12 +498,12 @@ Piste %2</translation>
         <translation>Cette page d’effet n’est pas encore prête ; elle viendra dans une version ultérieure</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Les effets agissent sur le son entendu en ce moment</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Les effets sont dans le trajet : un changement s’entend aussitôt</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Aucun effet n’agit sur le son en ce moment</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Les effets ne sont pas dans le trajet en ce moment</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@ Piste %2</translation>
     <message>
         <source>日志</source>
         <translation>Journal</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>L’accent suit la pochette</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Réduire les animations</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Spectre</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Oscilloscope</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Réinitialiser la disposition</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Rétablir les réglages purs</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Comme le système</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Aspect de la fenêtre ; effet immédiat</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Largeur de la colonne de droite, de 200 à 420 pixels ; effet immédiat</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Quand la piste a une pochette, l’accent en vient ; sinon la couleur choisie</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Les instruments sautent à la nouvelle valeur, sans lissage ni fondu</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Demande le spectre au moteur ; dès la prochaine session</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Demande la forme d’onde au moteur ; dès la prochaine session</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Taille, position et largeur de colonne par défaut</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Coupe tout ce qui modifie les échantillons, puis lance l’autotest</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Thème</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Largeur de colonne</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ La colonne de droite dit ce que traversent les échantillons. Elle ne dit “tra
         <source>选择曲目或导入音频</source>
         <translation>Choisissez un morceau ou importez de l’audio</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Réduit dans la zone de notification, la lecture continue</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>SORTIE AUDIO</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>Le choix du spectre et de l’oscilloscope est enregistré et vaut dès la prochaine session</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Affichage</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ La colonne de droite dit ce que traversent les échantillons. Elle ne dit “tra
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Sans blanc : %1 s avant la fin, préchargement du suivant (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>La piste suivante n’est pas préchargée (%1) : d’après le seul chemin, le moteur la prendrait pour une autre ⇒ elle sera chargée par son numéro à la fin de celle-ci</translation>
     </message>
 </context>
 <context>

@@ -498,12 +498,12 @@
         <translation>這一頁效果尚未完成，之後的版本才會提供</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>效果正作用於目前聽到的聲音</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>效果鏈在播放路徑上：改動馬上聽得到</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>目前沒有效果作用於聲音</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>效果鏈現在不在播放路徑上</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@
     <message>
         <source>日志</source>
         <translation>記錄</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>強調色跟隨封面</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>減少動態效果</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>頻譜</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>示波器</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>重設版面</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>恢復純淨預設</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>暗色</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>亮色</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>跟隨系統</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>視窗的外觀；馬上生效</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>右側欄的寬度，200 到 420 像素；馬上生效</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>播放有封面的曲目時，強調色取自封面；否則用選定的顏色</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>儀表直接跳到新值，不做平滑與淡出</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>請引擎送出頻譜；從下一次播放工作階段起生效</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>請引擎送出波形；從下一次播放工作階段起生效</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>視窗大小、位置與側欄寬度回到預設值</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>關掉一切會改動樣本的功能，再做一次 Bit-perfect 自檢</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>主題</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>側欄寬度</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@
         <source>选择曲目或导入音频</source>
         <translation>選擇曲目或匯入音訊</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>已縮到系統匣，播放繼續</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>音訊輸出</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>頻譜與示波器的選擇已儲存，從下一次播放工作階段起生效</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>顯示</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>無縫: 曲尾前 %1 s, 預先載入下一首 (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>不提前載入下一首 (%1): 引擎只憑路徑會把它當成另一首 ⇒ 本曲放完後再按曲號載入</translation>
     </message>
 </context>
 <context>

@@ -498,12 +498,12 @@
         <translation>このエフェクトのページはまだ作成中です。今後のバージョンで使えるようになります</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>今聞こえている音にエフェクトがかかっています</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>エフェクトが再生経路にあります：変更はすぐ聞こえます</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>今の音にエフェクトはかかっていません</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>エフェクトは現在再生経路にありません</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@
     <message>
         <source>日志</source>
         <translation>ログ</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>アクセント色をカバーに合わせる</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>動きを減らす</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>スペクトラム</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>オシロスコープ</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>レイアウトをリセット</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>純粋な既定値に戻す</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>システムに合わせる</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>ウィンドウの外観。すぐに反映されます</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>右側の列の幅（200～420 ピクセル）。すぐに反映されます</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>カバーのある曲の再生中はカバーから色を取り、なければ選んだ色を使います</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>メーターは滑らかにせず新しい値へ直接移ります</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>エンジンにスペクトラムを求めます。次の再生セッションから有効</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>エンジンに波形を求めます。次の再生セッションから有効</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>ウィンドウの大きさ・位置・側の列の幅を既定に戻します</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>サンプルを変えるものをすべて切り、ビットパーフェクト自己診断を行います</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>テーマ</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>側の列の幅</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@
         <source>选择曲目或导入音频</source>
         <translation>曲を選ぶか、音声を読み込んでください</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>システムトレイに収めました。再生は続きます</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>オーディオ出力</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>スペクトラムとオシロスコープの選択を保存しました。次の再生セッションから有効です</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>表示</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>ギャップレス: 終わりの %1 s 前、次の曲を先に読み込みます (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>次の曲は先読みしません (%1): パスだけではエンジンが別の曲と取り違えます ⇒ この曲の終わりに番号で読み込みます</translation>
     </message>
 </context>
 <context>

@@ -498,12 +498,12 @@
         <translation>이 효과 페이지는 아직 준비 중이며 이후 버전에서 제공됩니다</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>지금 들리는 소리에 효과가 적용되고 있습니다</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>효과가 재생 경로에 있습니다: 변경이 바로 들립니다</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>지금 소리에 적용된 효과가 없습니다</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>효과가 지금 재생 경로에 없습니다</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@
     <message>
         <source>日志</source>
         <translation>로그</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>강조색을 커버에 맞춤</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>움직임 줄이기</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>스펙트럼</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>오실로스코프</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>레이아웃 초기화</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>순수 기본값 복원</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>어둡게</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>밝게</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>시스템 따름</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>창의 모양; 바로 적용됩니다</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>오른쪽 열의 너비, 200–420픽셀; 바로 적용됩니다</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>커버가 있는 곡이 재생되면 커버에서 색을 가져오고, 없으면 고른 색을 씁니다</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>계기가 부드럽게 움직이지 않고 새 값으로 바로 바뀝니다</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>엔진에 스펙트럼을 요청합니다; 다음 재생 세션부터 적용됩니다</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>엔진에 파형을 요청합니다; 다음 재생 세션부터 적용됩니다</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>창 크기, 위치, 옆 열 너비를 기본값으로 되돌립니다</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>샘플을 바꾸는 기능을 모두 끄고 비트 퍼펙트 자가 점검을 합니다</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>테마</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>옆 열 너비</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@
         <source>选择曲目或导入音频</source>
         <translation>곡을 선택하거나 오디오를 가져오십시오</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>시스템 트레이로 숨겼습니다. 재생은 계속됩니다</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>오디오 출력</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>스펙트럼과 오실로스코프 선택을 저장했습니다. 다음 재생 세션부터 적용됩니다</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>디스플레이</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>갭리스: 끝나기 %1 s 전, 다음 곡을 미리 불러옴(%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>다음 곡을 미리 불러오지 않습니다 (%1): 경로만으로는 엔진이 다른 곡으로 받아들입니다 ⇒ 이 곡이 끝나면 번호로 불러옵니다</translation>
     </message>
 </context>
 <context>

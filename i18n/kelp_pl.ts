@@ -498,12 +498,12 @@ Utwór %2</translation>
         <translation>Strona tego efektu nie jest jeszcze gotowa; pojawi się w późniejszej wersji</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Efekty działają na to, co teraz słychać</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Efekty są w torze: zmiana jest słyszalna od razu</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Żaden efekt nie działa teraz na dźwięk</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Efektów nie ma teraz w torze</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@ Utwór %2</translation>
     <message>
         <source>日志</source>
         <translation>Dziennik</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>Kolor akcentu z okładki</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Mniej ruchu</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Widmo</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Oscyloskop</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Przywróć układ</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Przywróć czyste ustawienia</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Ciemny</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Jasny</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Jak w systemie</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Wygląd okna; działa od razu</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Szerokość prawej kolumny, od 200 do 420 pikseli; działa od razu</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Gdy utwór ma okładkę, akcent pochodzi z niej; inaczej wybrany kolor</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Wskaźniki skaczą do nowej wartości, bez wygładzania i wygaszania</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Prosi silnik o widmo; od następnej sesji</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Prosi silnik o przebieg; od następnej sesji</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Rozmiar, położenie i szerokość kolumny domyślne</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Wyłącza wszystko, co zmienia próbki, i uruchamia samosprawdzenie</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Motyw</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Szerokość kolumny</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ Prawa kolumna mówi, przez co przechodzą próbki. Dopiero gdy odczytano zwrotni
         <source>选择曲目或导入音频</source>
         <translation>Wybierz utwór lub zaimportuj dźwięk</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Zwinięto do zasobnika, odtwarzanie trwa</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>URZĄDZENIE WYJŚCIOWE</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>Zapisano wybór widma i oscyloskopu; działa od następnej sesji</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Wyświetlanie</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ Prawa kolumna mówi, przez co przechodzą próbki. Dopiero gdy odczytano zwrotni
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Bez przerw: %1 s przed końcem wczytuję następny utwór (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>Następny utwór nie jest wczytywany z wyprzedzeniem (%1): po samej ścieżce silnik wziąłby go za inny ⇒ wczyta się po numerze po zakończeniu tego</translation>
     </message>
 </context>
 <context>

@@ -498,12 +498,12 @@ Faixa %2</translation>
         <translation>A página deste efeito ainda não está pronta; virá em uma versão futura</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Os efeitos atuam no que se ouve agora</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Os efeitos estão no caminho: a mudança é ouvida na hora</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Nenhum efeito atua no som agora</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Os efeitos não estão no caminho agora</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@ Faixa %2</translation>
     <message>
         <source>日志</source>
         <translation>Registro</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>Cor de destaque segue a capa</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Reduzir movimento</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Espectro</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Osciloscópio</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Redefinir layout</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Restaurar padrões puros</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Como o sistema</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Aparência da janela; efeito imediato</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Largura da coluna direita, de 200 a 420 pixels; efeito imediato</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Se a faixa tem capa, o destaque vem dela; senão, a cor escolhida</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Os instrumentos saltam para o novo valor, sem suavização nem esmaecimento</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Pede o espectro ao motor; a partir da próxima sessão</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Pede a forma de onda ao motor; a partir da próxima sessão</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Tamanho, posição e largura da coluna no padrão</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Desliga tudo o que altera as amostras e faz a autoverificação</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Tema</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Largura da coluna</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@ A coluna da direita diz por onde passam as amostras. Só quando o que o disposit
         <source>选择曲目或导入音频</source>
         <translation>Escolha uma faixa ou importe áudio</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Reduzido à bandeja, a reprodução continua</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>SAÍDA DE ÁUDIO</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>A escolha de espectro e osciloscópio foi salva e vale a partir da próxima sessão</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Exibição</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@ A coluna da direita diz por onde passam as amostras. Só quando o que o disposit
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Sem intervalos: a %1 s do fim, a próxima é pré-carregada (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>A próxima faixa não é pré-carregada (%1): só pelo caminho o motor a tomaria por outra ⇒ será carregada pelo número ao fim desta</translation>
     </message>
 </context>
 <context>

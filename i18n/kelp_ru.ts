@@ -498,12 +498,12 @@
         <translation>Страница этого эффекта ещё не готова; она появится в одной из следующих версий</translation>
     </message>
     <message>
-        <source>效果正作用在听到的声音上</source>
-        <translation>Эффекты действуют на то, что сейчас слышно</translation>
+        <source>效果链在播放的路径上：改动马上听得到</source>
+        <translation>Эффекты стоят в тракте: изменения слышны сразу</translation>
     </message>
     <message>
-        <source>现在没有效果作用在声音上</source>
-        <translation>Сейчас на звук не действует ни один эффект</translation>
+        <source>效果链现在不在播放的路径上</source>
+        <translation>Эффектов сейчас нет в тракте</translation>
     </message>
 </context>
 <context>
@@ -1064,6 +1064,85 @@
     <message>
         <source>日志</source>
         <translation>Журнал</translation>
+    </message>
+</context>
+<context>
+    <name>LookControls</name>
+    <message>
+        <source>强调色跟随封面</source>
+        <translation>Акцент по обложке</translation>
+    </message>
+    <message>
+        <source>减少动态效果</source>
+        <translation>Меньше движения</translation>
+    </message>
+    <message>
+        <source>频谱</source>
+        <translation>Спектр</translation>
+    </message>
+    <message>
+        <source>示波器</source>
+        <translation>Осциллограф</translation>
+    </message>
+    <message>
+        <source>重置布局</source>
+        <translation>Сбросить раскладку</translation>
+    </message>
+    <message>
+        <source>恢复纯净默认</source>
+        <translation>Вернуть чистые настройки</translation>
+    </message>
+    <message>
+        <source>深色</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
+        <source>浅色</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>跟随系统</source>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>窗口的外观；马上生效</source>
+        <translation>Вид окна; действует сразу</translation>
+    </message>
+    <message>
+        <source>右侧栏的宽度，200 到 420 像素；马上生效</source>
+        <translation>Ширина правой колонки, от 200 до 420 пикселей; действует сразу</translation>
+    </message>
+    <message>
+        <source>有封面的曲目播放时，强调色取自封面；否则用选定的颜色</source>
+        <translation>Если у дорожки есть обложка, акцент берётся с неё; иначе — выбранный цвет</translation>
+    </message>
+    <message>
+        <source>仪表直接跳到新值，不做平滑和淡出</source>
+        <translation>Приборы сразу показывают новое значение, без сглаживания и затухания</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；从下一次播放会话起生效</source>
+        <translation>Запрашивать у движка спектр; со следующего сеанса</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；从下一次播放会话起生效</source>
+        <translation>Запрашивать у движка осциллограмму; со следующего сеанса</translation>
+    </message>
+    <message>
+        <source>窗口大小、位置和侧栏宽度回到默认值</source>
+        <translation>Размер и место окна и ширина колонки — по умолчанию</translation>
+    </message>
+    <message>
+        <source>关掉一切会改动样本的功能，再做一次位完美自检</source>
+        <translation>Выключает всё, что меняет отсчёты, и запускает самопроверку</translation>
+    </message>
+    <message>
+        <source>主题</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
+        <source>侧栏宽度</source>
+        <translation>Ширина колонки</translation>
     </message>
 </context>
 <context>
@@ -1727,6 +1806,22 @@
         <source>选择曲目或导入音频</source>
         <translation>Выберите трек или импортируйте аудио</translation>
     </message>
+    <message>
+        <source>已缩到系统托盘, 播放继续</source>
+        <translation>Свёрнуто в трей, воспроизведение продолжается</translation>
+    </message>
+    <message>
+        <source>音频输出</source>
+        <translation>УСТРОЙСТВО ВЫВОДА</translation>
+    </message>
+    <message>
+        <source>频谱和示波器的选择已保存，从下一次播放会话起生效</source>
+        <translation>Выбор спектра и осциллографа сохранён и действует со следующего сеанса</translation>
+    </message>
+    <message>
+        <source>显示</source>
+        <translation>Отображение</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>
@@ -1768,6 +1863,10 @@
     <message>
         <source>无缝: 曲尾前 %1 s, 预装下一首 (%2)</source>
         <translation>Без пауз: за %1 s до конца предзагружен следующий трек (%2)</translation>
+    </message>
+    <message>
+        <source>不提前装载下一首 (%1): 引擎只凭路径会把它当成另一首 ⇒ 本曲放完后再按曲号装载</source>
+        <translation>Следующая дорожка не загружается заранее (%1): по одному пути движок принял бы её за другую ⇒ она загрузится по номеру после этой</translation>
     </message>
 </context>
 <context>

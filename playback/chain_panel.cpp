@@ -188,8 +188,9 @@ void ChainRowList::setRows(const QList<ChainRow> &rows)
         label->setWordWrap(true);
         label->setIndent(0);
         // Also a row that begins with a Latin word stands at the interface's leading edge.
-        label->setText(u"<div dir=\"%1\">"_s.arg(isRightToLeft() ? "rtl"_L1 : "ltr"_L1) + chainRowHtml(row) +
-                       u"</div>"_s);
+        // Mirrored, a Latin value would drag its row to the other side.
+        const QString form = chainRowHtml(row);
+        label->setText(isRightToLeft() ? u"<div dir=\"rtl\">"_s + form + u"</div>"_s : form);
         label->setProperty("mirrored", isRightToLeft());
         // The tool tip is the value as it came, which may look like rich text and is none.
         label->setToolTip(row.value.toHtmlEscaped());
@@ -325,6 +326,11 @@ void ChainPanel::showRows(const QList<ChainRow> &rows)
     m_rows->setVisible(m_rowsEnabled && !rows.isEmpty());
     m_warnings->setCount(chainWarnings(rows));
     fitWord();
+}
+
+void ChainPanel::setCardsVisible(bool visible)
+{
+    m_values->setVisible(visible);
 }
 
 void ChainPanel::setRowsEnabled(bool enabled)

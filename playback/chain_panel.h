@@ -102,6 +102,8 @@ public:
     /// card counts their warnings in either case.
     void showRows(const QList<ChainRow> &rows);
     void setRowsEnabled(bool enabled);
+    /// The value cards give way where the column is too low for them.
+    void setCardsVisible(bool visible);
 
 protected:
     void resizeEvent(QResizeEvent *event) override;

@@ -38,6 +38,8 @@ DspBar::DspBar(QWidget *parent)
         auto *tab = new DspTab(name, this);
         tab->setEnabled(false);
         tab->setToolTip(tr("这一页效果还没有做好，以后的版本才有"));
+        // The tabs are left to shortcuts; an open page takes the Tab key.
+        tab->setFocusPolicy(Qt::NoFocus);
         m_tabs.append(tab);
         row->addWidget(tab);
     }

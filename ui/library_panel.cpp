@@ -152,13 +152,24 @@ void LibraryPanel::showCounts(int playing, int shown, int all)
         importFiles->setProperty("primary", all == 0);
         importFiles->style()->unpolish(importFiles);
         importFiles->style()->polish(importFiles);
+        // Its words have become bolder, or less so.
+        fitRow();
     }
 }
 
 void LibraryPanel::applyPlan(const AreaPlan &plan)
 {
     setFixedWidth(plan.leftWidth);
+    // In a very low body the list matters more than its filters.
+    for (QWidget *filter : QList<QWidget *>{artist, album} + QList<QWidget *>(chips.begin(), chips.end()))
+        filter->setVisible(plan.showsInstruments);
     layout()->setContentsMargins(plan.padding, plan.padding, plan.padding, plan.padding);
-    fitButtons({importFiles, importFolder, removeRows, clearList},
-               plan.leftWidth - 2 * plan.padding - 1 - 3 * buttonGap);
+    m_buttonRoom = plan.leftWidth - 2 * plan.padding - 1 - 3 * buttonGap;
+    fitRow();
+}
+
+void LibraryPanel::fitRow()
+{
+    if (m_buttonRoom > 0)
+        fitButtons({importFiles, importFolder, removeRows, clearList}, m_buttonRoom);
 }

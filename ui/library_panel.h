@@ -41,6 +41,9 @@ private:
     QLayout *buildButtons();
     QPushButton *addButton(const char *objectName, const QString &name, const QString &tip);
 
+    void fitRow();
+
+    int m_buttonRoom = 0;        ///< in width; 0 before the first plan
     QLabel *m_counter = nullptr; ///< playing / all
     QLabel *m_shown = nullptr;   ///< shown / all, at the end of the search
 };

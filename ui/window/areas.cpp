@@ -4,6 +4,7 @@
 #include "app/settings_rules.h"
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
+#include "playback/chain_panel.h"
 #include "ui/display_panel.h"
 #include "ui/dock_bar.h"
 #include "ui/dsp_bar.h"
@@ -26,6 +27,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int logHeight = 150;
+constexpr int lowLogHeight = 96;
+constexpr int lowWindow = 760;
 constexpr int checkGap = 4;
 constexpr QSize initialSize(1280, 860);
 
@@ -39,7 +42,10 @@ void PlayerGuiWindow::resizeEvent(QResizeEvent *event)
 
 void PlayerGuiWindow::applyAreaPlan()
 {
-    const AreaFacts facts{width(), height(), m_ui.logSwitch->isChecked() ? logHeight : 0, m_sideWidth};
+    const int paneHeight = height() < lowWindow ? lowLogHeight : logHeight;
+    if (m_ui.log)
+        m_ui.log->setFixedHeight(paneHeight);
+    const AreaFacts facts{width(), height(), m_ui.logSwitch->isChecked() ? paneHeight : 0, m_sideWidth};
     const AreaPlan plan = planAreas(facts);
     if (m_areaPlan == plan)
         return;
@@ -53,6 +59,7 @@ void PlayerGuiWindow::applyAreaPlan()
     m_ui.instruments->setVisible(plan.showsInstruments);
     m_ui.lyrics->setFixedHeight(plan.lyricHeight);
     m_ui.lyrics->setVisible(plan.showsInstruments);
+    m_ui.chain->setCardsVisible(plan.showsInstruments);
     m_ui.dock->applyPlan(plan);
     m_ui.dsp->applyPlan(plan);
     m_ui.side->setFixedWidth(plan.sideWidth);
@@ -131,7 +138,6 @@ void PlayerGuiWindow::openLog(bool open)
 {
     if (open && !m_ui.log) {
         m_ui.log = new LogPane(centralWidget());
-        m_ui.log->setFixedHeight(logHeight);
         m_logPlace->addWidget(m_ui.log);
         setTabOrder(m_ui.logSwitch, m_ui.log);
         flushLog();
