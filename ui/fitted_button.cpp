@@ -10,8 +10,9 @@ namespace {
 
 constexpr std::array paddings = {12, 9, 5};
 constexpr int borders = 2;
-/// A checked, default or primary button is bold: its words are wider.
-constexpr int spare = 2;
+/// A checked, default or primary button is bold: its words are wider; and the layout keeps a gap behind the
+/// last.
+constexpr int spare = 6;
 
 constexpr const char *wholeText = "wholeText";
 constexpr const char *ownTip = "ownTip";
