@@ -83,10 +83,19 @@ class Stage(contextlib.ExitStack):
         if not number:
             raise AssertionError("the virtual display did not start")
         self.env.update(DISPLAY=":" + number, QT_QPA_PLATFORM="xcb")
-        self.start(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        # A window that comes up while the manager is just taking over is lost to it.
-        wait_until(lambda: "window id" in subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env,
-                                                         capture_output=True, text=True).stdout, 15, "the window manager")
+        # A window that comes up while the manager is just taking over is lost to it; and now and then a manager
+        # that is started with its display ends at once.
+        for attempt in range(4):
+            self.start(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+            try:
+                return wait_until(self._is_managed, 6, "the window manager")
+            except AssertionError:
+                if attempt == 3:
+                    raise
+
+    def _is_managed(self):
+        answer = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], env=self.env, capture_output=True, text=True)
+        return "window id" in answer.stdout
 
     def bus(self):
         """A session bus."""
