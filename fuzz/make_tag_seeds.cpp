@@ -1,4 +1,4 @@
-// Writes the seeds of the tag readers' corpora.
+// Makes the first inputs that the fuzz targets of the tag readers start from.
 //
 // usage: make_tag_seeds fuzz/corpus
 #include "tests/support/byte_writer.h"

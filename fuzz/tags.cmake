@@ -2,7 +2,7 @@ foreach(target file_info heads vorbis_comment id3 exact_files names)
     kelp_fuzz(tag_${target} SOURCES fuzz_tag_${target}.cpp LINK tags_logic)
 endforeach()
 
-# The seeds of these corpora are made by code.
+# Code makes the first inputs of these targets.
 if(TARGET test_support)
     add_executable(make_tag_seeds make_tag_seeds.cpp)
     kelp_warnings(make_tag_seeds)

@@ -39,11 +39,9 @@ QFrame#vesperVfd { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #0
     border: 1px solid #2C2C35; border-radius: 6px; }
 QLabel#vesperWinTitle { font-size: 13px; }
 QLabel#vesperPanelTitle, QLabel#vesperPanelMeta, QLabel#vesperCardKey, QLabel#vesperModel, QLabel#vesperCaption,
-QLabel#vesperBayLabel, QLabel#vesperInd, QLabel#vesperVfdMeta, QLabel#vesperVfdLevels { color: #8A857C; }
+QLabel#vesperBayLabel, QLabel#vesperInd, QLabel#vesperVfdMeta { color: #8A857C; }
 QLabel#vesperIndOn { color: @ink@; }
 QLabel#vesperClock, QLabel#vesperCardVal, QLabel#vesperVfdStatus { color: #EDEAE3; }
-QLabel#vesperVfdSignal { color: #8A857C; }
-QLabel#vesperVfdSignal[chainWarn="true"] { color: @warning@; }
 QLabel#vesperVfdFormat { border: 1px solid #2C2C35; border-radius: 3px; padding: 1px 8px; }
 QLabel#vesperVfdTitle, QLabel#vesperNowTitle, QLabel#vesperStatement { color: #EDEAE3; font-weight: 600; }
 QLabel#vesperVfdArtist { font-size: 15px; }

@@ -18,20 +18,6 @@ void setIfStored(const std::optional<Value> &stored, Value &field)
 
 } // namespace
 
-void PlayerGuiWindow::restoreCombo(QSettings &store, QLatin1StringView key, QComboBox *combo)
-{
-    restoreComboText(store.value(key).toString(), combo);
-}
-
-void PlayerGuiWindow::restoreComboText(const QString &stored, QComboBox *combo)
-{
-    QList<ComboItem> items;
-    for (int i = 0; i < combo->count(); ++i)
-        items.append({combo->itemText(i), combo->itemData(i).toString()});
-    if (const int index = restoredItem(stored, items); index >= 0)
-        combo->setCurrentIndex(index);
-}
-
 int PlayerGuiWindow::restoredItem(const QString &stored, const QList<ComboItem> &items)
 {
     const QString wanted = stored.trimmed();
@@ -43,7 +29,7 @@ int PlayerGuiWindow::restoredItem(const QString &stored, const QList<ComboItem> 
     return index;
 }
 
-void PlayerGuiWindow::restoreChoice(const QString &stored, const QList<ChoiceItem> &choices, QString &code)
+void PlayerGuiWindow::restoreCombo(const QString &stored, const QList<ChoiceItem> &choices, QString &code)
 {
     QList<ComboItem> items;
     for (const ChoiceItem &choice : choices)
@@ -52,25 +38,20 @@ void PlayerGuiWindow::restoreChoice(const QString &stored, const QList<ChoiceIte
         code = choices.at(index).code;
 }
 
-void PlayerGuiWindow::saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo)
-{
-    store.setValue(key, combo->currentText());
-}
-
 void PlayerGuiWindow::loadParams()
 {
     SettingsStore file;
     QSettingsAccess store(file);
     const StoredParams params = ::loadParams(store);
     EngineChoices &choices = m_choices;
-    restoreChoice(params.mode, engineItems::modes(), choices.mode);
+    restoreCombo(params.mode, engineItems::modes(), choices.mode);
     QString channels = QString::number(choices.channelCount);
-    restoreChoice(params.layout, engineItems::layouts(), channels);
+    restoreCombo(params.layout, engineItems::layouts(), channels);
     choices.channelCount = channels.toInt();
-    restoreChoice(params.rig, engineItems::rigs(), choices.rig);
-    restoreChoice(params.pcmBits, engineItems::pcmBits(), choices.pcmBits);
-    restoreChoice(params.dop, engineItems::dops(), choices.dop);
-    restoreChoice(params.outputPath, engineItems::outputPaths(), choices.outputPath);
+    restoreCombo(params.rig, engineItems::rigs(), choices.rig);
+    restoreCombo(params.pcmBits, engineItems::pcmBits(), choices.pcmBits);
+    restoreCombo(params.dop, engineItems::dops(), choices.dop);
+    restoreCombo(params.outputPath, engineItems::outputPaths(), choices.outputPath);
     setIfStored(params.peakGuard, choices.peakGuard);
     choices.denoiseTier = params.denoiseTier;
     choices.keepHarmonics = params.keepHarmonics;
@@ -80,7 +61,7 @@ void PlayerGuiWindow::loadParams()
     choices.crossfadeSec = params.crossfadeSec;
     choices.gapless = params.gapless;
     choices.replayGainMode = params.replayGain;
-    restoreChoice(params.pcmFilter, engineItems::pcmFilters(), choices.pcmFilter);
+    restoreCombo(params.pcmFilter, engineItems::pcmFilters(), choices.pcmFilter);
     choices.pcmFilterExplicit = params.pcmFilterExplicit;
     choices.pcmToDsd = params.pcmToDsd;
     choices.pcmToDsdTargetHz = params.pcmToDsdTargetHz;
@@ -90,8 +71,8 @@ void PlayerGuiWindow::loadParams()
     m_ui.dock->showVolume(std::clamp(params.volume.value_or(m_ui.dock->volume->value()), 0, 100));
     setIfStored(params.resample, choices.resample);
     setIfStored(params.streamRead, choices.streamingRead);
-    restoreChoice(readSetting(store, settings::engineSrcQuality), engineItems::qualities(),
-                  choices.resampleQuality);
+    restoreCombo(readSetting(store, settings::engineSrcQuality), engineItems::qualities(),
+                 choices.resampleQuality);
     choices = withinRanges(choices);
     // What is restored was not chosen now: a running session is told nothing.
     showChoices();

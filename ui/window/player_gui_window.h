@@ -27,7 +27,6 @@
 
 class HistoryStore;
 class QMenu;
-class QSettings;
 class QVBoxLayout;
 class ToolsMenu;
 enum class Tool;
@@ -62,9 +61,6 @@ public:
     // ── settings (app/window) ──
     void loadParams();
     void saveParams();
-    void restoreCombo(QSettings &store, QLatin1StringView key, QComboBox *combo);
-    void restoreComboText(const QString &stored, QComboBox *combo);
-    void saveCombo(QSettings &store, QLatin1StringView key, const QComboBox *combo);
     /// What was chosen for the engine.
     const EngineChoices &choices() const { return m_choices; }
     /// The controls of those choices, built at the first call.
@@ -270,7 +266,8 @@ private:
     void flushLog();
     void reportStartupMetrics();
     int restoredItem(const QString &stored, const QList<ComboItem> &items);
-    void restoreChoice(const QString &stored, const QList<ChoiceItem> &choices, QString &code);
+    /// Finds the stored text among a combo's items and takes its code; keeps the code where none matches.
+    void restoreCombo(const QString &stored, const QList<ChoiceItem> &choices, QString &code);
     void applyChoices(const EngineChoices &choices);
     void showChoices(); ///< in their controls, where these have been built
     void showPcmFilter(const QString &name, bool automatic);
