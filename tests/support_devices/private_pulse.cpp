@@ -4,21 +4,35 @@
 
 namespace test_devices {
 namespace fs = std::filesystem;
+namespace {
+
+/// True once the server tells its sinks. Its socket is there before it listens on it, and on a busy machine
+/// long before it answers, so a program that connects when it sees the socket may be refused.
+bool answers(const PrivatePlace &place)
+{
+    const std::string told = place.file("pactl.out");
+    ChildProcess question({"pactl", "list", "short", "sinks"}, told, place.file("pactl.log"));
+    waitUntil([&] { return !question.running(); });
+    return !readFile(told).empty();
+}
+
+} // namespace
 
 PrivatePulse::PrivatePulse(PrivatePlace &place, const std::string &sinkArguments)
 {
-    if (findProgram("pulseaudio").empty()) {
-        missing_ = "The program pulseaudio is not installed.";
-        return;
-    }
+    for (const char *program : {"pulseaudio", "pactl"})
+        if (findProgram(program).empty()) {
+            missing_ = "The program " + std::string(program) + " is not installed.";
+            return;
+        }
     server_ = std::make_unique<ChildProcess>(
         std::vector<std::string>{"pulseaudio", "--daemonize=no", "--exit-idle-time=-1", "--use-pid-file=no",
                                  "--disable-shm=yes", "-n", "-L", "module-native-protocol-unix", "-L",
                                  "module-null-sink " + sinkArguments},
         place.file("pulse.out"), place.file("pulse.log"));
     const std::string socket = place.file("run/pulse/native");
-    const bool up = waitUntil([&] { return fs::is_socket(socket) || !server_->running(); });
-    if (!up || !fs::is_socket(socket))
+    waitUntil([&] { return fs::is_socket(socket) || !server_->running(); });
+    if (!waitUntil([&] { return !server_->running() || answers(place); }) || !server_->running())
         missing_ = "The private sound server did not start: " + readFile(place.file("pulse.log"));
 }
 
