@@ -104,8 +104,12 @@ void PlaylistDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
     // A break in a title is shown as a blank: the row has one line.
     const QString text = index.data(Qt::DisplayRole).toString().replace(u'\n', u' ');
     const int textWidth = std::max(0, inner - tagSpace);
+    const Qt::LayoutDirection interfaceDirection = painter->layoutDirection();
+    // "01 Aria.flac" must not read "Aria.flac 01" in a mirrored interface.
+    painter->setLayoutDirection(text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
     painter->drawText(part(option, sidePadding, textWidth), static_cast<int>(leading) | Qt::TextSingleLine,
                       QFontMetrics(font).elidedText(text, Qt::ElideRight, textWidth));
+    painter->setLayoutDirection(interfaceDirection);
 
     if (tagWidth > 0 && tagWidth < inner) {
         painter->setFont(m_tagFont);

@@ -5,8 +5,10 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPainter>
 #include <QPushButton>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -31,6 +33,19 @@ QLabel *addLabel(QWidget *parent, QLatin1StringView objectName)
     label->setTextFormat(Qt::PlainText);
     return label;
 }
+
+/// Lays the plate behind the verdict; a styled item leaves its own background out.
+class PlateDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        if (const QVariant plate = index.data(Qt::BackgroundRole); plate.isValid())
+            painter->fillRect(option.rect, plate.value<QBrush>());
+        QStyledItemDelegate::paint(painter, option, index);
+    }
+};
 
 } // namespace
 
@@ -93,6 +108,7 @@ SelfCheckDialog::SelfCheckDialog(QWidget *parent)
     m_list->setObjectName("vesperCheckList"_L1);
     m_list->setAccessibleName(tr("逐项检查的结果"));
     m_list->setWordWrap(true);
+    m_list->setItemDelegate(new PlateDelegate(m_list));
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     column->addWidget(m_list, 1);
 

@@ -125,6 +125,8 @@ QLayout *DockBar::buildRight()
     levelRow->addWidget(mute);
     levelRow->addWidget(volume);
     levelRow->addWidget(m_volumeText);
+    // What a wide window leaves over stands before it, not inside it.
+    level->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
     auto *right = new QHBoxLayout;
     right->setSpacing(8);
     right->addStretch();

@@ -1,6 +1,7 @@
 #include "ui/library_panel.h"
 
 #include "ui/fitted_button.h"
+#include "ui/glyph_icons.h"
 #include "ui/style_sheet.h"
 
 #include <QButtonGroup>
@@ -33,6 +34,8 @@ LibraryPanel::LibraryPanel(QWidget *list, QWidget *parent)
     search->setPlaceholderText(tr("搜索标题 / 艺术家"));
     search->setAccessibleName(tr("搜索"));
     search->setFixedHeight(searchHeight);
+    search->addAction(glyphIcon(Glyph::Search), QLineEdit::LeadingPosition)
+        ->setText(search->accessibleName());
     m_shown = new QLabel(u"0 / 0"_s, search);
     m_shown->setObjectName("vesperShown"_L1);
     m_shown->setFont(figureFont(captionPixels));

@@ -1,6 +1,9 @@
 #include "playback/chain_panel.h"
 
+#include "playback/warning_count.h"
+
 #include <QApplication>
+#include <QLabel>
 #include <QTest>
 #include <gtest/gtest.h>
 

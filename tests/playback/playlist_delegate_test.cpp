@@ -3,6 +3,7 @@
 
 #include "playback/playlist_widget.h"
 
+#include <QGuiApplication>
 #include <QImage>
 #include <gtest/gtest.h>
 
@@ -72,6 +73,32 @@ TEST_F(Looks, ThePlayingRowHasABarAtItsLeadingEdge)
     EXPECT_NE(image.pixelColor(150, 2), m_well) << "a wash lies over the row";
     m_list.highlight(-1);
     EXPECT_EQ(picture().pixelColor(0, 5), m_well);
+}
+
+TEST_F(Looks, ANameRunsAsItsOwnScriptDoesWhicheverWayTheInterfaceRuns)
+{
+    m_list.clear();
+    m_list.appendFiles({u"/m/1 WWWWWWWW"_s});
+    // How far the ink goes on from its left end until the first gap of a blank's width.
+    const auto firstWord = [this] {
+        const QImage image = picture();
+        const QRect row = rowRect(0);
+        const auto inked = [&](int x) { return paints(image, {x, row.top(), 1, row.height()}, m_well); };
+        int left = row.left();
+        while (left < row.right() && !inked(left))
+            ++left;
+        int end = left;
+        while (end < row.right() && (inked(end) || inked(end + 1) || inked(end + 2)))
+            ++end;
+        return end - left;
+    };
+    EXPECT_GT(firstWord(), 0);
+    EXPECT_LT(firstWord(), 15);
+    QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    const int mirrored = firstWord();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+    EXPECT_GT(mirrored, 0);
+    EXPECT_LT(mirrored, 15) << "the number stands behind the name";
 }
 
 TEST_F(Looks, EverythingMirrorsFromRightToLeft)

@@ -82,6 +82,10 @@ QString textOf(const QWidget *widget)
         return label->wordWrap() || label->textFormat() == Qt::RichText ? QString() : label->text();
     if (qobject_cast<const IconButton *>(widget))
         return {};
+    // The sign in the search field: its text is its name alone.
+    const auto *sign = qobject_cast<const QToolButton *>(widget);
+    if (sign && sign->toolButtonStyle() == Qt::ToolButtonIconOnly && !sign->icon().isNull())
+        return {};
     if (const auto *button = qobject_cast<const QAbstractButton *>(widget))
         return button->text();
     if (const auto *combo = qobject_cast<const QComboBox *>(widget))
