@@ -342,6 +342,7 @@ TEST_F(InstrumentPanelLayout, LabelsHoldTheLevel)
     EXPECT_EQ(labels.at(0)->text(), u"−8.42 dB"_s);
     EXPECT_EQ(labels.at(0)->property("dbfs").toDouble(), -8.42);
     EXPECT_EQ(labels.at(1)->text(), u"−∞ dB"_s);
+    EXPECT_EQ(labels.at(1)->property("dbfs").toDouble(), -200.) << "the property holds what was measured";
     m_panel.clear();
     EXPECT_EQ(labels.at(0)->text(), u"−∞ dB"_s);
 }
