@@ -94,6 +94,42 @@ TEST_F(Program, TheSelfCheckPrintsAndLeaves)
     EXPECT_FALSE(error.contains("WIDE")) << error.constData();
 }
 
+TEST_F(Program, AStoredLanguageWithoutACatalogueFallsBackToEnglishWithOneWarning)
+{
+    ASSERT_TRUE(QDir(m_root.path()).mkpath(u"set/KELP"_s));
+    QFile settings(m_root.filePath(u"set/KELP/KelpPlayer.ini"_s));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[ui-language]\nui_lang=tlh\n");
+    settings.close();
+    m_environment.remove(u"KELP_LANG"_s);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    const QByteArray out = process.readAllStandardOutput();
+    EXPECT_TRUE(out.contains("KELP_SMOKE lang=en zh=0 ")) << out.constData();
+    const QByteArray error = process.readAllStandardError();
+    EXPECT_EQ(error.count("ui-language: tlh 的翻译表 :/i18n/tlh.qm 不在资源里 -> 退回 en"), 1)
+        << error.constData();
+}
+
+TEST_F(Program, AStoredLanguageIsBeatenByTheEnvironments)
+{
+    ASSERT_TRUE(QDir(m_root.path()).mkpath(u"set/KELP"_s));
+    QFile settings(m_root.filePath(u"set/KELP/KelpPlayer.ini"_s));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[ui-language]\nui_lang=de\n");
+    settings.close();
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    for (const auto &[variable, chosen] : {std::pair("fr", "lang=fr "), std::pair("system", "lang=de ")}) {
+        set(u"KELP_LANG"_s, QString::fromLatin1(variable));
+        QProcess process;
+        start(process);
+        ASSERT_TRUE(process.waitForFinished(limitMs));
+        EXPECT_TRUE(process.readAllStandardOutput().contains(chosen)) << variable;
+    }
+}
+
 TEST_F(Program, AHangingStartIsEndedByTheWatchdog)
 {
     set(u"KELP_GUI_SMOKE"_s, u"1"_s);
