@@ -2,8 +2,7 @@
 #include "app/language.h"
 #include "app/language_install.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QTranslator>
 #include <gtest/gtest.h>
 
@@ -61,6 +60,6 @@ int main(int argc, char **argv)
 {
     testing::InitGoogleTest(&argc, argv);
     qputenv("QT_QPA_PLATFORM", "offscreen"); // also where the tests are only listed
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -92,11 +92,18 @@ TEST_F(IdleWindow, TheFilterChipsStandInTheirOrder)
     EXPECT_EQ(captions(u"vesperChip"_s), (QStringList{u"全部"_s, u"DSD"_s, u"PCM"_s, u"镜像"_s}));
 }
 
-TEST_F(IdleWindow, TheLogBeginsWithItsBanner)
+TEST_F(IdleWindow, TheBannerStandsBehindWhatSettingsAndDevicesHadToSay)
 {
-    const QStringList lines = takeLog().split(u'\n');
+    m_window.reset();
+    SettingsStore().setValue(u"param/mode"_s, u"no such mode"_s);
+    takeLog();
+    makeWindow();
+    const QString log = takeLog();
+    const QStringList lines = log.split(u'\n');
     const qsizetype first = lines.indexOf(u"=== KelpPlayer — DSD 音频播放器 ==="_s);
     ASSERT_GE(first, 0);
+    EXPECT_LT(log.indexOf(u"找不到匹配项 no such mode"_s), log.indexOf(u"=== KelpPlayer"_s));
+    EXPECT_TRUE(log.contains(u"找不到匹配项 no such mode"_s));
     ASSERT_GT(lines.size(), first + 2);
     EXPECT_TRUE(lines.at(first + 1).startsWith(u"格式: "_s));
     EXPECT_TRUE(lines.at(first + 2).startsWith(u"模式: "_s));

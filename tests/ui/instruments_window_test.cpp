@@ -167,6 +167,15 @@ TEST_F(WindowInstruments, AThemeThatIsChangedIsShownAndLogged)
     EXPECT_EQ(takeLog().count(u"主题: 深色"_s), 1);
 }
 
+TEST_F(WindowInstruments, AThemeThatFollowsTheSystemIsNamedSo)
+{
+    takeLog();
+    writeUserSetting(settings::theme, 2);
+    m_window->changeTheme();
+    const QString look = theme::lightTheme ? u"浅色"_s : u"深色"_s;
+    EXPECT_EQ(takeLog().count(u"主题: 跟随系统（%1）"_s.arg(look)), 1);
+}
+
 TEST_F(WindowInstruments, AStoredThemeIsThereWithTheFirstFrame)
 {
     m_window.reset();
