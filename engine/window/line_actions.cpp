@@ -121,6 +121,8 @@ void LineActions::operator()(const ClearSpectrum &) const
     window.m_instruments.spectrum.reset();
     window.m_ui.instruments->spectrum()->showNoPcm(
         PlayerGuiWindow::tr("此路径没有频谱：DSD 直接输出不含 PCM"));
+    // Where nothing can be analysed there is no waveform either, whether or not the engine says so too.
+    (*this)(ClearScope{});
 }
 
 void LineActions::operator()(const ShowScope &effect) const
