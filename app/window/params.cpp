@@ -93,6 +93,8 @@ void PlayerGuiWindow::saveParams()
     const EngineChoices &choices = m_choices;
     // What has no control in the window keeps its stored value.
     StoredParams params = ::loadParams(store);
+    // A choice is written as its code, which is its text unless the text is translated: a file is to be read
+    // again in another language.
     params.mode = choices.mode;
     params.layout = QString::number(choices.channelCount);
     params.rig = choices.rig.isEmpty() ? engineItems::rigs().first().text : choices.rig;

@@ -62,16 +62,25 @@ void PlayerGuiWindow::installSinks()
     m_link.mailbox = std::make_shared<TelemetryMailbox>(
         [this](const QString &line, bool isStderr) {
             QMetaObject::invokeMethod(
-                this, [this, line, isStderr] { onEngineLine(line, isStderr); }, Qt::QueuedConnection);
+                this,
+                [this, line, isStderr] { guarded(u"onEngineLine"_s, [&] { onEngineLine(line, isStderr); }); },
+                Qt::QueuedConnection);
         },
-        [this] { QMetaObject::invokeMethod(this, &PlayerGuiWindow::drainMailbox, Qt::QueuedConnection); });
+        [this] {
+            QMetaObject::invokeMethod(
+                this, [this] { guarded(u"drainMailbox"_s, [this] { drainMailbox(); }); },
+                Qt::QueuedConnection);
+        });
     m_link.session->lineSink = [mailbox = m_link.mailbox](const QString &line, bool isStderr) {
         mailbox->put(line, isStderr);
     };
     m_link.session->doneSink = [this](int exitCode, bool crashed) {
         const int startIndex = m_link.startCount;
         QMetaObject::invokeMethod(
-            this, [this, exitCode, crashed, startIndex] { onEngineDone(exitCode, crashed, startIndex); },
+            this,
+            [this, exitCode, crashed, startIndex] {
+                guarded(u"onEngineDone"_s, [&] { onEngineDone(exitCode, crashed, startIndex); });
+            },
             Qt::QueuedConnection);
     };
 }

@@ -26,15 +26,8 @@ void PlayerGuiWindow::playCurrent()
 {
     const ExchangeStage exchange = [this](const QString &label) { return markStage(label); };
     const StageLabel stage(exchange, u"playCurrent(起播/换曲)"_s);
-    try {
-        playCurrentUnguarded();
-    } catch (const std::exception &exception) {
-        crashGuard(u"playCurrent"_s, &exception);
+    if (!guarded(u"playCurrent"_s, [this] { playCurrentUnguarded(); }))
         setPlayingUi(false);
-    } catch (...) {
-        crashGuard(u"playCurrent"_s, nullptr);
-        setPlayingUi(false);
-    }
 }
 
 void PlayerGuiWindow::playCurrentUnguarded()

@@ -60,6 +60,11 @@ bool PlayerGuiWindow::closeLeftoverSession()
 
 void PlayerGuiWindow::stopPlayback()
 {
+    guarded(u"stopPlayback"_s, [this] { stopSession(); });
+}
+
+void PlayerGuiWindow::stopSession()
+{
     if (!sessionRuns()) {
         logLine(tr("没有正在运行的播放任务"));
         return;

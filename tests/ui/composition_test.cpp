@@ -189,14 +189,24 @@ TEST_F(Composition, ASideWidthOutOfRangeIsClampedStoredAndTold)
 
 TEST_F(Composition, AStoredSideWidthComesBackClamped)
 {
-    writeUserSetting(settings::sideWidth, 500);
-    open();
-    show({1920, 1080});
-    EXPECT_EQ(ui().side->width(), 420);
-    writeUserSetting(settings::sideWidth, 0);
-    open();
-    show({1920, 1080});
-    EXPECT_EQ(ui().side->width(), 240);
+    struct Case
+    {
+        int stored, width, kept;
+        bool told;
+    };
+    for (const Case &c : {Case{500, 420, 420, true}, Case{100, 200, 200, true}, Case{0, 240, 0, false},
+                          Case{-5, 240, -5, false}, Case{300, 300, 300, false}}) {
+        writeUserSetting(settings::sideWidth, c.stored);
+        m_window.reset();
+        takeLog();
+        makeWindow();
+        EXPECT_EQ(takeLog().count(u"布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px"_s.arg(c.stored).arg(c.kept)),
+                  c.told ? 1 : 0)
+            << c.stored;
+        EXPECT_EQ(readUserSetting(settings::sideWidth), c.kept);
+        show({1920, 1080});
+        EXPECT_EQ(ui().side->width(), c.width);
+    }
 }
 
 TEST_F(Composition, ResetLayoutForgetsSizeAndWidth)

@@ -72,11 +72,16 @@ void PlayerGuiWindow::applyAreaPlan()
     fitButton(*m_ui.selfCheck, plan.sideWidth - besides);
 }
 
+void PlayerGuiWindow::tellSideWidthClamped(int wanted)
+{
+    logLine(tr("布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px").arg(wanted).arg(m_sideWidth), true);
+}
+
 void PlayerGuiWindow::setSideWidth(int width, bool log)
 {
     m_sideWidth = sideWidthFromUser(width);
     if (m_sideWidth != width)
-        logLine(tr("布局: 侧栏宽度 %1 超出范围, 已夹到 %2 px").arg(width).arg(m_sideWidth), true);
+        tellSideWidthClamped(width);
     else if (log)
         logLine(tr("布局: 侧栏宽度 %1 px").arg(m_sideWidth));
     writeUserSetting(settings::sideWidth, m_sideWidth);
@@ -100,7 +105,13 @@ void PlayerGuiWindow::resetLayout()
 void PlayerGuiWindow::restorePlace()
 {
     resize(initialSize);
-    m_sideWidth = sideWidthFromUser(sideWidthFromStored(readUserSetting(settings::sideWidth)));
+    const int stored = readUserSetting(settings::sideWidth);
+    m_sideWidth = sideWidthFromStored(stored);
+    // Below 1 stands for the usual width and is no mistake.
+    if (stored >= 1 && stored != m_sideWidth) {
+        tellSideWidthClamped(stored);
+        writeUserSetting(settings::sideWidth, m_sideWidth);
+    }
     const QByteArray geometry = readUserSetting(settings::geometry);
     if (geometry.isEmpty())
         return;

@@ -32,12 +32,12 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     restorePlace();
     connectControls();
     buildShortcuts();
+    loadParams();
+    populateDevicesBlocking();
     logLine(tr("=== KelpPlayer — DSD 音频播放器 ==="));
     logLine(
         tr("格式: DSF / DFF / WSD / SACD ISO / DTS / WAV / AIFF / FLAC / ALAC / TTA / WavPack / APE / CUE"));
     logLine(tr("模式: standard / differential / btl / crossover / pairs"));
-    loadParams();
-    populateDevicesBlocking();
     restorePlaylist();
     setPlayingUi(false);
     showIdle();

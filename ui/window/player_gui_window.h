@@ -57,6 +57,21 @@ public:
     QString markStage(const QString &label);
     /// Called in a catch block with the exception, or null for one of a foreign type.
     void crashGuard(const QString &functionName, const std::exception *exception);
+    /// Runs a top-level handler. What it throws ends it, is logged and goes no further: an exception in the
+    /// event loop would end the program. \return whether it ran to its end
+    template<class Handler>
+    bool guarded(const QString &functionName, const Handler &handler)
+    {
+        try {
+            handler();
+            return true;
+        } catch (const std::exception &exception) {
+            crashGuard(functionName, &exception);
+        } catch (...) {
+            crashGuard(functionName, nullptr);
+        }
+        return false;
+    }
 
     // ── settings (app/window) ──
     void loadParams();
@@ -233,6 +248,7 @@ private:
     void pressOrToggle();
     void applyAreaPlan();
     void restorePlace();
+    void tellSideWidthClamped(int wanted);
     void openLog(bool open);
     void buildSetup();
     void showRemote();
@@ -296,6 +312,7 @@ private:
 
     // ── playback/window ──
     void playCurrentUnguarded();
+    void stopSession();
     void logElapsed(const QString &stage, qint64 elapsedMs);
     bool skipMissingFiles();
     bool findEngine();
