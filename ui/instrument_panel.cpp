@@ -104,7 +104,7 @@ void InstrumentPanel::setCompact(bool compact)
 void InstrumentPanel::showLevel(const Channel &channel, const MeterReading &reading)
 {
     channel.meter->showReading(reading);
-    channel.level->setProperty("dbfs", reading.dbfs);
+    channel.level->setProperty("dbfs", reading.peakDb);
     if (channel.level->text() != reading.text)
         channel.level->setText(reading.text);
 }

@@ -29,6 +29,7 @@ MeterReading readMeter(double peakDb, qint64 nowMs, qint64 &clipUntilMs)
     reading.dbfs = peakDb > meterFloorDb ? peakDb : meterFloorDb;
     reading.clip = clips || nowMs < clipUntilMs;
     reading.text = levelText(peakDb);
+    reading.peakDb = peakDb;
     return reading;
 }
 

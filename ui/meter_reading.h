@@ -16,7 +16,8 @@ struct MeterReading
 {
     double dbfs = meterFloorDb;
     bool clip = false;
-    QString text; ///< with the unit
+    QString text;                 ///< with the unit
+    double peakDb = meterFloorDb; ///< as it was measured, below the floor too
 
     bool operator==(const MeterReading &) const = default;
 };

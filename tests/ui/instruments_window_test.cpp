@@ -104,6 +104,18 @@ TEST_F(WindowInstruments, ADirectPathSaysWhyItShowsNothing)
     EXPECT_TRUE(panel().spectrum()->toolTip().isEmpty());
 }
 
+TEST_F(WindowInstruments, NoSpectrumMeansNoWaveformEither)
+{
+    say(u"SPC 44100 4 ff80ff00"_s);
+    say(u"WVF 44100 8 "_s + flatBlock(8));
+    say(u"SPC none"_s);
+    EXPECT_EQ(panel().spectrum()->toolTip(), u"此路径没有频谱：DSD 直接输出不含 PCM"_s);
+    EXPECT_EQ(panel().scope()->bucketCount(), 0);
+    EXPECT_EQ(panel().scope()->toolTip(), u"这条链上没有 PCM（DSD 直通）——没有波形"_s);
+    say(u"WVF 44100 8 "_s + flatBlock(8));
+    EXPECT_EQ(panel().scope()->bucketCount(), 8) << "the next track may carry PCM again";
+}
+
 TEST_F(WindowInstruments, TheEndOfASessionLeavesNothingStanding)
 {
     say(u"LVL -3 -3"_s);
@@ -153,6 +165,15 @@ TEST_F(WindowInstruments, AThemeThatIsChangedIsShownAndLogged)
     m_window->changeTheme();
     EXPECT_FALSE(theme::lightTheme);
     EXPECT_EQ(takeLog().count(u"主题: 深色"_s), 1);
+}
+
+TEST_F(WindowInstruments, AThemeThatFollowsTheSystemIsNamedSo)
+{
+    takeLog();
+    writeUserSetting(settings::theme, 2);
+    m_window->changeTheme();
+    const QString look = theme::lightTheme ? u"浅色"_s : u"深色"_s;
+    EXPECT_EQ(takeLog().count(u"主题: 跟随系统（%1）"_s.arg(look)), 1);
 }
 
 TEST_F(WindowInstruments, AStoredThemeIsThereWithTheFirstFrame)

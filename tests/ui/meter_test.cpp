@@ -34,6 +34,17 @@ TEST(MeterReading, SegmentsFollowTheLevel)
         EXPECT_EQ(litSegments(each.dbfs), each.lit) << each.dbfs;
 }
 
+TEST(MeterReading, MinusSixtyLightsNothingAndMinusFiveHundredthsAllAndStartsTheHold)
+{
+    EXPECT_EQ(litSegments(-60.), 0);
+    EXPECT_EQ(litSegments(-0.05), 36);
+    qint64 clipUntil = 0;
+    EXPECT_FALSE(readMeter(-60., 100, clipUntil).clip);
+    EXPECT_EQ(clipUntil, 0);
+    EXPECT_TRUE(readMeter(-0.05, 100, clipUntil).clip);
+    EXPECT_EQ(clipUntil, 1600);
+}
+
 TEST(MeterReading, AClipHoldsForOneAndAHalfSecondsOnBothChannels)
 {
     qint64 clipUntil = 0;

@@ -195,6 +195,26 @@ TEST_F(SpectrumPaint, AnEmptyViewSaysWhyOrNothing)
     EXPECT_EQ(coloursOf(pictureOf(m_view)), QSet<QRgb>{ground().rgba()});
 }
 
+TEST_F(SpectrumPaint, TheWordsOfAnEmptyViewHaveTheirInk)
+{
+    QFont large = m_view.font();
+    large.setPixelSize(40);
+    m_view.setFont(large);
+    m_view.showNoPcm(u"██"_s); // solid, so that its ink stands unmixed in the picture
+    for (const bool light : {false, true}) {
+        theme::setLightTheme(light);
+        EXPECT_TRUE(coloursOf(pictureOf(m_view)).contains(qRgb(138, 133, 124)));
+    }
+}
+
+TEST_F(SpectrumPaint, ItsSizeIsFixedInHeightAndHasALeastWidth)
+{
+    EXPECT_EQ(m_view.minimumHeight(), 72);
+    EXPECT_EQ(m_view.maximumHeight(), 72);
+    EXPECT_EQ(m_view.minimumWidth(), 160);
+    EXPECT_EQ(m_view.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+}
+
 class ScopePaint : public PaintedTest
 {
 protected:
@@ -245,6 +265,17 @@ TEST_F(ScopePaint, AnEmptyViewSaysWhy)
     m_view.clear();
     EXPECT_EQ(m_view.bucketCount(), 0);
     EXPECT_EQ(m_view.toolTip(), m_view.idleText());
+}
+
+TEST_F(ScopePaint, TheWordsOfAnEmptyViewHaveTheInkOfTheLook)
+{
+    QFont large = m_view.font();
+    large.setPixelSize(40);
+    m_view.setFont(large);
+    m_view.showNoPcm(u"██"_s);
+    EXPECT_TRUE(coloursOf(pictureOf(m_view)).contains(qRgb(90, 86, 96)));
+    theme::setLightTheme(true);
+    EXPECT_TRUE(coloursOf(pictureOf(m_view)).contains(qRgb(120, 114, 104)));
 }
 
 TEST_F(ScopePaint, FramesThatDoNotFitChangeNothing)
@@ -342,6 +373,7 @@ TEST_F(InstrumentPanelLayout, LabelsHoldTheLevel)
     EXPECT_EQ(labels.at(0)->text(), u"−8.42 dB"_s);
     EXPECT_EQ(labels.at(0)->property("dbfs").toDouble(), -8.42);
     EXPECT_EQ(labels.at(1)->text(), u"−∞ dB"_s);
+    EXPECT_EQ(labels.at(1)->property("dbfs").toDouble(), -200.) << "the property holds what was measured";
     m_panel.clear();
     EXPECT_EQ(labels.at(0)->text(), u"−∞ dB"_s);
 }
