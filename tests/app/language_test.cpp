@@ -33,6 +33,49 @@ TEST(Language, VariablesThatNameNoLanguageAreSkipped)
     EXPECT_EQ(chosen({{}, {}, u"C"_s, {}}), u"pl"_s) << "the system's locale";
 }
 
+TEST(Language, TheVariablesAreReadInTheirOrder)
+{
+    const QStringList all{u"ja_JP"_s, u"ko_KR"_s, u"ru_RU"_s, u"fr"_s};
+    for (qsizetype unset = 0; unset < all.size(); ++unset) {
+        QStringList variables = all;
+        for (qsizetype i = 0; i < unset; ++i)
+            variables[i].clear();
+        EXPECT_EQ(chosen(variables), all.at(unset).left(2));
+    }
+}
+
+TEST(Language, LangCWithoutLcAllGoesOnToLanguageAndThenToTheSystem)
+{
+    EXPECT_EQ(chosen({{}, {}, u"C"_s, u"ko_KR"_s}), u"ko"_s);
+    EXPECT_EQ(chosen({{}, {}, u"C"_s, {}}), u"pl"_s);
+    EXPECT_EQ(chosen({{}, {}, u"Posix"_s, u"c"_s}), u"pl"_s);
+}
+
+TEST(Language, FrenchInTheEnvironmentBeatsAStoredGerman)
+{
+    EXPECT_EQ(chooseLanguage(facts(u"fr"_s, u"de"_s, {u"ja_JP"_s})).code, u"fr"_s);
+    for (const QString &none : {QString(), u"system"_s})
+        EXPECT_EQ(chooseLanguage(facts(none, u"de"_s, {u"ja_JP"_s})).code, u"de"_s);
+}
+
+TEST(Language, TheTableIsOfferedInItsOrderUnderItsOwnNames)
+{
+    QStringList rows;
+    for (const LanguageRow &row : languageTable())
+        rows.append(QString(row.code) + u' ' + row.nativeName.toString() +
+                    (row.rightToLeft ? u" <"_s : QString()));
+    EXPECT_EQ(rows, (QStringList{u"zh 中文"_s, u"hant 繁體中文"_s, u"en English"_s, u"ja 日本語"_s,
+                                 u"ko 한국어"_s, u"ru Русский"_s, u"de Deutsch"_s, u"fr Français"_s,
+                                 u"es Español"_s, u"pt Português"_s, u"ar العربية <"_s, u"pl Polski"_s}));
+}
+
+TEST(Language, EachLocaleFindsItsRow)
+{
+    for (const char *name :
+         {"en_GB", "ja_JP", "ko_KR", "ru_RU", "de_AT", "fr_CA", "es_MX", "pt_BR", "ar_EG", "pl_PL"})
+        EXPECT_EQ(matchLocale(QLocale(QString::fromLatin1(name))), QString::fromLatin1(name).left(2)) << name;
+}
+
 TEST(Language, CodesetsAndListsDoNotHideTheName)
 {
     EXPECT_EQ(chosen({u"de_AT.UTF-8@euro"_s}), u"de"_s);

@@ -1,7 +1,9 @@
 #include "app/guard_trace.h"
 #include "app/gui_log_file.h"
 
+#include <QDir>
 #include <QFile>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -39,6 +41,38 @@ TEST(GuiLogFile, TimeStampsStandInBrackets)
     EXPECT_EQ(GuiLogFile::formatted(u"x"_s, false, QTime(3, 4, 5, 6)), u"x"_s);
 }
 
+TEST(GuiLogFile, EachLineOfTheFileGetsItsStampWhereThatIsAskedFor)
+{
+    const QTemporaryDir directory;
+    const GuiLogFile log({{}, directory.path(), 1, true});
+    log.write(u"one"_s);
+    log.write(u"two"_s);
+    static const QRegularExpression form(
+        u"^\\[\\d\\d:\\d\\d:\\d\\d\\.\\d{3}\\] one\n\\[[\\d:.]{12}\\] two\n$"_s);
+    EXPECT_TRUE(form.match(QString::fromUtf8(contents(log.path()))).hasMatch())
+        << contents(log.path()).data();
+}
+
+TEST(GuiLogFile, NoughtTurnsTheFileOff)
+{
+    const QTemporaryDir directory;
+    const QString former = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(directory.path()));
+    GuiLogFile({u"0"_s, directory.path(), 1, false}).write(u"nowhere"_s);
+    EXPECT_TRUE(QDir(directory.path()).isEmpty());
+    QDir::setCurrent(former);
+}
+
+TEST(GuiLogFile, AFileThatWasMovedAwayIsBegunAnew)
+{
+    const QTemporaryDir directory;
+    const GuiLogFile log({{}, directory.path(), 1, false});
+    log.write(u"old"_s);
+    ASSERT_TRUE(QFile::rename(log.path(), directory.filePath(u"kept"_s)));
+    log.write(u"new"_s);
+    EXPECT_EQ(contents(log.path()), QByteArray("new\n"));
+}
+
 TEST(GuiLogFile, AFileThatCannotBeOpenedIsSkipped)
 {
     const GuiLogFile log({u"/nonexistent/x.log"_s, {}, 1, false});
@@ -53,6 +87,11 @@ TEST(GuardTrace, WritesOnlyWhereItIsAskedTo)
     guardTrace("lost %d", 1);
     qputenv("KELP_GUARD_TRACE", QFile::encodeName(path));
     guardTrace("kept %d %s", 2, "x");
-    qunsetenv("KELP_GUARD_TRACE");
     EXPECT_EQ(contents(path), QByteArray("kept 2 x\n"));
+    const QByteArray longText(5000, 'x');
+    guardTrace("%s", longText.constData());
+    EXPECT_LT(contents(path).size(), 2000) << "a line has its limit";
+    qputenv("KELP_GUARD_TRACE", "/nonexistent/trace");
+    guardTrace("lost too");
+    qunsetenv("KELP_GUARD_TRACE");
 }

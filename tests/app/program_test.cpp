@@ -94,6 +94,42 @@ TEST_F(Program, TheSelfCheckPrintsAndLeaves)
     EXPECT_FALSE(error.contains("WIDE")) << error.constData();
 }
 
+TEST_F(Program, AStoredLanguageWithoutACatalogueFallsBackToEnglishWithOneWarning)
+{
+    ASSERT_TRUE(QDir(m_root.path()).mkpath(u"set/KELP"_s));
+    QFile settings(m_root.filePath(u"set/KELP/KelpPlayer.ini"_s));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[ui-language]\nui_lang=tlh\n");
+    settings.close();
+    m_environment.remove(u"KELP_LANG"_s);
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    const QByteArray out = process.readAllStandardOutput();
+    EXPECT_TRUE(out.contains("KELP_SMOKE lang=en zh=0 ")) << out.constData();
+    const QByteArray error = process.readAllStandardError();
+    EXPECT_EQ(error.count("ui-language: tlh 的翻译表 :/i18n/tlh.qm 不在资源里 -> 退回 en"), 1)
+        << error.constData();
+}
+
+TEST_F(Program, AStoredLanguageIsBeatenByTheEnvironments)
+{
+    ASSERT_TRUE(QDir(m_root.path()).mkpath(u"set/KELP"_s));
+    QFile settings(m_root.filePath(u"set/KELP/KelpPlayer.ini"_s));
+    ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+    settings.write("[ui-language]\nui_lang=de\n");
+    settings.close();
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    for (const auto &[variable, chosen] : {std::pair("fr", "lang=fr "), std::pair("system", "lang=de ")}) {
+        set(u"KELP_LANG"_s, QString::fromLatin1(variable));
+        QProcess process;
+        start(process);
+        ASSERT_TRUE(process.waitForFinished(limitMs));
+        EXPECT_TRUE(process.readAllStandardOutput().contains(chosen)) << variable;
+    }
+}
+
 TEST_F(Program, AHangingStartIsEndedByTheWatchdog)
 {
     set(u"KELP_GUI_SMOKE"_s, u"1"_s);
@@ -121,6 +157,101 @@ TEST_F(Program, ADashArgumentGoesToTheEngineEvenBesideAWindow)
     EXPECT_FALSE(console.readAllStandardOutput().isEmpty());
     EXPECT_EQ(guardTrace().count('\n'), 1) << "the console role takes no lock";
     end(window);
+}
+
+TEST_F(Program, TheSettingsDirectoryCountsForTheEngineToo)
+{
+    const QString place = m_root.filePath(u"made/for/this"_s);
+    set(u"KELP_SETTINGS_DIR"_s, u" "_s + place + u" "_s);
+    QProcess console;
+    start(console, {u"--help"_s});
+    ASSERT_TRUE(console.waitForFinished(limitMs));
+    EXPECT_TRUE(QFileInfo(place).isDir()) << "the override goes before the choice of the role";
+}
+
+TEST_F(Program, ClosedStreamsDoNotHurt)
+{
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    for (const QString &arguments : {QString(), u"--help"_s}) {
+        QProcess shell;
+        shell.setProcessEnvironment(m_environment);
+        shell.start(u"/bin/sh"_s,
+                    {u"-c"_s, u"exec \"$0\" %1 <&- >&- 2>&-"_s.arg(arguments), QStringLiteral(KELP_PROGRAM)});
+        ASSERT_TRUE(shell.waitForFinished(limitMs));
+        EXPECT_EQ(shell.exitStatus(), QProcess::NormalExit) << qPrintable(arguments);
+        EXPECT_EQ(shell.exitCode(), 0) << qPrintable(arguments);
+    }
+}
+
+TEST_F(Program, AnEmptyArgumentIsAPlainStart)
+{
+    set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    QProcess process;
+    start(process, {QString()});
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_TRUE(process.readAllStandardOutput().contains("KELP_SMOKE_PLAYLIST n=0 "));
+}
+
+TEST_F(Program, AFileGivenToASecondWindowIsNotPassedOn)
+{
+    QFile music(m_root.filePath(u"music.wav"_s));
+    ASSERT_TRUE(music.open(QIODevice::WriteOnly));
+    music.close();
+    const QString log = m_root.filePath(u"first.log"_s);
+    set(u"KELP_GUI_LOG"_s, log);
+    QProcess first;
+    start(first);
+    ASSERT_TRUE(waitForGuardTrace(1));
+    set(u"KELP_GUI_LOG"_s, m_root.filePath(u"second.log"_s));
+    QProcess second;
+    start(second, {music.fileName()});
+    ASSERT_TRUE(waitForGuardTrace(2));
+    second.setReadChannel(QProcess::StandardError);
+    QByteArray said;
+    while (!said.contains("refusing to start a second instance") && second.waitForReadyRead(limitMs))
+        said += second.readAllStandardError();
+    const auto contents = [](const QString &path) {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    EXPECT_TRUE(contents(m_root.filePath(u"second.log"_s)).contains("refusing to start a second instance"));
+    EXPECT_FALSE(contents(m_root.filePath(u"second.log"_s)).contains("=== KelpPlayer"))
+        << "no window is made";
+    EXPECT_FALSE(contents(log).contains("music.wav"));
+    end(second);
+    end(first);
+}
+
+TEST_F(Program, HooksThatFireSaySo)
+{
+    set(u"KELP_GUI_JUMP_AT"_s, u"0.1:0"_s);
+    set(u"KELP_GUI_NEXT_EVERY"_s, u"1:1"_s);
+    set(u"KELP_GUI_NEXT_AFTER"_s, u"0.2"_s);
+    set(u"KELP_GUI_STOP_AFTER"_s, u"0.3"_s);
+    set(u"KELP_GUI_QUIT_AFTER"_s, u"1.5"_s);
+    set(u"KELP_GUI_MOVEROW"_s, u"0:1"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitCode(), 0);
+    const QByteArray error = process.readAllStandardError();
+    for (const char *line :
+         {"[gui] KELP_GUI_JUMP_AT: ", "[gui] KELP_GUI_NEXT_EVERY: 触发下一首\n",
+          "[gui] KELP_GUI_NEXT_AFTER: 触发下一首\n", "[gui] KELP_GUI_STOP_AFTER: 触发停止\n",
+          "[gui] KELP_GUI_QUIT_AFTER: 停止并退出\n", "[gui] KELP_GUI_MOVEROW: 0 -> 1 "})
+        EXPECT_EQ(error.count(line), 1) << line << error.constData();
+}
+
+TEST_F(Program, TheRigDumpQuitsByItself)
+{
+    set(u"KELP_GUI_RIGDUMP"_s, QString());
+    set(u"KELP_GUI_RIG"_s, u"bs775"_s);
+    QProcess process;
+    start(process);
+    ASSERT_TRUE(process.waitForFinished(limitMs));
+    EXPECT_EQ(process.exitCode(), 0);
+    EXPECT_TRUE(process.readAllStandardError().contains("[gui] KELP_GUI_RIGDUMP: bs775\n"));
 }
 
 TEST_F(Program, ASecondWindowIsRefusedAndTheTraceSaysWhy)

@@ -29,6 +29,30 @@ TEST(SessionLogSweep, LimitsComeFromTheEnvironment)
     EXPECT_EQ(sweepLimits(u"x"_s, u"x"_s).keepCount, 1);
 }
 
+TEST(SessionLogSweep, AKeepCountOfNoughtCountsAsOne)
+{
+    struct Case
+    {
+        QString days, count;
+        int keptDays, keptCount;
+    };
+    for (const Case &limits :
+         {Case{{}, u"0"_s, 7, 1}, Case{{}, u"-4"_s, 7, 1}, Case{{}, u"1"_s, 7, 1}, Case{{}, {}, 7, 20},
+          Case{u"0"_s, {}, 7, 20}, Case{u"-1"_s, {}, 7, 20}, Case{u"1"_s, u"30"_s, 1, 30}}) {
+        const SweepLimits read = sweepLimits(limits.days, limits.count);
+        EXPECT_EQ(read.keepDays, limits.keptDays) << qPrintable(limits.days);
+        EXPECT_EQ(read.keepCount, limits.keptCount) << qPrintable(limits.count);
+    }
+}
+
+TEST(SessionLogSweep, YoungDirectoriesCountAmongThoseThatAreKept)
+{
+    const QList<SessionLogDir> directories = {
+        {u"young"_s, now.addSecs(-10), false}, aged(u"first"_s, 2), aged(u"second"_s, 3)};
+    EXPECT_EQ(planSessionLogSweep(directories, {7, 2}, now).aged, QStringList{u"second"_s});
+    EXPECT_EQ(planSessionLogSweep(directories, {7, 1}, now).aged, (QStringList{u"first"_s, u"second"_s}));
+}
+
 TEST(SessionLogSweep, AYoungDirectoryStaysWhateverTheLimitsSay)
 {
     const QList<SessionLogDir> directories = {{u"young"_s, now.addSecs(-3599), true},

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 #include <limits>
+#include <utility>
 
 namespace {
 
@@ -16,6 +17,17 @@ TEST(SettingsRules, SideWidth)
     EXPECT_EQ(sideWidthFromUser(0), 200);
     EXPECT_EQ(sideWidthFromUser(421), 420);
     EXPECT_EQ(sideWidthFromUser(std::numeric_limits<int>::min()), 200);
+}
+
+TEST(SettingsRules, AStoredSideWidthOf500Gives420AndNoughtTheUsualAnd100TheLeast)
+{
+    for (const auto &[stored, width] : {std::pair{500, 420}, {0, 240}, {100, 200}, {200, 200}, {420, 420}})
+        EXPECT_EQ(sideWidthFromStored(stored), width) << stored;
+}
+
+TEST(SettingsRules, ADenoiseTierOfSevenGivesThree)
+{
+    EXPECT_EQ(clampedDenoiseTier(7), 3);
 }
 
 TEST(SettingsRules, DenoiseTierAndHarmonics)

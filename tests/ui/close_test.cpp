@@ -16,11 +16,13 @@ protected:
         QTimer::singleShot(0, qApp, [this, button] {
             if (auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget())) {
                 ++m_asked;
+                m_question = box->windowTitle() + u'|' + box->text();
                 box->button(button)->click();
             }
         });
     }
     int m_asked = 0;
+    QString m_question; ///< title and text of the last one
 };
 
 TEST_F(Close, WhileIdleNobodyIsAsked)
@@ -42,6 +44,8 @@ TEST_F(Close, DuringPlaybackANoKeepsTheWindow)
     answerWith(QMessageBox::No);
     EXPECT_FALSE(m_window->close());
     EXPECT_EQ(m_asked, 1);
+    EXPECT_EQ(m_question, u"播放进行中|播放尚未结束, 关闭窗口将停止播放。\n\n确定要退出吗?"_s);
+    EXPECT_TRUE(logHas(u"[gui] closeEvent: 播放中=1"_s));
     EXPECT_TRUE(m_engine.current->isRunning());
     answerWith(QMessageBox::Yes);
     EXPECT_TRUE(m_window->close());

@@ -22,6 +22,19 @@ TEST(LightLook, EveryNeutralOfTheTableBecomesItsPartner)
     EXPECT_EQ(neutralTable.size(), 14U);
 }
 
+TEST(LightLook, TheTableIsThatOfTheDesign)
+{
+    const std::pair<QString, QString> table[] = {
+        {u"#08080A"_s, u"#F6F5F2"_s}, {u"#0C0C0F"_s, u"#FBF9F5"_s}, {u"#121216"_s, u"#FFFFFF"_s},
+        {u"#131317"_s, u"#F2F1ED"_s}, {u"#18181E"_s, u"#FFFFFF"_s}, {u"#1F1F26"_s, u"#DCD9D2"_s},
+        {u"#202028"_s, u"#E9E7E1"_s}, {u"#23232B"_s, u"#E4E1DA"_s}, {u"#2C2C35"_s, u"#D3CFC7"_s},
+        {u"#EDEAE3"_s, u"#1F1D19"_s}, {u"#CFC9BF"_s, u"#393630"_s}, {u"#B9B3A8"_s, u"#4C4840"_s},
+        {u"#8A857C"_s, u"#6C665D"_s}, {u"#4A4842"_s, u"#7C766C"_s},
+    };
+    for (const auto &[dark, light] : table)
+        EXPECT_EQ(mapStylesheetToLight(dark), light);
+}
+
 TEST(LightLook, AGreyOutsideTheTableIsTurnedOver)
 {
     struct Case

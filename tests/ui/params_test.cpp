@@ -111,6 +111,49 @@ TEST_F(Params, DamagedValuesAreKeptInRange)
     EXPECT_TRUE(logHas(u"找不到匹配项 no such mode"_s));
 }
 
+TEST_F(Params, AStoredTextFindsItsItemAsWellAsAStoredCode)
+{
+    for (const QString &stored : {u"4"_s, u"4 声道"_s, u" 4  声道 "_s, u"4声道"_s}) {
+        SettingsStore().setValue(u"param/layout"_s, stored);
+        m_window.reset();
+        makeWindow();
+        EXPECT_EQ(m_window->choices().channelCount, 4) << qPrintable(stored);
+    }
+}
+
+TEST_F(Params, AnEmptyStoredTextLeavesTheComboAndSaysNothing)
+{
+    SettingsStore().setValue(u"param/mode"_s, u"   "_s);
+    makeWindow();
+    EXPECT_EQ(m_window->choices().mode, u"standard"_s);
+    EXPECT_FALSE(logHas(u"找不到匹配项"_s));
+}
+
+TEST_F(Params, AStoreThatCannotBeReadOrWrittenGivesDefaultsAndNoMessage)
+{
+    makeWindow();
+    m_window->saveParams();
+    const QString usual = takeLog();
+    m_window.reset();
+    qputenv("KELP_SETTINGS_DIR", "/proc/nonexistent/x");
+    ASSERT_TRUE(applySettingsDirOverride());
+    takeLog();
+    makeWindow();
+    m_window->saveParams();
+    EXPECT_EQ(takeLog(), usual);
+    EXPECT_EQ(m_window->choices().mode, u"standard"_s);
+    EXPECT_EQ(m_window->choices().pcmBits, u"24"_s);
+    EXPECT_TRUE(m_window->choices().gapless);
+}
+
+TEST_F(Params, ClosingSavesThem)
+{
+    makeWindow();
+    m_window->widgets().dock->volume->setValue(23);
+    m_window->close();
+    EXPECT_EQ(SettingsStore().value(u"param/vol"_s).toInt(), 23);
+}
+
 TEST_F(Params, HarmonicsNeedATier)
 {
     {
@@ -120,6 +163,8 @@ TEST_F(Params, HarmonicsNeedATier)
     makeWindow();
     EXPECT_FALSE(m_window->engineControls().keepHarmonics->isChecked());
     EXPECT_FALSE(m_window->engineControls().keepHarmonics->isEnabled());
+    m_window->engineControls().denoiseTier->setCurrentIndex(1);
+    EXPECT_TRUE(m_window->engineControls().keepHarmonics->isEnabled());
 }
 
 TEST_F(Params, ARestoredVolumeIsNoTouch)

@@ -223,6 +223,20 @@ TEST(CoverAccent, TheHueIsTakenAndTheRestIsBroughtIntoRange)
     }
 }
 
+TEST(CoverAccent, APixelCountsFromItsLimitsOn)
+{
+    struct Case
+    {
+        int saturation, value;
+        bool counts;
+    };
+    for (const Case &c :
+         {Case{45, 180, true}, Case{44, 180, false}, Case{255, 180, true}, Case{200, 45, true},
+          Case{200, 44, false}, Case{200, 250, true}, Case{200, 251, false}})
+        EXPECT_EQ(dominantColour(plain(QColor::fromHsv(200, c.saturation, c.value))).has_value(), c.counts)
+            << c.saturation << ' ' << c.value;
+}
+
 TEST(CoverAccent, WhatIsGreyOrNearlyBlackCountsForNothing)
 {
     QImage cover = plain(Qt::black);
