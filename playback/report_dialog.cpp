@@ -46,6 +46,9 @@ ReportDialog::ReportDialog(QWidget *parent)
 
 void ReportDialog::append(const QStringList &lines)
 {
+    m_lines += lines;
+    if (m_lines.size() > mostLines)
+        m_lines.remove(0, m_lines.size() - mostLines);
     m_view->setUpdatesEnabled(false);
     for (const QString &line : lines) {
         if (const QString html = chainReportHtml(line); !html.isEmpty())
@@ -54,10 +57,4 @@ void ReportDialog::append(const QStringList &lines)
             m_view->appendPlainText(line);
     }
     m_view->setUpdatesEnabled(true);
-}
-
-QStringList ReportDialog::lines() const
-{
-    const QString text = m_view->toPlainText();
-    return text.isEmpty() ? QStringList() : text.split(u'\n');
 }

@@ -18,8 +18,8 @@ public:
 
     /// Appends a block; lines that would stand as a warning in the panel are printed red.
     void append(const QStringList &lines);
-    /// All that is shown.
-    QStringList lines() const;
+    /// All that is shown, as it came: rich text would join runs of blanks.
+    const QStringList &lines() const { return m_lines; }
 
 Q_SIGNALS:
     void saveRequested();
@@ -28,4 +28,5 @@ Q_SIGNALS:
 
 private:
     QPlainTextEdit *m_view;
+    QStringList m_lines; ///< the newest, as many as the view holds
 };

@@ -21,6 +21,18 @@ TEST(RowOrder, WithoutOneTheSelectionCountsUnlessSomethingPlays)
     EXPECT_EQ(settleStartRow({-1, false, -1, 1, -1, 3}), 1);
 }
 
+TEST(RowOrder, TheMiniCoverLeadsToWhatPlaysElseToTheChosenRow)
+{
+    struct Case
+    {
+        ShownRowFacts facts;
+        int row;
+    };
+    for (const Case &c : {Case{{true, 3, 1}, 3}, Case{{false, 3, 1}, 1}, Case{{false, 3, -1}, 3},
+                          Case{{true, -1, 1}, -1}, Case{{false, -1, -1}, -1}})
+        EXPECT_EQ(rowToShow(c.facts), c.row);
+}
+
 TEST(RowOrder, ARowOutsideTheListFallsBack)
 {
     EXPECT_EQ(settleStartRow({7, false, -1, -1, 1, 3}), 1);

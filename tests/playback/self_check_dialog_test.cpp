@@ -131,6 +131,20 @@ TEST(ReportDialogTest, WarningsAreRed)
     EXPECT_TRUE(view->updatesEnabled());
 }
 
+TEST(ReportDialogTest, LinesAreKeptAsTheEngineWroteThem)
+{
+    ReportDialog dialog;
+    // Shown as rich text, a run of blanks would be one.
+    const QStringList lines = {u"underruns:   12  in a row"_s, u"dsp:   none"_s, QString(),
+                               u"chain: a & b"_s};
+    dialog.append(lines);
+    EXPECT_EQ(dialog.lines(), lines);
+    for (int i = 0; i < 5; ++i)
+        dialog.append(QStringList(5000, u"x"_s));
+    EXPECT_EQ(dialog.lines().size(), 20000) << "the oldest give way";
+    EXPECT_EQ(dialog.lines().first(), u"x"_s);
+}
+
 } // namespace
 
 int main(int argc, char **argv)
