@@ -1,8 +1,31 @@
-// The readers of tags within a head, and of headers, each on the same bytes, whatever these begin with.
+// The readers of tags within a head, and of headers, each on the same bytes, whatever these begin with; and
+// the quick searches against plain ones.
 
+#include "tags/byte_scan.h"
 #include "tags/head_readers.h"
+#include "tests/tags/naive_scan.h"
 
 #include <cstdlib>
+
+namespace {
+
+void compareSearches(ByteView bytes)
+{
+    const uint64_t from = bytes.at(0);
+    for (const std::string_view word : {"ID3", "APETAGEX", "=="})
+        if (findWord(bytes, word, from) != tags_test::naiveFind(bytes.text(), word, from) ||
+            findLastWord(bytes, word, from) != tags_test::naiveFindLast(bytes.text(), word, from))
+            std::abort();
+    AudioFileInfo plain;
+    tags_test::naiveBareText(bytes.text(), plain);
+    AudioFileInfo info;
+    LazyBytes head(bytes);
+    scanBareText(head, info);
+    if (info != plain)
+        std::abort();
+}
+
+} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
@@ -20,5 +43,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
         AudioFileInfo info;
         (void)read(head, info);
     }
+    compareSearches(bytes);
     return 0;
 }

@@ -40,16 +40,26 @@ void fill(std::string &field, ByteView text)
         field = upToNul(text.text());
 }
 
+/// From the head as far as that is read: a file with its texts in front costs no further call to the system.
+size_t readAt(const FileReader &file, const LazyBytes &head, uint64_t offset, std::span<uint8_t> bytes)
+{
+    const ByteView loaded = head.loaded();
+    if (!loaded.has(offset, bytes.size()))
+        return file.readAt(offset, bytes);
+    std::copy_n(loaded.data() + offset, bytes.size(), bytes.begin());
+    return bytes.size();
+}
+
 } // namespace
 
-void readAiffTexts(const FileReader &file, AudioFileInfo &info)
+void readAiffTexts(const FileReader &file, const LazyBytes &head, AudioFileInfo &info)
 {
     if (file.size() < fewestBytes)
         return;
     uint64_t at = firstChunk;
     for (int count = 0; count < mostChunks && at + headerBytes <= file.size(); ++count) {
         std::array<uint8_t, headerBytes> bytes{};
-        if (file.readAt(at, bytes) < bytes.size())
+        if (readAt(file, head, at, bytes) < bytes.size())
             return;
         const ByteView header(bytes);
         const uint64_t size = header.big32(4);
@@ -57,7 +67,7 @@ void readAiffTexts(const FileReader &file, AudioFileInfo &info)
         if (known && size >= 1 && size <= longestText) {
             std::array<uint8_t, longestText> text; // NOLINT: filled below
             const std::span<uint8_t> room(text.data(), static_cast<size_t>(size));
-            fill(info.*known->field, ByteView(room.first(file.readAt(at + headerBytes, room))));
+            fill(info.*known->field, ByteView(room.first(readAt(file, head, at + headerBytes, room))));
         }
         at += headerBytes + size + size % 2;
     }

@@ -43,13 +43,9 @@ constexpr std::array<Item, 19> items{{
 
 std::optional<uint64_t> findFooter(ByteView bytes)
 {
-    // The last one: it is looked for from the end backwards, and this walk is the faster way to say so.
     const uint64_t nearest = bytes.size() > searchBytes ? bytes.size() - searchBytes : 1;
-    const ByteView range = bytes.slice(0, bytes.size() - headerBytes + magic.size());
-    std::optional<uint64_t> last;
-    for (auto at = findWord(range, magic, nearest); at; at = findWord(range, magic, *at + 1))
-        last = at;
-    return last;
+    // The last one is meant, since it is looked for from the end backwards.
+    return findLastWord(bytes.slice(0, bytes.size() - headerBytes + magic.size()), magic, nearest);
 }
 
 void storeItem(std::string_view key, std::string_view value, AudioFileInfo &info)

@@ -92,10 +92,11 @@ bool readAudioFileInfo(AudioFileInfo &info, const std::string &path)
     info = AudioFileInfo();
     info.dataSize = static_cast<uint32_t>(std::min<uint64_t>(file.size(), UINT32_MAX));
     if (head.first(4).holds("FORM"))
-        readAiffTexts(file, info);
+        readAiffTexts(file, head, info);
 
     if (file.size() > head.size() + tailSlack) {
-        LazyBytes tail(file, file.size() - length, room.subspan(bufferBytes, length));
+        // A tag with a picture fills much of the tail, and then what lies behind its texts is not read.
+        LazyBytes tail(file, file.size() - length, room.subspan(bufferBytes, length), bufferBytes / 2);
         readTags(head, &tail, info);
     } else {
         readTags(head, nullptr, info);

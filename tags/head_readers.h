@@ -29,7 +29,7 @@ void readApeTag(LazyBytes &bytes, AudioFileInfo &info);
 void scanBareText(LazyBytes &bytes, AudioFileInfo &info);
 
 /// The text chunks of an AIFF file, wherever they stand in it.
-void readAiffTexts(const FileReader &file, AudioFileInfo &info);
+void readAiffTexts(const FileReader &file, const LazyBytes &head, AudioFileInfo &info);
 
 // ── headers: whether the format was understood ──
 

@@ -3,23 +3,18 @@
 #include "platform/file_reader.h"
 #include "tags/byte_scan.h"
 
-namespace {
-
-/// What is read at first and what every further reading is rounded up to.
-constexpr uint64_t pageBytes = 4096;
-
-} // namespace
-
 LazyBytes::LazyBytes(ByteView bytes)
     : m_size(bytes.size())
     , m_loaded(bytes)
 {
 }
 
-LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer)
+LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer,
+                     uint64_t firstBytes)
     : m_file(&file)
     , m_offset(offset)
     , m_size(buffer.size())
+    , m_firstBytes(firstBytes)
     , m_buffer(buffer)
 {
 }
@@ -41,7 +36,7 @@ void LazyBytes::load(uint64_t count)
 std::optional<uint64_t> LazyBytes::find(std::string_view word)
 {
     uint64_t from = 0;
-    for (uint64_t reach = std::min(pageBytes, m_size);;) {
+    for (uint64_t reach = std::min(std::max(m_firstBytes, m_loaded.size()), m_size);;) {
         const ByteView bytes = first(reach);
         if (const std::optional<uint64_t> hit = findWord(bytes, word, from))
             return hit;

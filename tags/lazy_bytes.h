@@ -14,7 +14,9 @@ public:
     /// Bytes that are there already and outlive this.
     explicit LazyBytes(ByteView bytes);
     /// A range within the file, from offset on and as long as the buffer. Both outlive this.
-    LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer);
+    /// \param firstBytes what a search reads before it reads the rest
+    LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer,
+              uint64_t firstBytes = pageBytes);
 
     uint64_t size() const { return m_size; }
     /// The first count bytes, or all if there are fewer. Views handed out stay valid.
@@ -25,6 +27,8 @@ public:
         return m_loaded.slice(0, count);
     }
     ByteView all() { return first(m_size); }
+    /// What has been read so far.
+    ByteView loaded() const { return m_loaded; }
     /// Bytes from offset on; what lies before them is read too.
     ByteView slice(uint64_t offset, uint64_t count)
     {
@@ -36,11 +40,15 @@ public:
     std::optional<uint64_t> find(std::string_view word);
 
 private:
+    /// What is read at first and what every further reading is rounded up to.
+    static constexpr uint64_t pageBytes = 4096;
+
     void load(uint64_t count);
 
     const FileReader *m_file = nullptr;
     uint64_t m_offset = 0;
     uint64_t m_size = 0;
+    uint64_t m_firstBytes = pageBytes;
     std::span<uint8_t> m_buffer;
     ByteView m_loaded;
 };
