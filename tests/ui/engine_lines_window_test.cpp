@@ -133,6 +133,43 @@ TEST_F(EngineLines, ARefusalIsNotedUntilADeviceOpens)
     EXPECT_TRUE(devices.lastMissingDevice.isEmpty());
 }
 
+TEST_F(EngineLines, APercentLineLeavesThePositionAlone)
+{
+    say(u"PG 10 12 120"_s);
+    const auto shown = [this] {
+        for (const QLabel *label : m_window->findChildren<QLabel *>()) {
+            if (label->accessibleName() == u"位置"_s)
+                return label->text();
+        }
+        return QString();
+    };
+    ASSERT_EQ(shown(), u"0:12"_s);
+    say(u"Progress: 37.5%"_s);
+    EXPECT_EQ(WindowInspector::progress(*m_window).progressPercent, 37.5);
+    EXPECT_EQ(WindowInspector::progress(*m_window).lastPosSec, 12.);
+    EXPECT_EQ(shown(), u"0:12"_s);
+    EXPECT_TRUE(logHas(u"进度 30%"_s));
+}
+
+TEST_F(EngineLines, ASourcesDepthGoesToTheLampAndItsModeStays)
+{
+    const BitsLed *lamp = m_window->widgets().instruments->bits();
+    say(u"volume: applied on the DEVICE, on a 24 bit device"_s);
+    EXPECT_EQ(lamp->bits(), 24);
+    const int mode = lamp->state();
+    say(u"SRC 44100 16 2 flac 0 60"_s);
+    EXPECT_EQ(lamp->bits(), 16);
+    EXPECT_EQ(lamp->state(), mode);
+}
+
+TEST_F(EngineLines, ADsdSourceLeavesTheLampAlone)
+{
+    const BitsLed *lamp = m_window->widgets().instruments->bits();
+    say(u"volume: applied on the DEVICE, on a 24 bit device"_s);
+    say(u"SRC 2822400 1 2 dsd 0 60"_s);
+    EXPECT_EQ(lamp->bits(), 24);
+}
+
 TEST_F(EngineLines, AWarningIsAnErrorLineAndStandsInTheStatusLine)
 {
     say(u"WARN underrun"_s);
