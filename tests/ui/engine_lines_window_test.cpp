@@ -211,6 +211,22 @@ TEST_F(EngineLines, TheSignalIsShownInWords)
     EXPECT_FALSE(signal.bitsToolTip.isEmpty());
 }
 
+TEST_F(EngineLines, TheChainsLampShowsTheEnginesLineAsItsTip)
+{
+    const auto *card = m_window->findChild<QFrame *>(u"vesperChainCard"_s);
+    ASSERT_NE(card, nullptr);
+    say(u"SRC 44100 16 2 flac 0 60"_s);
+    say(u"bit-perfect: YES: nothing changes a bit"_s);
+    say(u"chain: clean <all of it>"_s);
+    EXPECT_TRUE(card->toolTip().endsWith(u"<br>chain: clean &lt;all of it&gt;"_s))
+        << qPrintable(card->toolTip());
+    say(u"chain: OS mixer"_s);
+    EXPECT_TRUE(card->toolTip().endsWith(u"<br>chain: OS mixer"_s)) << qPrintable(card->toolTip());
+    const auto *lamp = m_window->findChild<QFrame *>(u"vesperChainLamp"_s);
+    ASSERT_NE(lamp, nullptr);
+    EXPECT_EQ(lamp->property("lamp").toString(), u"warn"_s);
+}
+
 TEST_F(EngineLines, AChainBlockIsLoggedOnceAndKept)
 {
     for (const QString &line : {u"SIGNAL CHAIN BEGIN"_s, u"speed: 1.00x"_s, u"SIGNAL CHAIN END"_s})
