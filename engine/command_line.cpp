@@ -83,9 +83,9 @@ private:
             add("-dsp-plugins-on"_L1);
         if (m_in.prefetchDecode)
             add("-prefetch"_L1, onOff(true));
-        if (m_in.vizMode & 1)
+        if (m_in.vizMode & vizBit::spectrum)
             add("-spectrum"_L1, onOff(true));
-        if (m_in.vizMode & 2)
+        if (m_in.vizMode & vizBit::scope)
             add("-scope"_L1, onOff(true));
         if (m_in.startSec > 0.5 && std::isfinite(m_in.startSec))
             add("-start"_L1, QString::number(m_in.startSec, 'f', 3));
@@ -239,6 +239,18 @@ private:
 EngineArgsResult buildEngineArgs(const EngineArgsInput &input)
 {
     return Builder(input).build();
+}
+
+QStringList vizModeLines(int former, int wanted)
+{
+    QStringList lines;
+    const auto add = [&](const QString &what, int bit) {
+        if ((former ^ wanted) & bit)
+            lines.append(what + u' ' + onOff(wanted & bit));
+    };
+    add(u"spectrum"_s, vizBit::spectrum);
+    add(u"scope"_s, vizBit::scope);
+    return lines;
 }
 
 QString printableCommand(const QString &program, const QStringList &args)

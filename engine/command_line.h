@@ -8,6 +8,12 @@
 #include <QStringList>
 #include <QtGlobal>
 
+/// Bits of the display mode: the frames that the engine is asked for.
+namespace vizBit {
+inline constexpr int spectrum = 1;
+inline constexpr int scope = 2;
+} // namespace vizBit
+
 /// What the window and the settings file hold at the moment of a session's start. Every text is a code of
 /// the engine's, never a translated word.
 struct EngineArgsInput
@@ -24,7 +30,7 @@ struct EngineArgsInput
 
     bool dspPlugins = false;
     bool prefetchDecode = false;
-    int vizMode = 1;             ///< bit 0 spectrum, bit 1 scope
+    int vizMode = 1;             ///< a sum of vizBit
     bool effectsAudible = false; ///< the answer of effectsWantPcm()
 
     // The devices.
@@ -85,6 +91,10 @@ struct EngineArgsResult
 
 /// The arguments in their fixed order, one list entry each, and nothing quoted.
 EngineArgsResult buildEngineArgs(const EngineArgsInput &input);
+
+/// The control lines that bring a running session from one display mode to another: a session reads its
+/// command line only once. \param former as EngineArgsInput::vizMode, likewise \param wanted
+QStringList vizModeLines(int former, int wanted);
 
 /// The same line for people: joined by blanks, what holds a blank in quotation marks.
 QString printableCommand(const QString &program, const QStringList &args);

@@ -29,6 +29,7 @@ ChainLampView chainLamp(const ChainLampFacts &facts)
         view.word = u"—"_s;
         return view;
     }
+    view.line = facts.chainLine;
     const bool saysNo = verdict.contains("NO"_L1);
     const bool saysYes = !saysNo && verdict.startsWith("YES"_L1);
     const bool objects = (!verdict.isEmpty() && !saysYes) ||

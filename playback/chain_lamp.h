@@ -21,6 +21,7 @@ struct ChainLampFacts
     bool playing = false;
     QMap<QString, QString> labels;   ///< from the engine's label to its value
     ChainText chain;                 ///< of its "chain:" line; empty while there is none
+    QString chainLine;               ///< that line
     std::optional<bool> checkPassed; ///< of the last self-check of this track
 };
 
@@ -29,6 +30,7 @@ struct ChainLampView
     ChainLamp lamp = ChainLamp::Off;
     QString word;     ///< translated; never claims more than the lamp
     QString sentence; ///< translated but for the engine's words: why the lamp is not green
+    QString line;     ///< what the engine said of the chain, word for word; empty while it said nothing
 
     bool operator==(const ChainLampView &) const = default;
 };

@@ -71,7 +71,7 @@ ChainPanel::ChainPanel(QWidget *parent)
     column->addWidget(m_rows, 1);
     column->addStretch(0);
     m_rows->hide();
-    showVerdict({ChainLamp::Off, u"—"_s, {}});
+    showVerdict({ChainLamp::Off, u"—"_s, {}, {}});
 }
 
 void ChainPanel::showVerdict(const ChainLampView &view)
@@ -79,7 +79,12 @@ void ChainPanel::showVerdict(const ChainLampView &view)
     static constexpr std::array names = {"off"_L1, "good"_L1, "warn"_L1};
     repolish(m_lamp, "lamp", QString(names[static_cast<std::size_t>(view.lamp)]));
     m_word->setText(view.word);
-    m_card->setToolTip(view.sentence.toHtmlEscaped());
+    QStringList tip;
+    for (const QString &text : {view.sentence, view.line}) {
+        if (!text.isEmpty())
+            tip.append(text.toHtmlEscaped());
+    }
+    m_card->setToolTip(tip.join("<br>"_L1));
     m_word->setAccessibleDescription(view.sentence);
     fitWord();
 }

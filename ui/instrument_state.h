@@ -23,6 +23,10 @@ struct InstrumentState
     QTimer *clipRelease = nullptr; ///< lets the red of a clip go
     qint64 clipUntil = 0;          ///< on `clock`, in ms; one for both channels
 
+    /// What the listener has switched off, a sum of vizBit: frames of it that are still on their way come to
+    /// nothing.
+    int unwanted = 0;
+
     LevelLine levels;
     std::optional<SpectrumFrame> spectrum; ///< none while there is no PCM to show
     std::optional<WaveformFrame> scope;    ///< likewise

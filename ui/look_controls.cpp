@@ -1,5 +1,7 @@
 #include "ui/look_controls.h"
 
+#include "engine/command_line.h"
+
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGridLayout>
@@ -17,8 +19,6 @@ constexpr int controlWidth = 168;
 constexpr int gap = 12;
 constexpr int rowGap = 8;
 constexpr int mostTypedWidth = 9999;
-constexpr int spectrumBit = 1;
-constexpr int scopeBit = 2;
 
 void explain(QWidget *control, const QString &tip)
 {
@@ -97,8 +97,8 @@ void LookControls::showChoices(const LookChoices &choices)
     sideWidth->setValue(choices.sideWidth);
     coverAccent->setChecked(choices.coverAccent);
     reduceMotion->setChecked(choices.reduceMotion);
-    spectrum->setChecked(choices.vizMode & spectrumBit);
-    scope->setChecked(choices.vizMode & scopeBit);
+    spectrum->setChecked(choices.vizMode & vizBit::spectrum);
+    scope->setChecked(choices.vizMode & vizBit::scope);
 }
 
 LookChoices LookControls::choices() const
@@ -108,6 +108,7 @@ LookChoices LookControls::choices() const
     choices.coverAccent = coverAccent->isChecked();
     choices.reduceMotion = reduceMotion->isChecked();
     choices.sideWidth = sideWidth->value();
-    choices.vizMode = (spectrum->isChecked() ? spectrumBit : 0) | (scope->isChecked() ? scopeBit : 0);
+    choices.vizMode =
+        (spectrum->isChecked() ? vizBit::spectrum : 0) | (scope->isChecked() ? vizBit::scope : 0);
     return choices;
 }

@@ -1,6 +1,7 @@
 // What the engine says, and what it measures, on its way to where it is shown.
 #include "ui/window/player_gui_window.h"
 
+#include "engine/command_line.h"
 #include "engine/line_classifier.h"
 #include "engine/telemetry_mailbox.h"
 #include "engine/window/line_actions.h"
@@ -115,6 +116,8 @@ void PlayerGuiWindow::refreshLevelText()
 
 void PlayerGuiWindow::showSpectrum(const SpectrumFrame &frame)
 {
+    if (m_instruments.unwanted & vizBit::spectrum)
+        return;
     m_instruments.spectrum = frame;
     showSpectrumFrame();
 }

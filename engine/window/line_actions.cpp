@@ -1,5 +1,6 @@
 #include "engine/window/line_actions.h"
 
+#include "engine/command_line.h"
 #include "ui/display_panel.h"
 #include "ui/instrument_panel.h"
 #include "ui/progress_dial.h"
@@ -127,6 +128,8 @@ void LineActions::operator()(const ClearSpectrum &) const
 
 void LineActions::operator()(const ShowScope &effect) const
 {
+    if (window.m_instruments.unwanted & vizBit::scope)
+        return;
     window.m_instruments.scope = effect.frame;
     window.showScopeFrame();
 }

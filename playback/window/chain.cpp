@@ -75,6 +75,7 @@ ChainLampView PlayerGuiWindow::chainLampNow() const
     facts.playing = m_start.uiPlaying;
     facts.labels = currentChainLabels(m_lines.chain);
     facts.chain = m_signal.chain;
+    facts.chainLine = m_signal.chainToolTip;
     facts.checkPassed = m_chain.check.passedFor(m_lines.chain.track);
     return chainLamp(facts);
 }

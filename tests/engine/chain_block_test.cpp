@@ -59,6 +59,17 @@ TEST(ChainBlock, EndlessBlockStaysBounded)
     EXPECT_EQ(block.chainBuffer.first(), u"0"_s);
 }
 
+TEST(ChainLabels, TheTwelveStandInTheirOrder)
+{
+    QStringList names;
+    for (const QLatin1StringView label : chainLabelNames)
+        names.append(label);
+    EXPECT_EQ(names,
+              (QStringList{u"source:"_s, u"source format:"_s, u"device requested:"_s, u"output backend:"_s,
+                           u"output format:"_s, u"output latency:"_s, u"dsp:"_s, u"speed:"_s, u"volume:"_s,
+                           u"bit-perfect:"_s, u"chain:"_s, u"underruns:"_s}));
+}
+
 TEST(ChainLabels, EachOfTheTwelveIsStoredUnderItsName)
 {
     ChainBlock block;

@@ -372,6 +372,15 @@ TEST(CommandLine, BridgedCrossoverWarnsBelowTwiceTheChannels)
     EXPECT_TRUE(notices[0].text.contains(u"需要 4 台"_s));
 }
 
+TEST(CommandLine, ARunningSessionIsToldOfTheFramesThatChanged)
+{
+    EXPECT_EQ(vizModeLines(1, 3), QStringList{u"scope on"_s});
+    EXPECT_EQ(vizModeLines(3, 1), QStringList{u"scope off"_s});
+    EXPECT_EQ(vizModeLines(0, 1), QStringList{u"spectrum on"_s});
+    EXPECT_EQ(vizModeLines(1, 2), (QStringList{u"spectrum off"_s, u"scope on"_s}));
+    EXPECT_TRUE(vizModeLines(2, 2).isEmpty());
+}
+
 TEST(CommandLine, ListHoldsNoQuotesButThePrintedCopyDoes)
 {
     EngineArgsInput input = plainInput();

@@ -27,6 +27,26 @@ TEST(ControlReport, WithoutASessionTheLineIsDropped)
     EXPECT_TRUE(report.logText.endsWith(u"load /a -> noproc"_s)) << qPrintable(report.logText);
 }
 
+TEST(ControlReport, ASessionThatHasEndedReadsLikeNone)
+{
+    ControlSendFacts facts = sent(-1);
+    facts.queues = true;
+    ControlSendReport report = controlSendReport(facts);
+    EXPECT_FALSE(report.taken);
+    EXPECT_FALSE(report.counts);
+    EXPECT_TRUE(report.logText.endsWith(u"load /a -> noproc"_s)) << qPrintable(report.logText);
+    facts.sessionError = u"torn down"_s;
+    report = controlSendReport(facts);
+    EXPECT_TRUE(report.logText.endsWith(u"load /a -> noproc [torn down]"_s)) << qPrintable(report.logText);
+}
+
+TEST(ControlReport, AnErrorThatIsOverIsNotRepeatedBehindALineThatWasTaken)
+{
+    ControlSendFacts facts = sent(8);
+    facts.sessionError = u"of an earlier line"_s;
+    EXPECT_TRUE(controlSendReport(facts).logText.endsWith(u" -> 8B"_s));
+}
+
 TEST(ControlReport, AQueueingSessionJoinsTheAccount)
 {
     ControlSendFacts facts = sent(8);

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QFileInfo>
@@ -87,6 +88,32 @@ TEST_F(EngineProbe, ATimeOutEndsTheChildAndTellsSo)
     EXPECT_TRUE(log[0].text.startsWith(u"探测超时（100 ms）：-test hang /nowhere"_s));
 }
 
+TEST_F(EngineProbe, ATimeOutLeavesNoProcessBehind)
+{
+    const QTemporaryDir scratch;
+    run({u"-test"_s, u"hang"_s, scratch.path()}, 100);
+    for (const QString &pid : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
+        QFile command(u"/proc/%1/cmdline"_s.arg(pid));
+        const bool isOpen = command.open(QIODevice::ReadOnly);
+        EXPECT_FALSE(isOpen && command.readAll().contains(QFile::encodeName(scratch.path())))
+            << qPrintable(pid);
+    }
+}
+
+TEST_F(EngineProbe, WithoutAKnownEngineTheProgramAsksItself)
+{
+    // Its own program: of this test it is the one that lists its tests.
+    const PlayerProbeResult result = runEngineProbe({}, {u"--gtest_list_tests"_s}, 60000, {});
+    EXPECT_EQ(result.rc, 0);
+    EXPECT_TRUE(result.text.contains(u"WithoutAKnownEngineTheProgramAsksItself"_s));
+}
+
+TEST_F(EngineProbe, AnEmptyHangVariableIsNone)
+{
+    const Variable hang("KELP_GUI_PROBE_HANG", "");
+    EXPECT_EQ(run({u"-list"_s}).rc, 0);
+}
+
 TEST_F(EngineProbe, TheHangSelfTestTimesOutAfterItsOwnTime)
 {
     const Variable hang("KELP_GUI_PROBE_HANG", "1");
@@ -156,6 +183,7 @@ TEST(InProcessProbe, ShowsTheEngineTheNameItIsGiven)
 
 TEST(InProcessProbe, AnAnswerOfAMebibyteIsCutAtTheBuffer)
 {
+    EXPECT_EQ(runInProcessProbe(engineLibrary(), {}, {u"-fill"_s, u"1048574"_s}, {}).text.size(), 1048574);
     EXPECT_EQ(runInProcessProbe(engineLibrary(), {}, {u"-fill"_s, u"1048575"_s}, {}).text.size(), 1048575);
     EXPECT_EQ(runInProcessProbe(engineLibrary(), {}, {u"-fill"_s, u"1048576"_s}, {}).text.size(), 1048575);
     EXPECT_EQ(runInProcessProbe(engineLibrary(), {}, {u"-fill"_s, u"2000000"_s}, {}).text.size(), 1048575);

@@ -1,49 +1,13 @@
-#include "engine/line_classifier.h"
+// What is kept of every line, and the order of the steps.
+#include "engine/line_support.h"
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 using namespace line_effect;
+using namespace line_support;
 
 namespace {
-
-/// An engine whose lines are read one after the other.
-struct Engine
-{
-    EngineLineState state;
-    LineContext context;
-
-    LineEffects say(const QString &line, bool isStderr = false)
-    {
-        return classify(line, isStderr, state, context).effects;
-    }
-};
-
-template<typename Effect>
-std::vector<Effect> all(const LineEffects &effects)
-{
-    std::vector<Effect> found;
-    for (const LineEffect &effect : effects) {
-        if (const auto *one = std::get_if<Effect>(&effect))
-            found.push_back(*one);
-    }
-    return found;
-}
-
-template<typename Effect>
-bool has(const LineEffects &effects)
-{
-    return !all<Effect>(effects).empty();
-}
-
-/// Texts of the log lines, errors marked by a leading "!".
-QStringList logged(const LineEffects &effects)
-{
-    QStringList lines;
-    for (const LogLine &line : all<LogLine>(effects))
-        lines.append(line.isError ? u'!' + line.text : line.text);
-    return lines;
-}
 
 TEST(Classify, TextIsTrimmedAndFreeOfCarriageReturns)
 {
@@ -144,14 +108,6 @@ TEST(Telemetry, EachKeyHasItsOwnCount)
                                                                   {u"COVER"_s, 1}}));
 }
 
-TEST(Classify, DecodeFilterIsReadFromErrorsToo)
-{
-    Engine engine;
-    const auto effects = engine.say(u"[x]PDM2PCM filter DSD64 steep auto"_s, true);
-    EXPECT_EQ(all<ShowDecodeFilter>(effects).at(0).filter, (DecodeFilterLine{u"steep"_s, true}));
-    EXPECT_EQ(logged(effects), QStringList{u"![x]PDM2PCM filter DSD64 steep auto"_s});
-}
-
 TEST(Classify, ErrorOutputIsLoggedAndEnds)
 {
     Engine engine;
@@ -176,6 +132,72 @@ TEST(Classify, WarningsAreShownAndGoOn)
     EXPECT_FALSE(has<ShowStatus>(engine.say(u"WARNING"_s)));
 }
 
+struct Unreadable
+{
+    QString line;
+    bool ends; ///< the form takes its line whether or not it parses
+};
+
+TEST(Classify, ALineThatDoesNotParseIsDroppedAndStillRemembered)
+{
+    const Unreadable lines[] = {{u"SCAN a b c"_s, true},
+                                {u"SRC 44100 16 2 wav"_s, false},
+                                {u"x LVL -1"_s, false},
+                                {u"x output latency: soon"_s, false},
+                                {u"WVF 44100 300 00"_s, true},
+                                {u"x SPC 44100 0 00"_s, true},
+                                {u"[player] PG half 1 2"_s, true},
+                                {u"SEG 0 1 last"_s, true},
+                                {u"Progress: half"_s, true}};
+    for (const auto &[line, ends] : lines) {
+        Engine engine;
+        const auto effects = engine.say(line);
+        EXPECT_EQ(engine.state.lastEngineLine, line);
+        EXPECT_EQ(logged(effects), ends ? QStringList() : QStringList{line});
+        EXPECT_EQ(effects.size(), all<LogFileOnly>(effects).size() + (ends ? 0U : 1U)) << qPrintable(line);
+    }
+}
+
+TEST(Classify, AnEmptyLineGoesToTheHostCopyAndNowhereElseButTheLog)
+{
+    Engine engine;
+    engine.context.hostCopyOpen = true;
+    const auto effects = engine.say(u" \r\n"_s);
+    ASSERT_EQ(effects.size(), 2U);
+    EXPECT_EQ(all<WriteHostCopy>(effects).at(0).line, u" \r\n"_s);
+    EXPECT_TRUE(engine.state.lastEngineLine.isEmpty());
+}
+
+TEST(Classify, ATrackStartResetsItsOwnFlagsAndNothingElse)
+{
+    Engine engine;
+    for (const QString &line :
+         {u"SRC 96000 24 2 flac 0 61"_s, u"PG 1 1 61"_s, u"WVF 44100 1 00ff"_s, u"output latency: 20"_s,
+          u"volume: on a 24 bit device"_s, u"SIGNAL CHAIN BEGIN"_s, u"chain: clean"_s})
+        engine.say(line);
+    EXPECT_TRUE(engine.state.firstPgSeen);
+    EXPECT_TRUE(engine.state.firstScopeFrameSeen);
+    engine.state.resetForTrack();
+    EXPECT_FALSE(engine.state.firstPgSeen);
+    EXPECT_FALSE(engine.state.firstScopeFrameSeen);
+    EXPECT_EQ(engine.state.telemetryCount.value(u"PG"_s), 1);
+    EXPECT_EQ(engine.state.chain.chainBuffer, QStringList{u"chain: clean"_s});
+    EXPECT_EQ(engine.state.chain.chainLabels.value(u"chain:"_s), u"clean"_s);
+    EXPECT_EQ(engine.state.lastEngineLine, u"chain: clean"_s);
+    EXPECT_EQ(engine.state.outputLatencyMs, 20.);
+    EXPECT_EQ(engine.state.deviceBits, 24);
+}
+
+TEST(Classify, ErrorOutputIsCountedAsTelemetryBeforeItEnds)
+{
+    Engine engine;
+    const auto effects = engine.say(u"LVL -1 -1"_s, true);
+    EXPECT_TRUE(has<StopNoAudioTimer>(effects));
+    EXPECT_FALSE(has<ShowLevels>(effects));
+    EXPECT_EQ(engine.state.telemetryCount.value(u"LVL"_s), 1);
+    EXPECT_EQ(logged(effects), QStringList{u"!LVL -1 -1"_s});
+}
+
 TEST(Classify, ThePanelMayKeepALine)
 {
     Engine engine;
@@ -189,264 +211,6 @@ TEST(Classify, ThePanelMayKeepALine)
     EXPECT_EQ(logged(engine.say(u"other"_s)), QStringList{u"other"_s});
     engine.say(u"an error"_s, true);
     EXPECT_EQ(offered, (QStringList{u"fx output latency: 3"_s, u"other"_s}));
-}
-
-TEST(Classify, ScanEndsWhetherItParsesOrNot)
-{
-    Engine engine;
-    const auto effects = engine.say(u"SCAN 12.5 30 240"_s);
-    EXPECT_EQ(all<ShowScan>(effects).at(0).scan, (ScanLine{12.5, 30., 240.}));
-    EXPECT_TRUE(logged(effects).isEmpty());
-    EXPECT_TRUE(logged(engine.say(u"SCAN 0x8889000A"_s)).isEmpty());
-}
-
-TEST(Classify, SourceIsRememberedAndGoesOn)
-{
-    Engine engine;
-    const auto effects = engine.say(u"[x]SRC 96000 24 2 flac 0 61.25"_s);
-    ASSERT_EQ(all<ShowSource>(effects).size(), 1U);
-    EXPECT_EQ(all<ShowSource>(effects)[0].labels, sourceLabels(*engine.state.sourceInfo));
-    EXPECT_EQ(engine.state.sourceInfo->rateHz, 96000);
-    EXPECT_EQ(logged(effects).size(), 1);
-    engine.say(u"SRC nonsense"_s);
-    EXPECT_EQ(engine.state.sourceInfo->rateHz, 96000);
-}
-
-TEST(Classify, WithoutASourceLabelNoSource)
-{
-    Engine engine;
-    engine.context.hasSourceLabel = false;
-    EXPECT_FALSE(has<ShowSource>(engine.say(u"SRC 96000 24 2 flac 0 61.25"_s)));
-    EXPECT_FALSE(engine.state.sourceInfo);
-}
-
-TEST(Levels, BehindATimeStampTheyCountAndBehindALetterTheyDoNot)
-{
-    Engine engine;
-    EXPECT_EQ(all<ShowLevels>(engine.say(u"12:00:00.5 LVL -1.5 -2"_s)).at(0).levels, (LevelLine{-1.5, -2.}));
-    EXPECT_FALSE(has<ShowLevels>(engine.say(u"12:00:00.5xLVL -1.5 -2"_s)));
-}
-
-TEST(Levels, AreDelayedByTheLatencyFromHalfAMillisecondOn)
-{
-    Engine engine;
-    const auto delay = [&] { return all<ShowLevels>(engine.say(u"LVL -1 -1"_s)).at(0).delayMs; };
-    EXPECT_EQ(delay(), 0.);
-    engine.say(u"output latency: 0.4"_s);
-    EXPECT_EQ(delay(), 0.);
-    engine.say(u"output latency: 0.5"_s);
-    EXPECT_EQ(delay(), 0.5);
-    engine.say(u"output latency: 4999.9"_s);
-    EXPECT_EQ(delay(), 4999.9);
-    engine.say(u"output latency: 5000.0"_s);
-    EXPECT_EQ(delay(), 4999.9) << "5000 ms is refused";
-}
-
-TEST(Levels, ALineWithBothUsesTheFormerLatency)
-{
-    Engine engine;
-    const auto effects = engine.say(u"LVL -1 -1 output latency: 20"_s);
-    EXPECT_EQ(all<ShowLevels>(effects).at(0).delayMs, 0.);
-    EXPECT_EQ(engine.state.outputLatencyMs, 20.);
-    EXPECT_EQ(logged(effects), QStringList{u"电平/频谱已按输出延时对齐：20.0 ms"_s});
-}
-
-TEST(Denoise, StatusTexts)
-{
-    Engine engine;
-    const auto status = [&](const QString &line) {
-        const auto found = all<ShowPanelStatus>(engine.say(line));
-        return found.empty() ? QString() : found.at(0).text;
-    };
-    EXPECT_EQ(status(u"[fx] denoise ready"_s), u"噪声样本就绪"_s);
-    EXPECT_EQ(status(u"denoise inactive here"_s), u"本曲无噪声，直接通过"_s);
-    EXPECT_EQ(status(u"denoise bootstrap"_s), u"正在学习噪声（约 1 秒）"_s);
-    EXPECT_EQ(status(u"denoise scan"_s), u"正在学习噪声样本"_s);
-    EXPECT_EQ(status(u"denoise: learning"_s), u"正在学习噪声样本"_s);
-    EXPECT_EQ(status(u"denoise learning"_s), QString());
-    engine.context.hasEffectsPanel = false;
-    EXPECT_EQ(status(u"denoise ready"_s), QString());
-}
-
-TEST(Classify, VerifyLinesEnd)
-{
-    Engine engine;
-    const auto effects = engine.say(u"12:00 verify: volume: unity ok -- fine"_s);
-    EXPECT_EQ(all<ReceiveVerify>(effects).at(0).text, u"verify: volume: unity ok -- fine"_s);
-    EXPECT_FALSE(has<ShowEffectiveBits>(effects));
-    EXPECT_TRUE(logged(effects).isEmpty());
-    EXPECT_FALSE(has<ReceiveVerify>(engine.say(u"xverify: y"_s)));
-}
-
-TEST(Volume, LampTakesTheLineAndTheDevicesDepthStays)
-{
-    Engine engine;
-    auto shown = all<ShowEffectiveBits>(engine.say(u"[x] volume: on a 24 bit device: unity"_s)).at(0);
-    EXPECT_EQ(shown.result.bits, 24);
-    EXPECT_EQ(shown.toolTip, shown.result.text + u"\n[x] volume: on a 24 bit device: unity"_s);
-    shown = all<ShowEffectiveBits>(engine.say(u"volume: unity"_s)).at(0);
-    EXPECT_EQ(shown.result.bits, 24);
-    EXPECT_FALSE(has<ShowEffectiveBits>(engine.say(u"volume: 80 on a 16 bit device"_s)));
-    EXPECT_EQ(engine.state.deviceBits, 16);
-    engine.context.hasBitsLed = false;
-    EXPECT_FALSE(has<ShowEffectiveBits>(engine.say(u"volume: unity"_s)));
-}
-
-TEST(Chain, LampTakesTheLine)
-{
-    Engine engine;
-    const auto shown = all<ShowChainText>(engine.say(u"chain: OS mixer (x)"_s)).at(0);
-    EXPECT_TRUE(shown.result.warn);
-    EXPECT_EQ(shown.toolTip, u"chain: OS mixer (x)"_s);
-    EXPECT_FALSE(has<ShowChainText>(engine.say(u"SIGNAL CHAIN: x"_s)));
-    engine.context.hasChainLed = false;
-    EXPECT_FALSE(has<ShowChainText>(engine.say(u"chain: OS mixer (x)"_s)));
-}
-
-TEST(Scope, FirstFrameOfATrackIsLogged)
-{
-    Engine engine;
-    EXPECT_TRUE(logged(engine.say(u"WVF 44100 257 00"_s)).isEmpty());
-    EXPECT_EQ(logged(engine.say(u"WVF 44100 1 00ff"_s)), QStringList{u"示波器：已收到第一帧（1 个桶）"_s});
-    EXPECT_TRUE(logged(engine.say(u"WVF 44100 1 00ff"_s)).isEmpty());
-    engine.state.resetForTrack();
-    EXPECT_EQ(logged(engine.say(u"WVF 44100 1 00ff"_s)).size(), 1);
-}
-
-TEST(Scope, ChannelTwoIsTheFirstWhenThereIsNone)
-{
-    Engine engine;
-    auto frame = all<ShowScope>(engine.say(u"12:00 WVF 44100 1 00ff"_s)).at(0).frame;
-    EXPECT_EQ(frame.channel2, frame.channel1);
-    frame = all<ShowScope>(engine.say(u"WVF 44100 1 00ff ff00"_s)).at(0).frame;
-    EXPECT_NE(frame.channel2, frame.channel1);
-    EXPECT_EQ(frame.channel2.first.size(), 1U);
-}
-
-TEST(Scope, NoneClearsAndSettingsDoNothing)
-{
-    Engine engine;
-    EXPECT_TRUE(has<ClearScope>(engine.say(u"WVF none"_s)));
-    for (const QString &line : {u"WVF cfg 44100 1 00ff"_s, u"WVF write x"_s, u"[x] WVF bad 0x8889000A"_s}) {
-        const auto effects = engine.say(line);
-        EXPECT_FALSE(has<ClearScope>(effects));
-        EXPECT_FALSE(has<ShowScope>(effects));
-        EXPECT_TRUE(logged(effects).isEmpty());
-    }
-    EXPECT_EQ(logged(engine.say(u"xWVF none"_s)), QStringList{u"xWVF none"_s});
-}
-
-TEST(Spectrum, NoneMeansDsdUnlessAllGoesToDsd)
-{
-    Engine engine;
-    auto effects = engine.say(u"SPC none"_s);
-    EXPECT_TRUE(has<ClearSpectrum>(effects));
-    EXPECT_TRUE(has<ClearScope>(effects));
-    EXPECT_FALSE(all<SetEffectsPath>(effects).at(0).pcmEffectsActive);
-    EXPECT_TRUE(all<SetEffectsPath>(effects).at(0).dsdDirect);
-    EXPECT_FALSE(has<ShowPanelStatus>(effects));
-
-    engine.context.allToDsd = true;
-    effects = engine.say(u"SPC none"_s);
-    EXPECT_FALSE(all<SetEffectsPath>(effects).at(0).pcmEffectsActive);
-    EXPECT_FALSE(all<SetEffectsPath>(effects).at(0).dsdDirect);
-    EXPECT_EQ(all<ShowPanelStatus>(effects).at(0).text, u"DSP 由调制器执行"_s);
-    EXPECT_EQ(logged(effects), QStringList{u"DSP 由调制器执行"_s});
-    EXPECT_TRUE(logged(engine.say(u"SPC none"_s)).isEmpty()) << "said once";
-    engine.say(u"SPC cfg"_s);
-    EXPECT_EQ(logged(engine.say(u"SPC none"_s)).size(), 1);
-}
-
-TEST(Spectrum, WithoutAPanelOnlyTheViewsAreCleared)
-{
-    Engine engine;
-    engine.context.hasEffectsPanel = false;
-    engine.context.allToDsd = true;
-    const auto effects = engine.say(u"SPC none"_s);
-    EXPECT_TRUE(has<ClearSpectrum>(effects));
-    EXPECT_FALSE(has<SetEffectsPath>(effects));
-    EXPECT_TRUE(logged(effects).isEmpty());
-    EXPECT_FALSE(has<SetEffectsPath>(engine.say(u"SPC 44100 1 ff"_s)));
-}
-
-TEST(Spectrum, StatusLinesActOnThePanelAndNotOnTheView)
-{
-    Engine engine;
-    for (const QString &line : {u"SPC cfg 44100 64"_s, u"SPC write"_s, u"12:00 SPC cfg"_s}) {
-        const auto effects = engine.say(line);
-        EXPECT_TRUE(all<SetEffectsPath>(effects).at(0).pcmEffectsActive);
-        EXPECT_FALSE(all<SetEffectsPath>(effects).at(0).dsdDirect);
-        EXPECT_FALSE(has<ShowSpectrum>(effects));
-        EXPECT_FALSE(has<ClearSpectrum>(effects));
-    }
-}
-
-TEST(Spectrum, FramesGoToTheViewAfterTheLatency)
-{
-    Engine engine;
-    auto effects = engine.say(u"SPC 44100 2 00ff"_s);
-    EXPECT_EQ(all<ShowSpectrum>(effects).at(0).delayMs, 0.);
-    EXPECT_EQ(all<ShowSpectrum>(effects).at(0).frame.bandCount, 2);
-    EXPECT_TRUE(all<SetEffectsPath>(effects).at(0).pcmEffectsActive);
-    engine.say(u"output latency: 90"_s);
-    EXPECT_EQ(all<ShowSpectrum>(engine.say(u"SPC 44100 2 00ff"_s)).at(0).delayMs, 90.);
-}
-
-TEST(Spectrum, ABadFrameHasNoEffectOnViewAndPanel)
-{
-    Engine engine;
-    for (const QString &line : {u"SPC 44100 129 "_s + QString(258, u'0'), u"SPC 44100 2 00f"_s, u"SPC ?"_s}) {
-        const auto effects = engine.say(line);
-        EXPECT_FALSE(has<ShowSpectrum>(effects));
-        EXPECT_FALSE(has<SetEffectsPath>(effects));
-        EXPECT_TRUE(logged(effects).isEmpty());
-    }
-}
-
-TEST(Spectrum, ZonesGoToTheView)
-{
-    Engine engine;
-    EXPECT_EQ(all<ShowSpectrumZones>(engine.say(u"SPC zones low=3 nyq=200"_s)).at(0).zones,
-              (SpectrumZones{3, std::nullopt, 0}));
-}
-
-TEST(Progress, ReachesItsFormThroughThePlayersPrefix)
-{
-    Engine engine;
-    const auto effects = engine.say(u"[player] PG 50 12.5 25"_s);
-    EXPECT_EQ(all<ReceiveProgress>(effects).at(0).progress, (ProgressLine{50., 12.5, 25.}));
-    EXPECT_EQ(logged(effects), QStringList{u"收到进度（PG）：已播放 12.5 s / 共 25.0 s"_s});
-}
-
-TEST(Progress, FirstOfATrackIsLoggedAndThreeWordsGiveNoTotal)
-{
-    Engine engine;
-    auto effects = engine.say(u"PG 0 0.04"_s);
-    EXPECT_EQ(all<ReceiveProgress>(effects).at(0).progress.totalSec, -1.);
-    EXPECT_EQ(logged(effects), QStringList{u"收到进度（PG）：已播放 0.0 s / 共 未知 s"_s});
-    EXPECT_TRUE(logged(engine.say(u"PG 1 1 100"_s)).isEmpty());
-    engine.state.resetForTrack();
-    EXPECT_EQ(logged(engine.say(u"PG 1 1 100"_s)).size(), 1);
-}
-
-TEST(Progress, BadOnesAreDroppedWithoutAWord)
-{
-    Engine engine;
-    for (const QString &line : {u"PG 1"_s, u"[player] PG x y z"_s}) {
-        const auto effects = engine.say(line);
-        EXPECT_FALSE(has<ReceiveProgress>(effects));
-        EXPECT_TRUE(logged(effects).isEmpty());
-    }
-    EXPECT_FALSE(engine.state.firstPgSeen);
-}
-
-TEST(Progress, PercentForm)
-{
-    Engine engine;
-    const auto effects = engine.say(u"Progress: 37.5%"_s);
-    EXPECT_EQ(all<UpdatePercent>(effects).at(0).percent, 37.5);
-    EXPECT_TRUE(logged(effects).isEmpty());
-    EXPECT_EQ(logged(engine.say(u"[player] Progress: 37.5%"_s)).size(), 1);
 }
 
 TEST(TrackForms, SegmentAndDoneStandAtTheStart)

@@ -69,6 +69,11 @@ const Case cases[] = {
 };
 INSTANTIATE_TEST_SUITE_P(Variants, AnalysisTexts, testing::ValuesIn(cases));
 
+TEST(TrackAnalysis, TheEngineHasTwoMinutes)
+{
+    EXPECT_EQ(analysisTimeoutMs, 120000);
+}
+
 TEST(TrackAnalysis, EngineThatIsNotThere)
 {
     for (const int rc : {session_code::refused, session_code::couldNotStart}) {

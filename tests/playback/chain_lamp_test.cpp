@@ -26,6 +26,15 @@ TEST(ChainLamp, IsGreenOnlyWithAYesAndACleanChain)
     EXPECT_EQ(view.word, u"位完美"_s);
 }
 
+TEST(ChainLamp, KeepsTheEnginesLineWhileTheTrackPlays)
+{
+    ChainLampFacts f = facts(u"YES: x"_s, u"clean (x)"_s);
+    f.chainLine = u"chain: clean (x)"_s;
+    EXPECT_EQ(chainLamp(f).line, u"chain: clean (x)"_s);
+    f.playing = false;
+    EXPECT_TRUE(chainLamp(f).line.isEmpty());
+}
+
 TEST(ChainLamp, TakesTheWorstOfWhatIsKnown)
 {
     struct Case
@@ -74,7 +83,7 @@ TEST(ChainLamp, IsDarkWhileNothingPlays)
 {
     ChainLampFacts f = facts(u"YES: x"_s, u"clean"_s);
     f.playing = false;
-    EXPECT_EQ(chainLamp(f), (ChainLampView{ChainLamp::Off, u"—"_s, {}}));
+    EXPECT_EQ(chainLamp(f), (ChainLampView{ChainLamp::Off, u"—"_s, {}, {}}));
 }
 
 } // namespace

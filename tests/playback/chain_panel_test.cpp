@@ -125,10 +125,10 @@ TEST_F(ChainPanelTest, TheLampFollows)
 {
     auto *lamp = m_panel.findChild<QFrame *>(u"vesperChainLamp"_s);
     EXPECT_EQ(lamp->property("lamp").toString(), u"off"_s);
-    m_panel.showVerdict({ChainLamp::Green, u"Bit-perfect"_s, u"because"_s});
+    m_panel.showVerdict({ChainLamp::Green, u"Bit-perfect"_s, u"because"_s, {}});
     EXPECT_EQ(lamp->property("lamp").toString(), u"good"_s);
     EXPECT_EQ(lamp->grab().toImage().pixelColor(5, 5), QColor(0, 255, 0));
-    m_panel.showVerdict({ChainLamp::Amber, u"Mixer+convert and many more words"_s, u"because"_s});
+    m_panel.showVerdict({ChainLamp::Amber, u"Mixer+convert and many more words"_s, u"because"_s, {}});
     EXPECT_EQ(lamp->property("lamp").toString(), u"warn"_s);
     auto *word = m_panel.findChild<QLabel *>(u"vesperChainVerdict"_s);
     EXPECT_EQ(word->property("px").toInt(), 12) << "a long word is printed smaller";

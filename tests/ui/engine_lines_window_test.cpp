@@ -133,6 +133,43 @@ TEST_F(EngineLines, ARefusalIsNotedUntilADeviceOpens)
     EXPECT_TRUE(devices.lastMissingDevice.isEmpty());
 }
 
+TEST_F(EngineLines, APercentLineLeavesThePositionAlone)
+{
+    say(u"PG 10 12 120"_s);
+    const auto shown = [this] {
+        for (const QLabel *label : m_window->findChildren<QLabel *>()) {
+            if (label->accessibleName() == u"位置"_s)
+                return label->text();
+        }
+        return QString();
+    };
+    ASSERT_EQ(shown(), u"0:12"_s);
+    say(u"Progress: 37.5%"_s);
+    EXPECT_EQ(WindowInspector::progress(*m_window).progressPercent, 37.5);
+    EXPECT_EQ(WindowInspector::progress(*m_window).lastPosSec, 12.);
+    EXPECT_EQ(shown(), u"0:12"_s);
+    EXPECT_TRUE(logHas(u"进度 30%"_s));
+}
+
+TEST_F(EngineLines, ASourcesDepthGoesToTheLampAndItsModeStays)
+{
+    const BitsLed *lamp = m_window->widgets().instruments->bits();
+    say(u"volume: applied on the DEVICE, on a 24 bit device"_s);
+    EXPECT_EQ(lamp->bits(), 24);
+    const int mode = lamp->state();
+    say(u"SRC 44100 16 2 flac 0 60"_s);
+    EXPECT_EQ(lamp->bits(), 16);
+    EXPECT_EQ(lamp->state(), mode);
+}
+
+TEST_F(EngineLines, ADsdSourceLeavesTheLampAlone)
+{
+    const BitsLed *lamp = m_window->widgets().instruments->bits();
+    say(u"volume: applied on the DEVICE, on a 24 bit device"_s);
+    say(u"SRC 2822400 1 2 dsd 0 60"_s);
+    EXPECT_EQ(lamp->bits(), 24);
+}
+
 TEST_F(EngineLines, AWarningIsAnErrorLineAndStandsInTheStatusLine)
 {
     say(u"WARN underrun"_s);
@@ -172,6 +209,22 @@ TEST_F(EngineLines, TheSignalIsShownInWords)
     const BitsLed *lamp = m_window->widgets().instruments->bits();
     EXPECT_TRUE(lamp->toolTip().contains(signal.bitsToolTip));
     EXPECT_FALSE(signal.bitsToolTip.isEmpty());
+}
+
+TEST_F(EngineLines, TheChainsLampShowsTheEnginesLineAsItsTip)
+{
+    const auto *card = m_window->findChild<QFrame *>(u"vesperChainCard"_s);
+    ASSERT_NE(card, nullptr);
+    say(u"SRC 44100 16 2 flac 0 60"_s);
+    say(u"bit-perfect: YES: nothing changes a bit"_s);
+    say(u"chain: clean <all of it>"_s);
+    EXPECT_TRUE(card->toolTip().endsWith(u"<br>chain: clean &lt;all of it&gt;"_s))
+        << qPrintable(card->toolTip());
+    say(u"chain: OS mixer"_s);
+    EXPECT_TRUE(card->toolTip().endsWith(u"<br>chain: OS mixer"_s)) << qPrintable(card->toolTip());
+    const auto *lamp = m_window->findChild<QFrame *>(u"vesperChainLamp"_s);
+    ASSERT_NE(lamp, nullptr);
+    EXPECT_EQ(lamp->property("lamp").toString(), u"warn"_s);
 }
 
 TEST_F(EngineLines, AChainBlockIsLoggedOnceAndKept)

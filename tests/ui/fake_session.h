@@ -25,6 +25,7 @@ struct FakeEngine
     // What sessions did.
     int created = 0;
     int destroyed = 0;
+    int polls = 0;
     QStringList calls; ///< "start …", "write …", "stop 2000", "wait 10000", "kill" … in order
     QList<QStringList> startArgs;
     class FakeSession *current = nullptr;
@@ -110,7 +111,7 @@ public:
     bool canBeKilled() const override { return !m_engine.inProcess; }
     bool isInProcess() const override { return m_engine.inProcess; }
     void close() override { m_engine.note(QStringLiteral("close")); }
-    void poll() override {}
+    void poll() override { ++m_engine.polls; }
 
     /// The engine ends by itself.
     void endWith(int code, bool crashed = false)

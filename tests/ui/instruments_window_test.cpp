@@ -5,12 +5,14 @@
 #include "platform/settings_table.h"
 #include "ui/bits_led.h"
 #include "ui/instrument_panel.h"
+#include "ui/look_controls.h"
 #include "ui/scope_view.h"
 #include "ui/segment_meter.h"
 #include "ui/spectrum_view.h"
 #include "ui/theme.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QLabel>
 #include <QTest>
 
@@ -142,6 +144,53 @@ TEST_F(WindowInstruments, AnEmptyScopeTellsWhetherItIsOff)
     m_window->startPlayback(0);
     EXPECT_NE(panel().scope()->toolTip(), off) << "now frames may come";
     EXPECT_NE(panel().scope()->toolTip(), idle);
+}
+
+TEST_F(WindowInstruments, AChangedDisplayModeIsToldToTheRunningSession)
+{
+    m_window->openSetup();
+    LookControls &look = *m_window->widgets().look;
+    const auto sent = [&] { return m_engine.lines().last().mid(6); };
+    look.scope->click();
+    EXPECT_EQ(sent(), u"scope on"_s);
+    look.scope->click();
+    EXPECT_EQ(sent(), u"scope off"_s);
+    look.spectrum->click();
+    EXPECT_EQ(sent(), u"spectrum off"_s);
+    look.spectrum->click();
+    EXPECT_EQ(sent(), u"spectrum on"_s);
+    EXPECT_FALSE(logHas(u"从下一次播放会话起生效"_s));
+    m_window->stopPlayback();
+    settle();
+    const qsizetype count = m_engine.lines().size();
+    look.scope->click();
+    EXPECT_EQ(m_engine.lines().size(), count);
+    EXPECT_TRUE(logHas(u"从下一次播放会话起生效"_s));
+}
+
+TEST_F(WindowInstruments, WhatIsSwitchedOffIsEmptyAndStaysSo)
+{
+    m_window->openSetup();
+    LookControls &look = *m_window->widgets().look;
+    look.scope->click();
+    say(u"SPC 44100 4 ff80ff00"_s);
+    say(u"WVF 44100 8 "_s + flatBlock(8));
+    ASSERT_EQ(panel().scope()->bucketCount(), 8);
+    say(u"output latency: 4000"_s);
+    say(u"SPC 44100 4 ff80ff00"_s);
+    look.spectrum->click();
+    look.scope->click();
+    EXPECT_EQ(panel().spectrum()->bandCount(), 0);
+    EXPECT_EQ(panel().scope()->bucketCount(), 0);
+    EXPECT_TRUE(WindowInspector::instruments(*m_window).spectrumQueue.isEmpty());
+    say(u"output latency: 0"_s);
+    say(u"SPC 44100 4 ff80ff00"_s);
+    say(u"WVF 44100 8 "_s + flatBlock(8));
+    EXPECT_EQ(panel().spectrum()->bandCount(), 0) << "frames that were still on their way";
+    EXPECT_EQ(panel().scope()->bucketCount(), 0);
+    look.spectrum->click();
+    say(u"SPC 44100 4 ff80ff00"_s);
+    EXPECT_EQ(panel().spectrum()->bandCount(), 4);
 }
 
 TEST_F(WindowInstruments, BitsFollowTheVolumeLine)

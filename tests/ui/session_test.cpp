@@ -1,7 +1,11 @@
 // The session's making and the account of its control lines.
 #include "window_fixture.h"
 
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
+
 #include <QFile>
+#include <QTest>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -99,4 +103,125 @@ TEST_F(Session, AReplacedSessionIsNoLongerHeard)
     m_window.reset();
     lastSink(u"to nobody\n"_s, false);
     settle();
+}
+
+TEST_F(Session, IsPolledWhileItExists)
+{
+    m_window->ensureSession();
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_engine.polls > 2; }, 20000));
+}
+
+TEST_F(Session, ItsKindIsAskedForAfreshEachTimeAndNeverForced)
+{
+    m_window.reset();
+    QList<SessionOptions> asked;
+    m_makeSession = [&](QObject *, const SessionOptions &options) {
+        asked.append(options);
+        return std::make_unique<FakeSession>(m_engine);
+    };
+    makeWindow();
+    writeUserSetting(settings::engineInproc, true);
+    m_window->ensureSession();
+    writeUserSetting(settings::engineInproc, false);
+    m_window->ensureSession();
+    ASSERT_EQ(asked.size(), 2);
+    EXPECT_TRUE(asked[0].kind.inprocSetting);
+    EXPECT_FALSE(asked[1].kind.inprocSetting);
+    EXPECT_FALSE(asked[0].forceChildProcess);
+    EXPECT_FALSE(asked[1].forceChildProcess);
+}
+
+TEST_F(Session, ItsEndArrivesThroughTheEventLoopAndDrawsUpTheAccount)
+{
+    addFiles(1);
+    m_window->startPlayback(0);
+    takeLog();
+    m_engine.current->endWith(0);
+    EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying) << "not from within the session's own call";
+    EXPECT_FALSE(logHas(u"闭合: queued=1"_s));
+    settle();
+    EXPECT_FALSE(WindowInspector::start(*m_window).uiPlaying);
+    EXPECT_TRUE(logHas(u"闭合: queued=1"_s));
+}
+
+TEST_F(Session, TheAccountIsDrawnUpAtTheEndOfTheProgram)
+{
+    WindowInspector::link(*m_window).logPath = m_root.filePath(u"engine.log"_s);
+    writeEngineLog(3);
+    m_window->ensureSession();
+    m_engine.current->start(u"x"_s, {});
+    for (int i = 0; i < 3; ++i)
+        m_window->sendCmd(u"vol 1"_s);
+    m_window->shutdown();
+    EXPECT_TRUE(logHas(u"recv=3"_s));
+    EXPECT_EQ(WindowInspector::link(*m_window).queuedCtlCount, 0);
+    EXPECT_FALSE(WindowInspector::link(*m_window).hostCopy);
+}
+
+TEST_F(Session, TheLagSelfTestFreezesTheWindowAndIsReported)
+{
+    qputenv("KELP_GUI_LAG_TEST", "1");
+    m_window->ensureSession();
+    qunsetenv("KELP_GUI_LAG_TEST");
+    EXPECT_TRUE(QTest::qWaitFor([this] { return logHas(u"[stall] "_s); }, 20000));
+}
+
+class HostCopy : public WindowTest
+{
+protected:
+    void SetUp() override
+    {
+        WindowTest::SetUp();
+        makeWindow();
+        addFiles(2);
+    }
+    QByteArray engineLog()
+    {
+        QFile file(m_root.filePath(u"engine.log"_s));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+};
+
+TEST_F(HostCopy, HoldsEveryLineOfASessionInThisProcessBehindItsHeader)
+{
+    m_window->startPlayback(0);
+    EXPECT_EQ(engineLog(), "=== host-side copy (in-process session) ===\n");
+    m_window->onEngineLine(u"LVL -1 -2\r\n"_s, false);
+    m_window->onEngineLine(u"  no end"_s, true);
+    EXPECT_EQ(engineLog(), "=== host-side copy (in-process session) ===\nLVL -1 -2\r\n  no end\n")
+        << "as they came, and at once";
+    EXPECT_EQ(WindowInspector::link(*m_window).hostLineCount, 2);
+}
+
+TEST_F(HostCopy, AFreshStartAppendsToTheSameFile)
+{
+    m_window->startPlayback(0);
+    m_engine.current->say(u"of the first"_s);
+    settle();
+    m_engine.current->endWith(3);
+    settle();
+    m_window->startPlayback(1);
+    EXPECT_EQ(WindowInspector::link(*m_window).hostLineCount, 0);
+    EXPECT_EQ(engineLog().count("=== host-side copy"), 2);
+    EXPECT_TRUE(engineLog().contains("of the first\n"));
+}
+
+TEST_F(HostCopy, AChildProcessHasNone)
+{
+    m_engine.inProcess = false;
+    m_window->startPlayback(0);
+    m_engine.current->say(u"a line"_s);
+    settle();
+    EXPECT_TRUE(engineLog().isEmpty()) << "its engine writes the file by itself";
+}
+
+TEST_F(HostCopy, ThatCannotBeOpenedIsDroppedInSilence)
+{
+    qputenv("KELP_ENGINE_LOG", QFile::encodeName(m_root.path()));
+    m_window->startPlayback(0);
+    m_engine.current->say(u"a line"_s);
+    settle();
+    EXPECT_FALSE(WindowInspector::link(*m_window).hostCopy);
+    EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying);
+    EXPECT_TRUE(logHas(u"a line"_s));
 }

@@ -3,6 +3,7 @@
 
 #include "app/settings_store.h"
 #include "app/stored_params.h"
+#include "engine/command_line.h"
 #include "ui/instrument_panel.h"
 #include "ui/meter_reading.h"
 #include "ui/scope_view.h"
@@ -41,11 +42,10 @@ void PlayerGuiWindow::showScopeFrame()
 
 void PlayerGuiWindow::tellWhyScopeIsEmpty()
 {
-    constexpr int scopeBit = 2;
     QString why;
     if (m_start.uiPlaying) {
         SettingsStore file;
-        const bool asked = vizModeAtTrackStart(QSettingsAccess(file)) & scopeBit;
+        const bool asked = vizModeAtTrackStart(QSettingsAccess(file)) & vizBit::scope;
         why = asked ? tr("正在等待波形") : tr("示波器已关闭，没有波形");
     }
     m_ui.instruments->scope()->setIdleText(why);

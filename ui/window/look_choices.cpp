@@ -3,8 +3,12 @@
 
 #include "app/settings_store.h"
 #include "app/stored_params.h"
+#include "engine/command_line.h"
 #include "platform/settings_table.h"
+#include "ui/instrument_panel.h"
 #include "ui/look_controls.h"
+#include "ui/scope_view.h"
+#include "ui/spectrum_view.h"
 #include "ui/theme.h"
 
 using namespace Qt::StringLiterals;
@@ -43,12 +47,33 @@ void PlayerGuiWindow::showLook()
         m_ui.look->showChoices(storedLook(m_sideWidth));
 }
 
+void PlayerGuiWindow::changeVizMode(int former, int wanted)
+{
+    m_instruments.unwanted = ~wanted & (vizBit::spectrum | vizBit::scope);
+    if (m_instruments.unwanted & vizBit::spectrum) {
+        m_instruments.spectrumQueue.clear();
+        m_instruments.spectrum.reset();
+        m_ui.instruments->spectrum()->clear();
+    }
+    if (m_instruments.unwanted & vizBit::scope) {
+        m_instruments.scope.reset();
+        m_ui.instruments->scope()->clear();
+    }
+    tellWhyScopeIsEmpty();
+    if (!sessionRuns()) {
+        logLine(tr("频谱和示波器的选择已保存，从下一次播放会话起生效"));
+        return;
+    }
+    for (const QString &line : vizModeLines(former, wanted))
+        sendCmd(line);
+}
+
 void PlayerGuiWindow::applyLook(const LookChoices &look)
 {
     const LookChoices former = storedLook(m_sideWidth);
     if (look.vizMode != former.vizMode) {
         writeUserSetting(settings::vizMode, look.vizMode);
-        logLine(tr("频谱和示波器的选择已保存，从下一次播放会话起生效"));
+        changeVizMode(former.vizMode, look.vizMode);
     }
     if (look.reduceMotion != former.reduceMotion) {
         writeUserSetting(settings::reduceMotion, look.reduceMotion);

@@ -255,6 +255,8 @@ private:
     void connectLook();
     void showLook();
     void applyLook(const struct LookChoices &look);
+    /// Tells a running session, and empties the views of what is switched off.
+    void changeVizMode(int former, int wanted);
     void openTools();
     void useTool(Tool tool);
     void clearLog();
