@@ -8,6 +8,7 @@
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
 #include "platform/single_instance.h"
+#include "ui/program_icon.h"
 #include "ui/style_sheet.h"
 #include "ui/theme.h"
 #include "ui/window/player_gui_window.h"
@@ -15,7 +16,6 @@
 #include <QApplication>
 #include <QDebug>
 #include <QFileInfo>
-#include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -116,7 +116,8 @@ LanguageChoice installTranslator()
 
 void setWindowIcon()
 {
-    QApplication::setWindowIcon(QIcon(u":/icons/kelp.png"_s));
+    constexpr QSize size(256, 256);
+    QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, size));
 }
 
 void addAboutBlock(PlayerGuiWindow &window)

@@ -27,7 +27,7 @@ DspBar::DspBar(QWidget *parent)
     auto *caption = new QLabel(u"DSP"_s, this);
     caption->setObjectName("vesperDspCaption"_L1);
     QFont headFont = figureFont(captionPixels);
-    headFont.setBold(true);
+    headFont.setWeight(QFont::DemiBold);
     caption->setFont(headFont);
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(16, 0, 16, 0);

@@ -97,10 +97,17 @@ bool FittedTitle::breakLines(int pixels, bool mayElide)
 
 void FittedTitle::fit()
 {
-    for (const Step &step : steps) {
-        const bool last = step.pixels == steps.back().pixels;
-        if (step.pixels <= m_mostPixels && (breakLines(step.pixels, last) || last))
-            break;
+    if (m_text.isEmpty()) {
+        // Not measured: that would load a font of a size that may never be shown.
+        m_lines.clear();
+        m_elided = false;
+        m_font.setPixelSize(stepOf(m_mostPixels).pixels);
+    } else {
+        for (const Step &step : steps) {
+            const bool last = step.pixels == steps.back().pixels;
+            if (step.pixels <= m_mostPixels && (breakLines(step.pixels, last) || last))
+                break;
+        }
     }
     setToolTip(m_elided ? m_text : QString());
     setFixedHeight(std::max<int>(1, m_lines.size()) * stepOf(m_font.pixelSize()).lineHeight);

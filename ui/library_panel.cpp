@@ -1,6 +1,7 @@
 #include "ui/library_panel.h"
 
 #include "ui/fitted_button.h"
+#include "ui/glyph_combo.h"
 #include "ui/glyph_icons.h"
 #include "ui/style_sheet.h"
 
@@ -108,7 +109,7 @@ QLayout *LibraryPanel::buildCombos()
     auto *row = new QHBoxLayout;
     row->setSpacing(gap);
     const auto add = [&](const QString &all, const QString &name) {
-        auto *combo = new QComboBox(this);
+        auto *combo = new GlyphCombo(this);
         combo->setObjectName("vesperFilterCombo"_L1);
         combo->addItem(all);
         combo->setAccessibleName(name);

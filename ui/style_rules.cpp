@@ -25,7 +25,7 @@ QFrame#vesperChainBox, QWidget#vesperCardCell, QWidget#vesperChainRows { backgro
 QFrame#vesperChainCard, QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
 QFrame#vesperCard { color: #23232B; }
 QLabel#vesperCardKey { color: #8A857C; @caption@; }
-QLabel#vesperCardVal { color: #EDEAE3; font-family: "DejaVu Sans Mono"; font-size: 14px; }
+QLabel#vesperCardVal { color: #EDEAE3; @figures@; font-size: 14px; }
 QFrame#vesperChainLamp { background: #4A4842; border: none; border-radius: 5px; }
 QFrame#vesperChainLamp[lamp="good"] { background: #6FC084; }
 QFrame#vesperChainLamp[lamp="warn"] { background: #D4A843; }
@@ -40,7 +40,7 @@ QLabel#vesperChainRow[chainWarn="true"] { background: rgba(212, 168, 67, 31); co
     border-left: 2px solid #D4A843; padding: 5px 10px; }
 QLabel#vesperChainRow[chainWarn="true"][mirrored="true"] { border-left: none; border-right: 2px solid #D4A843; }
 QDialog#vesperReportDialog, QDialog#vesperCheckDialog { background: #131317; }
-QPlainTextEdit#vesperReport { font-family: "DejaVu Sans Mono"; font-size: 12px; }
+QPlainTextEdit#vesperReport { @figures@; font-size: 12px; }
 QFrame#vesperCheckPlate { background: @plate@; border: none; border-bottom: 1px solid #23232B; }
 QLabel#vesperCheckVerdict { color: @plateink@; font-size: 18px; font-weight: 700; }
 QLabel#vesperCheckVerdict[passed="true"] { color: #78C88C; }
@@ -52,7 +52,7 @@ QLabel#vesperCheckMark[mark="proved"] { color: #6FC084; }
 QLabel#vesperCheckMark[mark="disproved"] { color: #C75C4A; }
 QLabel#vesperCheckHead { color: #EDEAE3; font-size: 15px; font-weight: 600; }
 QLabel#vesperCheckText { color: #B9B3A8; font-size: 13px; }
-QLabel#vesperCheckEvidence { color: #CFC9BF; font-family: "DejaVu Sans Mono"; font-size: 12px; }
+QLabel#vesperCheckEvidence { color: #CFC9BF; @figures@; font-size: 12px; }
 QLabel#vesperCheckBreak { color: #EDEAE3; font-size: 13px; font-weight: 600; }
 QLabel#vesperCheckExplain { color: #8A857C; }
 QListWidget#vesperCheckList { border-left: none; border-right: none; border-radius: 0; font-size: 12px; }

@@ -111,7 +111,8 @@ QToolButton#vesperSwitch { padding: 0 8px; }
 QToolButton#vesperSwitch:checked { color: #EDEAE3; }
 )"_L1;
 
-// Fields, switches and sliders.
+// Fields, switches and sliders. A picture costs the loading of all image plug-ins where it first shows, so
+// the window itself has none: its combos draw their arrows.
 constexpr auto fields = R"(
 QComboBox, QLineEdit, QAbstractSpinBox { background: #18181E; border: 1px solid #2C2C35; border-radius: 4px;
     color: #CFC9BF; min-height: 28px; padding: 0 10px; selection-background-color: @ink@;
@@ -129,8 +130,8 @@ QComboBox[keyFocus="true"], QAbstractSpinBox[keyFocus="true"] { border: 2px soli
 QLineEdit[keyFocus="true"] { border: 2px solid @ring@; min-height: 28px; padding: 0 9px; }
 QComboBox QLineEdit, QAbstractSpinBox QLineEdit { background: transparent; border: none; min-height: 0; padding: 0; }
 QComboBox::drop-down { border: none; width: 28px; }
-QComboBox::down-arrow { image: url(down-ink.kelpglyph); width: 16px; height: 16px; }
-QComboBox::down-arrow:disabled { image: url(down-off.kelpglyph); }
+QDialog QComboBox::down-arrow { image: url(down-ink.kelpglyph); width: 16px; height: 16px; }
+QDialog QComboBox::down-arrow:disabled { image: url(down-off.kelpglyph); }
 QAbstractSpinBox::up-button, QAbstractSpinBox::down-button { border: none; width: 20px; background: transparent; }
 QAbstractSpinBox::up-arrow { image: url(up-ink.kelpglyph); width: 12px; height: 12px; }
 QAbstractSpinBox::down-arrow { image: url(down-ink.kelpglyph); width: 12px; height: 12px; }
@@ -229,6 +230,21 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QSplitter::handle { background: #23232B; }
 )"_L1;
 
+/// The same list for the fonts of widgets and for those of the sheet: a font that differs in anything is
+/// matched with the system's all over again.
+QStringList figureFamilies()
+{
+    // A word between figures falls back to the interface's families, not to whatever the system has first.
+    return {u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s, eastAsianFamily, u"Noto Sans Arabic"_s,
+            u"Monospace"_s};
+}
+
+/// Those families as the sheet writes them.
+QString figureType()
+{
+    return u"font-family: \""_s + figureFamilies().join(u"\", \""_s) + u'"';
+}
+
 QString valueText(const QColor &colour)
 {
     if (colour.alpha() == 255)
@@ -237,12 +253,6 @@ QString valueText(const QColor &colour)
         .arg(colour.green())
         .arg(colour.blue())
         .arg(colour.alpha());
-}
-
-/// The type of the captions that the sheet sets, because their widgets cannot.
-QString captionType()
-{
-    return engravesCaptions ? u"font-family: \"DejaVu Sans Mono\"; font-size: 11px"_s : u"font-size: 12px"_s;
 }
 
 QColor namedColour(QStringView name)
@@ -271,6 +281,21 @@ QColor namedColour(QStringView name)
     }
     return {};
 }
+
+/// The type of the captions that the sheet sets, because their widgets cannot.
+QString captionType()
+{
+    return engravesCaptions ? figureType() + u"; font-size: 11px"_s : u"font-size: 12px"_s;
+}
+
+/// What stands between two "@" of the sheet.
+QString placeText(QStringView name)
+{
+    if (name == "caption"_L1)
+        return captionType();
+    return name == "figures"_L1 ? figureType() : valueText(namedColour(name));
+}
+
 } // namespace
 
 QString darkStyleSheet()
@@ -289,7 +314,7 @@ QString styleSheetInForce()
         if (i % 2 == 0)
             sheet += pieces.at(i);
         else
-            sheet += pieces.at(i) == "caption"_L1 ? captionType() : valueText(namedColour(pieces.at(i)));
+            sheet += placeText(pieces.at(i));
     }
     return sheet;
 }
@@ -325,9 +350,7 @@ QFont interfaceFont(int pixelSize)
 QFont figureFont(int pixelSize)
 {
     QFont font;
-    // A word between figures falls back to the interface's families, not to whatever the system has first.
-    font.setFamilies({u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s, eastAsianFamily, u"Noto Sans Arabic"_s});
-    font.setStyleHint(QFont::Monospace);
+    font.setFamilies(figureFamilies());
     font.setPixelSize(pixelSize);
     return font;
 }

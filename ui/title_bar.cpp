@@ -39,7 +39,7 @@ TitleBar::TitleBar(QWidget *parent)
     setFixedHeight(areas::titleBar);
     brand->setObjectName("vesperBrand"_L1);
     QFont brandFont = figureFont(brandPixels);
-    brandFont.setBold(true);
+    brandFont.setWeight(QFont::DemiBold);
     brandFont.setLetterSpacing(QFont::AbsoluteSpacing, 1.4);
     brand->setFont(brandFont);
     brand->setFixedHeight(brandHeight);

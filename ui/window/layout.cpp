@@ -7,6 +7,7 @@
 #include "ui/dock_bar.h"
 #include "ui/dsp_bar.h"
 #include "ui/edge_grips.h"
+#include "ui/glyph_combo.h"
 #include "ui/glyph_icons.h"
 #include "ui/icon_button.h"
 #include "ui/instrument_panel.h"
@@ -16,7 +17,6 @@
 #include "ui/style_sheet.h"
 #include "ui/title_bar.h"
 
-#include <QComboBox>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -110,7 +110,7 @@ QWidget *PlayerGuiWindow::buildSide()
     head->addStretch();
     head->addWidget(m_ui.refreshDevices);
     rows->addLayout(head);
-    m_ui.device = new QComboBox(side);
+    m_ui.device = new GlyphCombo(side);
     m_ui.device->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     m_ui.device->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
     m_ui.device->setAccessibleName(tr("输出设备"));
