@@ -76,12 +76,9 @@ void PlayerGuiWindow::saveResumePosition()
     m_start.resumeFile = QFileInfo(m_start.started.path).absoluteFilePath();
     m_start.resumePosSec = m_progress.lastPosSec;
     m_start.resumeEnabled = true;
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     writeSetting(store, settings::resumePath, m_start.resumeFile);
     writeSetting(store, settings::resumeSec, m_start.resumePosSec);
-    // In one writing of the file.
-    saveLastPlayed();
 }
 
 void PlayerGuiWindow::saveResumePositionNow(double leastSec)
@@ -101,8 +98,7 @@ void PlayerGuiWindow::forgetResumePosition(const QString &path)
         m_start.resumePosSec = 0.;
         m_start.resumeEnabled = false;
     }
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     if (readSetting(store, settings::resumePath) != absolute)
         return;
     writeSetting(store, settings::resumePath, QString());

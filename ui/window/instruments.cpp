@@ -44,8 +44,7 @@ void PlayerGuiWindow::tellWhyScopeIsEmpty()
     constexpr int scopeBit = 2;
     QString why;
     if (m_start.uiPlaying) {
-        SettingsStore file;
-        const bool asked = vizModeAtTrackStart(QSettingsAccess(file)) & scopeBit;
+        const bool asked = vizModeAtTrackStart(UserSettings()) & scopeBit;
         why = asked ? tr("正在等待波形") : tr("示波器已关闭，没有波形");
     }
     m_ui.instruments->scope()->setIdleText(why);
