@@ -4,6 +4,7 @@
 // usage: playlist_bench [ROWS …]     1000, 20000 and 200000 without a number
 
 #include "app/settings_store.h"
+#include "platform/settings_table.h"
 #include "playback/add_plan.h"
 #include "playback/playlist_widget.h"
 #include "tests/ui/fake_session.h"
@@ -16,10 +17,12 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <algorithm>
+#include <atomic>
 #include <cstdio>
 #include <fcntl.h>
 #include <functional>
 #include <malloc.h>
+#include <thread>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -30,6 +33,8 @@ constexpr int filesPerFolder = 1000;
 constexpr int quickRounds = 5;
 constexpr int saveRounds = 9;
 constexpr int stepRounds = 41;
+constexpr int periodicRounds = 7;
+constexpr double periodicSec = 5.;
 
 double millisecondsOf(const std::function<void()> &work)
 {
@@ -158,6 +163,7 @@ public:
         });
         row("select all", took.selectAll, m_bareSelect, "a bare list");
         took.next = stepTime(*window);
+        periodicSaves(*window);
         row("next track, key to load line", took.next, 0, "");
         double insertMs = 0.;
         const double held = heldByRows(paths, insertMs);
@@ -323,6 +329,61 @@ private:
             0, "");
         window.killProc(true);
         return middle(took);
+    }
+
+    /// What the saving of the position holds up, every five seconds of playing: the one call, whatever the
+    /// event loop does until the file is written, and a next track in the midst of the writing. In turn with
+    /// the same two values written by this thread itself.
+    void periodicSaves(PlayerGuiWindow &window)
+    {
+        window.startPlayback(0);
+        double longest = 0.;
+        double nextTrack = 0.;
+        QList<double> direct;
+        for (int round = 1; round <= periodicRounds; ++round) {
+            QCoreApplication::processEvents();
+            const QString progress = u"PG 1 %1 100000"_s.arg(periodicSec * round);
+            QElapsedTimer clock;
+            clock.start();
+            m_engine.current->say(progress);
+            QCoreApplication::sendPostedEvents();
+            longest = std::max(longest, static_cast<double>(clock.nsecsElapsed()) / 1e6);
+            if (readUserSetting(settings::resumeSec) != periodicSec * round)
+                std::printf("  the position was not saved\n");
+            if (round % 2 == 0)
+                nextTrack = std::max(nextTrack, millisecondsOf([&] { window.stepRow(1); }));
+            longest = std::max(longest, longestTurnUntilWritten());
+            direct.append(millisecondsOf([&] {
+                QSettings file(SettingsStore().fileName(), QSettings::IniFormat);
+                file.setValue("play/resume_path"_L1, u"/a/track.flac"_s);
+                file.setValue("play/resume_sec"_L1, periodicSec * round);
+                file.sync();
+            }));
+            window.startPlayback(0);
+        }
+        row("a periodic save, the longest stall", longest, middle(direct), "writing it directly");
+        row("  a next track while it is written", nextTrack, 0, "");
+        window.killProc(true);
+    }
+
+    /// The longest turn of the event loop, in milliseconds, while another thread waits for the file.
+    static double longestTurnUntilWritten()
+    {
+        std::atomic<bool> written = false;
+        std::thread waiter([&written] {
+            userSettingsFile().flush();
+            written = true;
+        });
+        double longest = 0.;
+        while (!written) {
+            longest = std::max(longest, millisecondsOf([] {
+                                   QCoreApplication::processEvents();
+                                   readUserSetting(settings::vizMode);
+                               }));
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        }
+        waiter.join();
+        return longest;
     }
 
     // In memory where there is such a place: a disk's moods are larger than what is measured.

@@ -2,6 +2,7 @@
 add_library(platform_settings STATIC
     player_conf_path.cpp
     settings_access.cpp
+    settings_file.cpp
     qsettings_access.cpp)
 kelp_qt_defaults(platform_settings)
 set_target_properties(platform_settings PROPERTIES AUTOMOC OFF)

@@ -20,12 +20,13 @@ int unplayedRow(const std::vector<bool> &playedBits, int n)
     return -1;
 }
 
+/// \param currentRow -1 when what has just been heard is none of the rows
 std::optional<int> drawRow(PlayOrderState &state, int currentRow, int count)
 {
     if (count == 1)
-        return currentRow;
+        return std::max(currentRow, 0);
     const auto markCurrent = [&] {
-        if (currentRow < count)
+        if (currentRow >= 0 && currentRow < count)
             state.playedBits[static_cast<std::size_t>(currentRow)] = true;
     };
     const auto candidates = [&] {
@@ -64,25 +65,25 @@ RepeatAxis repeatAxisOf(int number)
     }
 }
 
-std::optional<int> advanceRow(PlayOrderState &state, int currentRow, int count)
+std::optional<int> advanceRow(PlayOrderState &state, int currentRow, int count, bool rowGone)
 {
-    if (count <= 0 || currentRow < 0)
+    if (count <= 0 || (currentRow < 0 && !rowGone))
         return std::nullopt;
     if (state.playedBits.size() != static_cast<std::size_t>(count))
         state.playedBits.assign(static_cast<std::size_t>(count), false);
-    if (state.repeat == RepeatAxis::Track)
+    if (state.repeat == RepeatAxis::Track && !rowGone)
         return currentRow;
     if (state.order == OrderAxis::Random)
-        return drawRow(state, currentRow, count);
+        return drawRow(state, rowGone ? -1 : currentRow, count);
     if (currentRow + 1 < count)
         return currentRow + 1;
     return state.repeat == RepeatAxis::List ? std::optional(0) : std::nullopt;
 }
 
-int peekNextRow(const PlayOrderState &state, int currentRow, int count)
+int peekNextRow(const PlayOrderState &state, int currentRow, int count, bool rowGone)
 {
     PlayOrderState copy = state;
-    return advanceRow(copy, currentRow, count).value_or(-1);
+    return advanceRow(copy, currentRow, count, rowGone).value_or(-1);
 }
 
 QString orderText(OrderAxis order, RepeatAxis repeat)

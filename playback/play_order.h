@@ -40,9 +40,11 @@ struct PlayOrderState
 };
 
 /// The row to play after currentRow in a list of count rows; none when the list has ended.
-std::optional<int> advanceRow(PlayOrderState &state, int currentRow, int count);
+/// \param rowGone the track's own row has left the list: currentRow is the one before its place, -1 for none.
+/// What stands in its place follows it, and a repeated track, which there is no more, is followed likewise.
+std::optional<int> advanceRow(PlayOrderState &state, int currentRow, int count, bool rowGone = false);
 /// The row that advanceRow will give, or -1. Nothing is disturbed: the choice is made on a copy.
-int peekNextRow(const PlayOrderState &state, int currentRow, int count);
+int peekNextRow(const PlayOrderState &state, int currentRow, int count, bool rowGone = false);
 
 /// "Random · no repeat", translated.
 QString orderText(OrderAxis order, RepeatAxis repeat);

@@ -9,7 +9,9 @@
 /// The session and the row, from one track start to the next.
 struct TrackStartState
 {
-    int currentRow = -1;     ///< the row to play; may run past the end of the list
+    int currentRow = -1; ///< the row to play; may run past the end of the list
+    /// The row has left the list: currentRow is the one before its place, -1 for none.
+    bool currentRowGone = false;
     int lastStartedRow = -1; ///< of the last playCurrent
     int playingRow = -1;     ///< that plays or was last started
     bool sessionLive = false;

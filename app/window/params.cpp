@@ -40,8 +40,7 @@ void PlayerGuiWindow::restoreCombo(const QString &stored, const QList<ChoiceItem
 
 void PlayerGuiWindow::loadParams()
 {
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     const StoredParams params = ::loadParams(store);
     EngineChoices &choices = m_choices;
     restoreCombo(params.mode, engineItems::modes(), choices.mode);
@@ -88,8 +87,7 @@ void PlayerGuiWindow::loadParams()
 
 void PlayerGuiWindow::saveParams()
 {
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     const EngineChoices &choices = m_choices;
     // What has no control in the window keeps its stored value.
     StoredParams params = ::loadParams(store);

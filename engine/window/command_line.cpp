@@ -37,8 +37,7 @@ bool PlayerGuiWindow::effectsAudible() const
 
 EngineArgsInput PlayerGuiWindow::engineArgsInput() const
 {
-    SettingsStore file;
-    const QSettingsAccess store(file);
+    const UserSettings store;
     EngineArgsInput input;
     input.parentPid = QCoreApplication::applicationPid();
     input.dspPlugins = readSetting(store, settings::dspPlugins);

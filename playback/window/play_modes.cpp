@@ -11,15 +11,18 @@ using namespace Qt::StringLiterals;
 bool PlayerGuiWindow::advanceRow()
 {
     const std::optional<int> next =
-        ::advanceRow(m_transport.order, m_start.currentRow, m_ui.playlist->count());
-    if (next)
-        m_start.currentRow = *next;
-    return next.has_value();
+        ::advanceRow(m_transport.order, m_start.currentRow, m_ui.playlist->count(), m_start.currentRowGone);
+    if (!next)
+        return false;
+    m_start.currentRow = *next;
+    m_start.currentRowGone = false;
+    return true;
 }
 
 int PlayerGuiWindow::peekNextRow() const
 {
-    return ::peekNextRow(m_transport.order, m_start.currentRow, m_ui.playlist->count());
+    return ::peekNextRow(m_transport.order, m_start.currentRow, m_ui.playlist->count(),
+                         m_start.currentRowGone);
 }
 
 QString PlayerGuiWindow::orderText() const

@@ -94,6 +94,7 @@ void PlayerGuiWindow::removeSelectedRows()
         recordChange(std::move(change));
         if (!playingKey.isEmpty()) {
             m_start.playingRow = m_ui.playlist->rowOfKey(playingKey);
+            refindCurrentRow(); // the same track stands in the list twice
             if (m_start.playingRow < 0 && wasPlaying)
                 logLine(tr("正在播放的曲目已从列表移除 (声音继续, 但它不在列表里了)"));
         }
@@ -136,13 +137,24 @@ void PlayerGuiWindow::followRows(const PlaylistChange &change)
         if (*row >= 0)
             *row = rowAfterChange(change, *row);
     }
+    // What an emptied list is filled with later follows nothing.
+    if (m_ui.playlist->count() == 0)
+        m_start.currentRowGone = false;
     if (m_start.currentRow < 0)
         return;
-    // Behind a row that has gone comes the row that followed it.
-    const int row = rowAfterChange(change, m_start.currentRow);
-    m_start.currentRow = row < 0 && change.kind == PlaylistChange::Kind::Remove
-                             ? survivorBefore(change.runs, m_start.currentRow)
-                             : row;
+    int row = rowAfterChange(change, m_start.currentRow);
+    if (row < 0 && change.kind == PlaylistChange::Kind::Remove) {
+        // Behind a row that has gone comes the row that followed it.
+        row = survivorBefore(change.runs, m_start.currentRow);
+        m_start.currentRowGone = m_ui.playlist->count() > 0;
+    }
+    m_start.currentRow = row;
+}
+
+void PlayerGuiWindow::refindCurrentRow()
+{
+    if (m_start.playingRow >= 0 && std::exchange(m_start.currentRowGone, false))
+        m_start.currentRow = m_start.playingRow;
 }
 
 void PlayerGuiWindow::forgetHistory()
@@ -234,6 +246,7 @@ void PlayerGuiWindow::changeApplied(const QString &report)
     // A track whose row comes back while it still sounds is found again by the key it was started with.
     if (m_start.playingRow < 0 && sessionRuns() && !m_start.lastPlayedKey.isEmpty())
         m_start.playingRow = m_ui.playlist->rowOfKey(m_start.lastPlayedKey);
+    refindCurrentRow();
     if (m_start.playingRow >= 0)
         m_ui.playlist->highlight(m_start.playingRow);
     m_list.historyDirty = true;

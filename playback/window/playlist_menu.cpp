@@ -28,7 +28,7 @@ QString historyFile()
 {
     const QString name = u"playlist.history"_s;
     if (!qEnvironmentVariable("KELP_SETTINGS_DIR").trimmed().isEmpty())
-        return QFileInfo(SettingsStore().fileName()).dir().filePath(name);
+        return QFileInfo(userSettingsFile().path()).dir().filePath(name);
     return QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).filePath(name);
 }
 

@@ -16,10 +16,6 @@ namespace {
 
 constexpr int lastPlayedShownMs = 8000;
 constexpr int lastPlayedSaveDelayMs = 500;
-/// The settings are one file that is always written whole; with this many rows in it that takes as long as a
-/// blink, and the saving of the position, five seconds into the track, takes the last played row along.
-constexpr int manyRows = 2000;
-constexpr int lateSaveDelayMs = 6000;
 
 /// What came of the saved texts.
 struct Restored
@@ -59,14 +55,13 @@ Restored restoredRows(const QStringList &saved)
 void PlayerGuiWindow::savePlaylist()
 {
     const QStringList rows = m_ui.playlist->savedRows();
-    SettingsStore file;
-    QSettingsAccess access(file);
-    writeSetting(access, settings::playlist, rows);
-    writeSetting(access, settings::playlistRow, m_ui.playlist->currentRow());
-    writeSetting(access, settings::lastPlayed, m_start.lastPlayed);
-    writeSetting(access, settings::lastPlayedKey, m_start.lastPlayedKey);
+    UserSettings store;
+    writeSetting(store, settings::playlist, rows);
+    writeSetting(store, settings::playlistRow, m_ui.playlist->currentRow());
+    writeSetting(store, settings::lastPlayed, m_start.lastPlayed);
+    writeSetting(store, settings::lastPlayedKey, m_start.lastPlayedKey);
     m_start.lastPlayedDirty = false;
-    file.sync();
+    store.flush();
     if (m_list.historyLoading)
         m_list.historyWaiting = true;
     else if (m_list.historyDirty)
@@ -78,18 +73,16 @@ void PlayerGuiWindow::saveLastPlayedSoon()
 {
     // Not while the track is on its way, and once for twenty steps in a second.
     if (!std::exchange(m_start.lastPlayedDirty, true))
-        QTimer::singleShot(m_ui.playlist->count() > manyRows ? lateSaveDelayMs : lastPlayedSaveDelayMs, this,
-                           &PlayerGuiWindow::saveLastPlayed);
+        QTimer::singleShot(lastPlayedSaveDelayMs, this, &PlayerGuiWindow::saveLastPlayed);
 }
 
 void PlayerGuiWindow::saveLastPlayed()
 {
     if (!std::exchange(m_start.lastPlayedDirty, false))
         return;
-    SettingsStore file;
-    QSettingsAccess access(file);
-    writeSetting(access, settings::lastPlayed, m_start.lastPlayed);
-    writeSetting(access, settings::lastPlayedKey, m_start.lastPlayedKey);
+    UserSettings store;
+    writeSetting(store, settings::lastPlayed, m_start.lastPlayed);
+    writeSetting(store, settings::lastPlayedKey, m_start.lastPlayedKey);
 }
 
 void PlayerGuiWindow::restorePlaylist()

@@ -76,12 +76,9 @@ void PlayerGuiWindow::saveResumePosition()
     m_start.resumeFile = QFileInfo(m_start.started.path).absoluteFilePath();
     m_start.resumePosSec = m_progress.lastPosSec;
     m_start.resumeEnabled = true;
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     writeSetting(store, settings::resumePath, m_start.resumeFile);
     writeSetting(store, settings::resumeSec, m_start.resumePosSec);
-    // In one writing of the file.
-    saveLastPlayed();
 }
 
 void PlayerGuiWindow::saveResumePositionNow(double leastSec)
@@ -101,8 +98,7 @@ void PlayerGuiWindow::forgetResumePosition(const QString &path)
         m_start.resumePosSec = 0.;
         m_start.resumeEnabled = false;
     }
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     if (readSetting(store, settings::resumePath) != absolute)
         return;
     writeSetting(store, settings::resumePath, QString());
@@ -119,7 +115,7 @@ void PlayerGuiWindow::checkPreload()
     facts.pending = m_preload.pending;
     facts.diagnosisDone = m_preload.diagnosisDone;
     facts.refusalTold = m_preload.refusalTold;
-    facts.currentRow = m_start.currentRow;
+    facts.currentRow = m_start.currentRowGone ? -1 : m_start.currentRow;
     if (!preloadNeedsNextRow(facts))
         return;
     facts.nextRow = peekNextRow();
@@ -162,6 +158,7 @@ void PlayerGuiWindow::autoAdvanceTaken()
         const int byKey = m_ui.playlist->rowOfKey(taken.key);
         const int byFile = byKey >= 0 ? byKey : m_ui.playlist->rowOfPath(taken.path);
         m_start.currentRow = byFile >= 0 ? byFile : taken.row;
+        m_start.currentRowGone = false;
         logLine(
             tr("自动换曲: 曲尾时列表/顺序变了，按文件对回第 %1/%2 首").arg(m_start.currentRow + 1).arg(count),
             true);

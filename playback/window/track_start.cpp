@@ -35,6 +35,9 @@ void PlayerGuiWindow::playCurrentUnguarded()
     QElapsedTimer clock;
     clock.start();
     m_preload = {};
+    // Started again by a session and not by hand: what stands in its place now takes its turn.
+    if (std::exchange(m_start.currentRowGone, false))
+        ++m_start.currentRow;
     if (!skipMissingFiles()) {
         setPlayingUi(false);
         logLine(tr("播放列表结束"));

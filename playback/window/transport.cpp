@@ -31,8 +31,9 @@ void PlayerGuiWindow::startPlayback(int row)
     }
     if (!closeLeftoverSession())
         return;
+    const int current = m_start.currentRow + (std::exchange(m_start.currentRowGone, false) ? 1 : 0);
     m_start.currentRow = settleStartRow({row, sessionRuns() && m_start.uiPlaying, m_ui.playlist->currentRow(),
-                                         m_start.currentRow, lastPlayedRow(), m_ui.playlist->count()});
+                                         current, lastPlayedRow(), m_ui.playlist->count()});
     m_start.userStopped = false;
     playCurrent();
 }

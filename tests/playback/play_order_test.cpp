@@ -180,3 +180,36 @@ TEST(PlayOrder, TheTextNamesBothAxes)
     EXPECT_EQ(orderText(OrderAxis::Sequential, RepeatAxis::List), u"顺序 · 列表循环"_s);
     EXPECT_EQ(orderText(OrderAxis::Random, RepeatAxis::Track), u"随机 · 单曲循环"_s);
 }
+
+TEST(PlayOrder, BehindARowThatHasGoneComesWhatTookItsPlace)
+{
+    struct Case
+    {
+        int before, count, next;
+    };
+    for (const RepeatAxis repeat : {RepeatAxis::None, RepeatAxis::List, RepeatAxis::Track}) {
+        PlayOrderState state = seeded(OrderAxis::Sequential, repeat);
+        const int first = repeat == RepeatAxis::List ? 0 : -1;
+        for (const Case &each : {Case{-1, 3, 0}, Case{0, 3, 1}, Case{2, 3, first}, Case{-1, 0, -1}}) {
+            EXPECT_EQ(peekNextRow(state, each.before, each.count, true), each.next) << each.before;
+            EXPECT_EQ(advanceRow(state, each.before, each.count, true).value_or(-1), each.next);
+        }
+    }
+}
+
+TEST(PlayOrder, AtRandomARowThatHasGoneMarksNoOtherAsPlayed)
+{
+    for (unsigned seed = 0; seed < 50; ++seed) {
+        PlayOrderState state = seeded(OrderAxis::Random, RepeatAxis::None, seed);
+        const int peeked = peekNextRow(state, 1, 3, true);
+        const std::optional<int> first = advanceRow(state, 1, 3, true);
+        ASSERT_TRUE(first);
+        EXPECT_EQ(*first, peeked);
+        std::vector<int> rows = rowsAfter(state, *first, 3);
+        rows.push_back(*first);
+        EXPECT_EQ(std::set<int>(rows.begin(), rows.end()), (std::set{0, 1, 2}));
+        EXPECT_EQ(rows.size(), 3U);
+    }
+    PlayOrderState one = seeded(OrderAxis::Random, RepeatAxis::None);
+    EXPECT_EQ(advanceRow(one, -1, 1, true), 0);
+}

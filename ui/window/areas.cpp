@@ -91,10 +91,9 @@ void PlayerGuiWindow::setSideWidth(int width, bool log)
 void PlayerGuiWindow::resetLayout()
 {
     m_sideWidth = settings::sideWidth.fallback.value();
-    SettingsStore file;
-    QSettingsAccess store(file);
+    UserSettings store;
     writeSetting(store, settings::sideWidth, m_sideWidth);
-    file.remove(settings::geometry.key);
+    store.remove(settings::geometry.key);
     if (isMaximized())
         showNormal();
     resize(initialSize);

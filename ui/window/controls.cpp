@@ -1,6 +1,8 @@
 // What the window's controls set going.
 #include "ui/window/player_gui_window.h"
 
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
 #include "playback/playlist_widget.h"
 #include "playback/row_order.h"
 #include "ui/dock_bar.h"
@@ -59,10 +61,12 @@ void PlayerGuiWindow::connectTransport()
     connect(this, &PlayerGuiWindow::abLoopShown, m_ui.progress, &ProgressRow::showLoop);
     connect(dock.volume, &QSlider::valueChanged, this, [this](int value) {
         m_volumeTouched = true;
+        // A volume that is just fading out was not chosen.
+        if (m_transport.sleep.volumeBefore < 0)
+            writeUserSetting(settings::volume, value);
         if (sessionRuns())
             sendCmd(u"vol %1"_s.arg(value));
     });
-    connect(dock.volume, &QSlider::sliderReleased, this, &PlayerGuiWindow::saveParams);
     connect(dock.mute, &QPushButton::clicked, this, &PlayerGuiWindow::toggleMute);
     connect(dock.miniCover, &QAbstractButton::clicked, this, &PlayerGuiWindow::showPlayingRow);
 }

@@ -40,7 +40,7 @@ void PlayerGuiWindow::showHelp()
            "右栏说明样本经过了什么。只有读回了设备收到的数据，才会说“送达已验证”。"
            "“位完美自检”逐项检查。\n"));
     text->append(tr("日志文件: %1").arg(GuiLogFile::ofProcess().path()));
-    text->append(tr("设置文件: %1").arg(SettingsStore().fileName()));
+    text->append(tr("设置文件: %1").arg(userSettingsFile().path()));
     text->moveCursor(QTextCursor::Start);
     auto *buttons = new QDialogButtonBox(dialog);
     QPushButton *close = buttons->addButton(tr("关闭"), QDialogButtonBox::RejectRole);

@@ -44,8 +44,7 @@ void PlayerGuiWindow::tellWhyScopeIsEmpty()
 {
     QString why;
     if (m_start.uiPlaying) {
-        SettingsStore file;
-        const bool asked = vizModeAtTrackStart(QSettingsAccess(file)) & vizBit::scope;
+        const bool asked = vizModeAtTrackStart(UserSettings()) & vizBit::scope;
         why = asked ? tr("正在等待波形") : tr("示波器已关闭，没有波形");
     }
     m_ui.instruments->scope()->setIdleText(why);

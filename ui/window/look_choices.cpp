@@ -17,8 +17,7 @@ namespace {
 
 LookChoices storedLook(int sideWidth)
 {
-    SettingsStore file;
-    const QSettingsAccess store(file);
+    const UserSettings store;
     LookChoices look;
     look.theme = readSetting(store, settings::theme);
     look.coverAccent = readSetting(store, settings::coverAccent);

@@ -1,5 +1,6 @@
 #include "ui/window/player_gui_window.h"
 
+#include "app/settings_store.h"
 #include "engine/telemetry_mailbox.h"
 #include "ui/keyboard_focus.h"
 #include "ui/style_sheet.h"
@@ -52,6 +53,7 @@ PlayerGuiWindow::~PlayerGuiWindow()
     m_link.session.reset();
     if (m_link.mailbox)
         m_link.mailbox->close();
+    userSettingsFile().flush();
 }
 
 void PlayerGuiWindow::startUpdateCheck(bool) {}

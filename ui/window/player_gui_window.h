@@ -401,6 +401,8 @@ private:
     void noteDragKey();
     void orderChanged();
     void followRows(const PlaylistChange &change);
+    /// A row that had gone and is in the list again is what plays.
+    void refindCurrentRow();
 
     // ── output/window ──
     void beginDeviceListing();

@@ -1,0 +1,120 @@
+#include "platform/settings_file.h"
+
+#include <QFile>
+#include <QSettings>
+#include <sys/stat.h>
+
+namespace {
+
+/// A slider that is drawn makes sixty changes in a second.
+constexpr int restMs = 250;
+
+void put(SettingsChanges &values, const SettingsChanges &changes)
+{
+    for (auto change = changes.begin(); change != changes.end(); ++change) {
+        if (change.value().isValid())
+            values.insert(change.key(), change.value());
+        else
+            values.remove(change.key());
+    }
+}
+
+} // namespace
+
+SettingsFile::SettingsFile(Open open)
+    : m_open(std::move(open))
+    , m_path(m_open()->fileName())
+{
+    m_pool.setMaxThreadCount(1);
+    m_pool.setExpiryTimeout(-1);
+    std::tie(m_values, m_stamp) = exchangeWithDisk({});
+}
+
+SettingsFile::~SettingsFile()
+{
+    flush();
+}
+
+QVariant SettingsFile::value(const QString &key)
+{
+    const QMutexLocker lock(&m_mutex);
+    seeOthersChanges();
+    return m_values.value(key);
+}
+
+void SettingsFile::apply(const SettingsChanges &changes)
+{
+    if (changes.isEmpty())
+        return;
+    const QMutexLocker lock(&m_mutex);
+    seeOthersChanges();
+    put(m_values, changes);
+    m_waiting.insert(changes);
+    if (!std::exchange(m_writing, true))
+        m_pool.start([this] { writeWaiting(); });
+}
+
+void SettingsFile::seeOthersChanges()
+{
+    // While this program writes it knows best; afterwards the writing thread has read it all anew.
+    if (!m_writing && stampOf(m_path) != m_stamp)
+        std::tie(m_values, m_stamp) = exchangeWithDisk({});
+}
+
+void SettingsFile::flush()
+{
+    const QMutexLocker lock(&m_mutex);
+    ++m_flushing;
+    m_hurried.wakeAll();
+    while (m_writing)
+        m_idle.wait(&m_mutex);
+    --m_flushing;
+}
+
+SettingsFile::Stamp SettingsFile::stampOf(const QString &path)
+{
+    struct stat facts = {};
+    if (::stat(QFile::encodeName(path).constData(), &facts) != 0)
+        return {};
+    constexpr qint64 nanoseconds = 1'000'000'000;
+    return {static_cast<qint64>(facts.st_ino), static_cast<qint64>(facts.st_size),
+            facts.st_mtim.tv_sec * nanoseconds + facts.st_mtim.tv_nsec};
+}
+
+std::pair<SettingsChanges, SettingsFile::Stamp>
+SettingsFile::exchangeWithDisk(const SettingsChanges &changes) const
+{
+    const std::unique_ptr<QSettings> file = m_open();
+    for (auto change = changes.begin(); change != changes.end(); ++change) {
+        if (change.value().isValid())
+            file->setValue(change.key(), change.value());
+        else
+            file->remove(change.key());
+    }
+    file->sync();
+    // Of before the reading: what others change from here on is noticed.
+    const Stamp stamp = stampOf(m_path);
+    file->sync();
+    SettingsChanges values;
+    for (const QString &key : file->allKeys())
+        values.insert(key, file->value(key));
+    return {std::move(values), stamp};
+}
+
+void SettingsFile::writeWaiting()
+{
+    QMutexLocker lock(&m_mutex);
+    while (!m_waiting.isEmpty()) {
+        const SettingsChanges batch = std::exchange(m_waiting, {});
+        lock.unlock();
+        auto [values, stamp] = exchangeWithDisk(batch);
+        lock.relock();
+        m_values = std::move(values);
+        m_stamp = stamp;
+        put(m_values, m_waiting);
+        if (m_flushing == 0)
+            m_hurried.wait(&m_mutex, restMs);
+    }
+    m_writing = false;
+    m_idle.wakeAll();
+}
