@@ -92,6 +92,7 @@ bool takeSingleInstanceGuard()
 
 void setPaletteAndIdentity()
 {
+    // The look's own from the first widget on: one that gave way to it would have every widget told twice.
     QApplication::setPalette(theme::applicationPalette());
     QApplication::setStyle(u"Fusion"_s);
     // The application's, so that dialogs have it too, and before any widget could take another.

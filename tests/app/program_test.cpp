@@ -130,8 +130,11 @@ TEST_F(Program, AStoredLanguageIsBeatenByTheEnvironments)
     }
 }
 
-TEST_F(Program, AHangingStartIsEndedByTheWatchdog)
+TEST_F(Program, AHangingStartIsSampledAndEndedByTheWatchdog)
 {
+    const QString samples = m_root.filePath(u"samples"_s);
+    set(u"KELP_GUI_STACK_WATCH"_s, u"1"_s);
+    set(u"KELP_GUI_STALL_LOG"_s, samples);
     set(u"KELP_GUI_SMOKE"_s, u"1"_s);
     set(u"KELP_SMOKE_HANG_TEST"_s, u"1"_s);
     QProcess process;
@@ -140,6 +143,12 @@ TEST_F(Program, AHangingStartIsEndedByTheWatchdog)
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 97);
     EXPECT_TRUE(process.readAllStandardError().contains("KELP_SMOKE_HANG watchdog(thread): 12 s"));
+    QFile file(samples);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray text = file.readAll();
+    EXPECT_TRUE(text.startsWith("STALLSAMPLE stall_ms=4000\n ip=")) << text.constData();
+    EXPECT_TRUE(text.contains("STALLSAMPLE stall_ms=8000\n")) << text.constData();
+    EXPECT_TRUE(text.contains("runSelfCheck")) << text.constData();
 }
 
 TEST_F(Program, ADashArgumentGoesToTheEngineEvenBesideAWindow)

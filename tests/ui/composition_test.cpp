@@ -27,6 +27,7 @@
 #include <QScreen>
 #include <QSpinBox>
 #include <QToolButton>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -306,6 +307,28 @@ TEST_F(Composition, KeysDoWhatTheirButtonsDo)
     EXPECT_FALSE(ui().setup->isVisible());
     QTest::keyClick(m_window.get(), Qt::Key_Escape);
     EXPECT_TRUE(m_window->isVisible()) << "the window itself is not to be lost by a key";
+}
+
+TEST_F(Composition, AWheelOverTheVolumeButtonTurnsTheVolume)
+{
+    show();
+    m_window->startPlayback(0);
+    const auto turn = [this](int angle) {
+        const QPointF at(5, 5);
+        QWheelEvent event(at, ui().dock->mute->mapToGlobal(at), {}, {0, angle}, {}, {}, Qt::NoScrollPhase,
+                          false);
+        QApplication::sendEvent(ui().dock->mute, &event);
+        EXPECT_TRUE(event.isAccepted());
+    };
+    turn(-120);
+    EXPECT_EQ(ui().dock->volume->value(), 95);
+    EXPECT_TRUE(m_engine.did(u"write vol 95"_s));
+    turn(-60);
+    EXPECT_EQ(ui().dock->volume->value(), 95) << "half a notch of a touchpad";
+    turn(-60);
+    EXPECT_EQ(ui().dock->volume->value(), 90);
+    turn(360);
+    EXPECT_EQ(ui().dock->volume->value(), 100) << "and no further";
 }
 
 TEST_F(Composition, WhatWasLoggedBeforeStandsInThePane)

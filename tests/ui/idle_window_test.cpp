@@ -7,6 +7,8 @@
 #include "ui/title_bar.h"
 #include "ui/tools_menu.h"
 
+#include <QDir>
+#include <QFile>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -65,6 +67,20 @@ TEST_F(IdleWindow, TheDisplayIsIdle)
         EXPECT_EQ(text(label.name), label.text) << qPrintable(label.name);
     EXPECT_EQ(spoken(u"vesperVfdTitle"_s), u"NO DISC"_s);
     EXPECT_EQ(spoken(u"vesperVfdArtist"_s), u"选择曲目或导入音频"_s);
+}
+
+TEST_F(IdleWindow, TheDiscThatAPathNamesStandsBehindTheTrack)
+{
+    addFiles(1);
+    ASSERT_TRUE(QDir(m_root.path()).mkdir(u"CD2"_s));
+    QFile file(m_root.filePath(u"CD2/a.wav"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    const int row = m_window->appendFile(file.fileName());
+    m_window->startPlayback(0);
+    EXPECT_EQ(text(u"vesperVfdMeta"_s), u"TRACK 01"_s);
+    m_window->startPlayback(row);
+    EXPECT_EQ(text(u"vesperVfdMeta"_s), u"TRACK 02 · DISC 2"_s);
 }
 
 TEST_F(IdleWindow, TheCardsAreNamedAndEmpty)

@@ -16,6 +16,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QToolButton>
+#include <QWheelEvent>
 
 using namespace Qt::StringLiterals;
 
@@ -68,6 +69,13 @@ void PlayerGuiWindow::connectTransport()
             sendCmd(u"vol %1"_s.arg(value));
     });
     connect(dock.mute, &QPushButton::clicked, this, &PlayerGuiWindow::toggleMute);
+    // A touchpad turns a notch in many parts.
+    connect(dock.mute, &IconButton::wheelTurned, this, [this, turned = 0](int angle) mutable {
+        turned += angle;
+        const int notches = turned / QWheelEvent::DefaultDeltasPerStep;
+        turned -= notches * QWheelEvent::DefaultDeltasPerStep;
+        turnVolume(notches);
+    });
     connect(dock.miniCover, &QAbstractButton::clicked, this, &PlayerGuiWindow::showPlayingRow);
 }
 
@@ -87,6 +95,12 @@ void PlayerGuiWindow::connectList()
     connect(library.removeRows, &QPushButton::clicked, this, &PlayerGuiWindow::removeSelectedRows);
     connect(library.clearList, &QPushButton::clicked, this, &PlayerGuiWindow::clearPlaylist);
     connectPlaylist();
+}
+
+void PlayerGuiWindow::turnVolume(int steps)
+{
+    constexpr int stepPercent = 5;
+    m_ui.dock->volume->setValue(m_ui.dock->volume->value() + steps * stepPercent);
 }
 
 void PlayerGuiWindow::toggleMute()

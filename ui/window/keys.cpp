@@ -10,12 +10,6 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-constexpr int volumeStep = 5;
-
-} // namespace
-
 void PlayerGuiWindow::buildShortcuts()
 {
     const auto key = [this](const QKeySequence &sequence, auto &&action) {
@@ -25,9 +19,8 @@ void PlayerGuiWindow::buildShortcuts()
     key(Qt::CTRL | Qt::Key_Left, [this] { stepRow(-1); });
     key(Qt::CTRL | Qt::Key_Right, [this] { stepRow(1); });
     key(Qt::CTRL | Qt::Key_Space, [this] { stopPlayback(); });
-    const auto turn = [this](int by) { m_ui.dock->volume->setValue(m_ui.dock->volume->value() + by); };
-    key(Qt::CTRL | Qt::Key_Up, [turn] { turn(volumeStep); });
-    key(Qt::CTRL | Qt::Key_Down, [turn] { turn(-volumeStep); });
+    key(Qt::CTRL | Qt::Key_Up, [this] { turnVolume(1); });
+    key(Qt::CTRL | Qt::Key_Down, [this] { turnVolume(-1); });
     key(Qt::CTRL | Qt::Key_O, [this] { m_ui.library->importFiles->click(); });
     key(Qt::CTRL | Qt::Key_Comma, [this] { openSetup(); });
     key(Qt::Key_F11, [this] { m_ui.title->toggleMaximised(); });

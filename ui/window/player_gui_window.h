@@ -262,6 +262,7 @@ private:
     void clearLog();
     void showHelp();
     void toggleMute();
+    void turnVolume(int steps); ///< of keys and wheel
     void showMessage(const QString &text);
     /// \param barValue 0 to progressBarMaximum
     void showPlace(int barValue);
