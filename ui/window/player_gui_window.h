@@ -73,6 +73,8 @@ public:
     bool isInProcessPreferred() const;
     /// Puts a fresh session in the place of the present one.
     void ensureSession();
+    /// A session that has ended makes room where the next start wants one of the other kind.
+    void dropSessionOfOtherKind();
     void checkControlClosure();
     bool sendCmd(const QString &line);
     bool sessionRuns() const;
