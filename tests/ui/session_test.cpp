@@ -224,6 +224,17 @@ TEST_F(HostCopy, HoldsEveryLineOfASessionInThisProcessBehindItsHeader)
     EXPECT_EQ(WindowInspector::link(*m_window).hostLineCount, 2);
 }
 
+TEST_F(HostCopy, TheLogTellsWhetherTheEnginesLogIsKept)
+{
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"引擎日志（本次会话，退出时删除）: "_s + m_root.filePath(u"engine.log"_s)));
+    m_engine.current->endWith(3);
+    settle();
+    writeUserSetting(settings::keepEngineLog, true);
+    m_window->startPlayback(1);
+    EXPECT_TRUE(logHas(u"引擎日志（保留，退出时不删）: "_s + m_root.filePath(u"engine.log"_s)));
+}
+
 TEST_F(HostCopy, AFreshStartAppendsToTheSameFile)
 {
     m_window->startPlayback(0);

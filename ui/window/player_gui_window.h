@@ -76,6 +76,8 @@ public:
     /// A session that has ended makes room where the next start wants one of the other kind.
     void dropSessionOfOtherKind();
     void checkControlClosure();
+    /// The one door for control lines, also of the worker that sends the effects'.
+    /// \return whether a session took the line
     bool sendCmd(const QString &line);
     bool sessionRuns() const;
     void onEngineLine(const QString &line, bool isStderr);
