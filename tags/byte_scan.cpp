@@ -4,7 +4,7 @@ namespace {
 
 // Twice as many places at once where the processor can; the program picks at its start, for which sanitizers
 // are not yet awake.
-#if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) &&                  \
+#if defined(__x86_64__) && defined(__GLIBC__) && defined(__GNUC__) && !defined(__clang__) &&                 \
     !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 #define KELP_WIDE_CLONES [[gnu::target_clones("avx2", "default")]]
 #else

@@ -9,8 +9,7 @@ LazyBytes::LazyBytes(ByteView bytes)
 {
 }
 
-LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer,
-                     uint64_t firstBytes)
+LazyBytes::LazyBytes(const FileReader &file, uint64_t offset, std::span<uint8_t> buffer, uint64_t firstBytes)
     : m_file(&file)
     , m_offset(offset)
     , m_size(buffer.size())

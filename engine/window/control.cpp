@@ -4,13 +4,25 @@
 #include "engine/control_report.h"
 
 #include <QElapsedTimer>
+#include <QThread>
 
 bool PlayerGuiWindow::sendCmd(const QString &line)
 {
-    if (const std::optional<QString> effect = effectNameOf(line))
-        m_link.fxLast.insert(*effect, line);
-    if (expectsSound(line))
-        startNoAudioTimer();
+    // An effects line is sent by a worker. What the window remembers and shows of it belongs to the GUI
+    // thread.
+    const bool onGuiThread = QThread::currentThread() == thread();
+    const auto onGui = [&](auto &&task) {
+        if (onGuiThread)
+            task();
+        else
+            QMetaObject::invokeMethod(this, std::forward<decltype(task)>(task), Qt::QueuedConnection);
+    };
+    onGui([this, line] {
+        if (const std::optional<QString> effect = effectNameOf(line))
+            m_link.fxLast.insert(*effect, line);
+        if (expectsSound(line))
+            startNoAudioTimer();
+    });
 
     QElapsedTimer clock;
     clock.start();
@@ -25,11 +37,13 @@ bool PlayerGuiWindow::sendCmd(const QString &line)
     facts.tookMs = clock.elapsed();
 
     const ControlSendReport report = controlSendReport(facts);
-    if (report.counts)
-        ++m_link.queuedCtlCount;
-    if (!report.slowComplaint.isEmpty())
-        logLine(report.slowComplaint, true);
-    logLine(report.logText, !report.taken);
+    onGui([this, report] {
+        if (report.counts)
+            ++m_link.queuedCtlCount;
+        if (!report.slowComplaint.isEmpty())
+            logLine(report.slowComplaint, true);
+        logLine(report.logText, !report.taken);
+    });
     return report.taken;
 }
 

@@ -112,6 +112,14 @@ void PlayerGuiWindow::addStallReporter()
     timer->start(stallTickMs);
 }
 
+void PlayerGuiWindow::dropSessionOfOtherKind()
+{
+    if (!m_link.session || m_link.session->isRunning())
+        return;
+    if (m_link.session->isInProcess() != factoryWantsInProcess(sessionOptions().kind))
+        m_link.session.reset();
+}
+
 void PlayerGuiWindow::checkControlClosure()
 {
     ControlClosureFacts facts;

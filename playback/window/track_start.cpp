@@ -53,6 +53,8 @@ void PlayerGuiWindow::playCurrentUnguarded()
     const TrackStartPlan plan = planTrackStart(facts);
     if (plan.rebuild)
         closeForRebuild();
+    if (!plan.reuse)
+        dropSessionOfOtherKind();
     m_start.lastStartedRow = m_start.currentRow;
 
     EngineArgsInput input = engineArgsInput();

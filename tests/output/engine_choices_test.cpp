@@ -45,6 +45,27 @@ TEST(EngineChoices, HarmonicsNeedATier)
     EXPECT_TRUE(withinRanges(choices).keepHarmonics);
 }
 
+TEST(EngineChoices, TheCodesOfEachChoiceInTheirOrder)
+{
+    const auto codes = [](const QList<ChoiceItem> &items) {
+        QStringList words;
+        for (const ChoiceItem &item : items)
+            words.append(item.code);
+        return words.join(u'|');
+    };
+    EXPECT_EQ(codes(engineItems::modes()), u"standard|differential|btl|crossover|pairs"_s);
+    EXPECT_EQ(codes(engineItems::layouts()), u"2|4|5|6|8"_s);
+    EXPECT_EQ(codes(engineItems::rigs()), u"|direct|bs775|all-channel-stereo|custom"_s);
+    EXPECT_EQ(codes(engineItems::dops()), u"auto|force|native"_s);
+    EXPECT_EQ(codes(engineItems::outputPaths()), u"auto|exclusive|shared"_s);
+    EXPECT_EQ(codes(engineItems::pcmBits()), u"16|24|32|float32"_s);
+    EXPECT_EQ(codes(engineItems::pcmFilters()), u"fast|standard|best"_s);
+    EXPECT_EQ(codes(engineItems::qualities()), u"fast|standard|best"_s);
+    EXPECT_EQ(codes(engineItems::replayGains()), u"0|1|2"_s);
+    EXPECT_EQ(codes(engineItems::dsdTargets()), u"2822400|5644800|11289600|22579200|45158400|90316800"_s);
+    EXPECT_EQ(codes(engineItems::dsdTaps()), u"0|2048|4096|8192|16384|32768"_s);
+}
+
 TEST(EngineChoices, EveryCodeOccursOnce)
 {
     for (const QList<ChoiceItem> &items :

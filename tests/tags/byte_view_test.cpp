@@ -1,7 +1,6 @@
 #include "tags/byte_view.h"
 
 #include "platform/file_reader.h"
-#include "tags/byte_scan.h"
 #include "tags/lazy_bytes.h"
 #include "tags/number_scan.h"
 #include "tests/tags/tags_support.h"
@@ -41,17 +40,6 @@ TEST(ByteView, NothingRunsOverTheEnd)
     EXPECT_EQ(ByteView().little16(0), 0U);
 }
 
-TEST(ByteScan, FindsAWordWhereverItStands)
-{
-    for (const size_t place : {0U, 1U, 254U, 255U, 256U, 257U, 600U, 997U}) {
-        Bytes bytes(1000, 'I');
-        std::copy_n("ID3", 3, bytes.begin() + static_cast<std::ptrdiff_t>(place));
-        EXPECT_EQ(findWord(ByteView(bytes), "ID3"), place);
-        EXPECT_EQ(findWord(ByteView(bytes), "ID3", place + 1), std::nullopt);
-    }
-    EXPECT_EQ(findWord(ByteView(), "ID3"), std::nullopt);
-}
-
 TEST(LazyBytes, ReadsNoFurtherThanAsked)
 {
     const kelp_test::TempDir folder;
@@ -67,6 +55,21 @@ TEST(LazyBytes, ReadsNoFurtherThanAsked)
     EXPECT_EQ(lazy.find("ID3"), 4095U) << "across the border of two readings";
     EXPECT_EQ(lazy.slice(49990, 100).size(), 10U);
     EXPECT_EQ(lazy.slice(60000, 1).size(), 0U);
+}
+
+TEST(LazyBytes, ASearchReadsItsFirstBytesBeforeTheRest)
+{
+    const kelp_test::TempDir folder;
+    for (const size_t place : {0U, 20000U, 31997U, 31998U, 31999U, 32000U, 49997U}) {
+        Bytes bytes(50000, 'x');
+        std::copy_n("ID3", 3, bytes.begin() + static_cast<std::ptrdiff_t>(place));
+        kelp_test::writeFile(folder.file("a"), bytes);
+        const FileReader file(folder.file("a"));
+        Bytes buffer(bytes.size());
+        LazyBytes lazy(file, 0, buffer, 32000);
+        EXPECT_EQ(lazy.find("ID3"), place);
+        EXPECT_EQ(lazy.loaded().size() == bytes.size(), place > 31997) << place;
+    }
 }
 
 TEST(LazyBytes, EndsWhereTheFileEnds)

@@ -1,4 +1,5 @@
-// The searches of the tag readers at their plainest, every place tried in turn: what the quick ones are held to.
+// The searches of the tag readers at their plainest, every place tried in turn: what the quick ones are held
+// to.
 #pragma once
 
 #include "tags/ascii.h"

@@ -1,9 +1,11 @@
 // The one door for control lines.
 #include "playback_fixture.h"
 
+#include "dsp/effects_worker.h"
 #include "ui/dock_bar.h"
 
 #include <QThread>
+#include <atomic>
 
 using namespace Qt::StringLiterals;
 
@@ -115,6 +117,28 @@ TEST_F(SendCmd, ALineThatTakesLongIsCalledOut)
     const qsizetype complaint = log.indexOf(u"发送 fx eq on 用了"_s);
     EXPECT_GE(complaint, 0);
     EXPECT_GT(log.indexOf(u"fx eq on -> queued 9B"_s), complaint) << "the line itself follows";
+}
+
+TEST_F(SendCmd, EffectsLinesComeFromTheirWorkerInOrder)
+{
+    startSession();
+    EffectsWorker worker;
+    QStringList expected;
+    std::atomic<int> taken{0};
+    for (int i = 0; i < 100; ++i) {
+        expected.append(u"write fx width %1"_s.arg(i));
+        worker.push([this, &taken](const QString &line) { taken += m_window->sendCmd(line); },
+                    expected.last().mid(6));
+    }
+    ASSERT_TRUE(worker.waitUntilIdle(std::chrono::seconds(30)));
+    EXPECT_EQ(taken, 100);
+    EXPECT_EQ(m_engine.lines(), expected);
+    EXPECT_TRUE(link().fxLast.isEmpty()) << "the window's memory is touched on its own thread only";
+    EXPECT_EQ(link().queuedCtlCount, 0);
+    settle();
+    EXPECT_EQ(link().fxLast.value(u"width"_s), u"fx width 99"_s);
+    EXPECT_EQ(link().queuedCtlCount, 100);
+    EXPECT_EQ(takeLog().count(u" -> queued "_s), 100);
 }
 
 class ControlLines : public PlaybackTest

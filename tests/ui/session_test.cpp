@@ -2,6 +2,7 @@
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
+#include "engine/session_factory.h"
 #include "platform/settings_table.h"
 
 #include <QFile>
@@ -166,6 +167,36 @@ TEST_F(Session, TheLagSelfTestFreezesTheWindowAndIsReported)
     EXPECT_TRUE(QTest::qWaitFor([this] { return logHas(u"[stall] "_s); }, 20000));
 }
 
+TEST_F(Session, AChangeOfItsKindTakesEffectAtTheNextStart)
+{
+    m_window.reset();
+    m_makeSession = [this](QObject *, const SessionOptions &options) {
+        m_engine.inProcess = factoryWantsInProcess(options.kind);
+        return std::make_unique<FakeSession>(m_engine);
+    };
+    makeWindow();
+    addFiles(2);
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"[gui] 播放会话: 进程内 (GUI 直接调播放器核)\n"_s));
+    writeUserSetting(settings::engineInproc, false);
+    m_window->stepRow(1);
+    EXPECT_EQ(m_engine.created, 1) << "a running session stays";
+    m_window->stopPlayback();
+    settle();
+    takeLog();
+    m_window->startPlayback(0);
+    EXPECT_EQ(m_engine.created, 2);
+    EXPECT_EQ(m_engine.destroyed, 1);
+    const QString log = takeLog();
+    EXPECT_TRUE(log.contains(u"独立进程 (KelpPlayerEngine.exe; 设置 engine/inproc=0 或设备降级时)\n"_s));
+    EXPECT_TRUE(log.contains(u"播放命令: "_s)) << "the line is announced as the new kind's";
+    m_window->stopPlayback();
+    settle();
+    m_window->startPlayback(1);
+    EXPECT_EQ(m_engine.created, 2) << "the same kind is used again";
+    EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying);
+}
+
 class HostCopy : public WindowTest
 {
 protected:
@@ -191,6 +222,17 @@ TEST_F(HostCopy, HoldsEveryLineOfASessionInThisProcessBehindItsHeader)
     EXPECT_EQ(engineLog(), "=== host-side copy (in-process session) ===\nLVL -1 -2\r\n  no end\n")
         << "as they came, and at once";
     EXPECT_EQ(WindowInspector::link(*m_window).hostLineCount, 2);
+}
+
+TEST_F(HostCopy, TheLogTellsWhetherTheEnginesLogIsKept)
+{
+    m_window->startPlayback(0);
+    EXPECT_TRUE(logHas(u"引擎日志（本次会话，退出时删除）: "_s + m_root.filePath(u"engine.log"_s)));
+    m_engine.current->endWith(3);
+    settle();
+    writeUserSetting(settings::keepEngineLog, true);
+    m_window->startPlayback(1);
+    EXPECT_TRUE(logHas(u"引擎日志（保留，退出时不删）: "_s + m_root.filePath(u"engine.log"_s)));
 }
 
 TEST_F(HostCopy, AFreshStartAppendsToTheSameFile)

@@ -88,7 +88,11 @@ public:
     bool isInProcessPreferred() const;
     /// Puts a fresh session in the place of the present one.
     void ensureSession();
+    /// A session that has ended makes room where the next start wants one of the other kind.
+    void dropSessionOfOtherKind();
     void checkControlClosure();
+    /// The one door for control lines, also of the worker that sends the effects'.
+    /// \return whether a session took the line
     bool sendCmd(const QString &line);
     bool sessionRuns() const;
     void onEngineLine(const QString &line, bool isStderr);
