@@ -50,8 +50,8 @@ LookControls::LookControls(QWidget *parent)
     explain(sideWidth, tr("右侧栏的宽度，200 到 420 像素；马上生效"));
     explain(coverAccent, tr("有封面的曲目播放时，强调色取自封面；否则用选定的颜色"));
     explain(reduceMotion, tr("仪表直接跳到新值，不做平滑和淡出"));
-    explain(spectrum, tr("请引擎送出频谱；从下一次播放会话起生效"));
-    explain(scope, tr("请引擎送出波形；从下一次播放会话起生效"));
+    explain(spectrum, tr("请引擎送出频谱；播放中也立即生效"));
+    explain(scope, tr("请引擎送出波形；播放中也立即生效"));
     explain(resetLayout, tr("窗口大小、位置和侧栏宽度回到默认值"));
     explain(pureDefaults, tr("关掉一切会改动样本的功能，再做一次位完美自检"));
 
