@@ -117,8 +117,8 @@ LanguageChoice installTranslator()
 
 void setWindowIcon()
 {
-    constexpr QSize size(256, 256);
-    QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, size));
+    const QList<QSize> sizes = {{32, 32}, {128, 128}};
+    QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, sizes));
 }
 
 void addAboutBlock(PlayerGuiWindow &window)

@@ -97,7 +97,7 @@ bool FittedTitle::breakLines(int pixels, bool mayElide)
 
 void FittedTitle::fit()
 {
-    if (m_text.isEmpty()) {
+    if (m_text.isEmpty() || !testAttribute(Qt::WA_Resized)) {
         // Not measured: that would load a font of a size that may never be shown.
         m_lines.clear();
         m_elided = false;

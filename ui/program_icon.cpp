@@ -7,54 +7,69 @@
 
 namespace {
 
-QImage decodedPng(const QString &path)
+using Pictures = QList<QImage>;
+
+Pictures picturesOf(const QString &path, const QList<QSize> &sizes)
 {
     QImageReader reader(path, QByteArrayLiteral("png"));
     reader.setAutoDetectImageFormat(false);
-    return reader.read();
+    const QImage whole = reader.read();
+    Pictures pictures;
+    for (const QSize &size : sizes)
+        pictures.append(whole.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    return pictures;
 }
 
 class ResourceEngine final : public QIconEngine
 {
 public:
-    ResourceEngine(const QString &path, const QSize &size)
-        : m_size(size)
-        , m_image(std::async(std::launch::async, decodedPng, path).share())
+    ResourceEngine(const QString &path, const QList<QSize> &sizes)
+        : m_sizes(sizes)
+        , m_pictures(std::async(std::launch::async, picturesOf, path, sizes).share())
     {
     }
 
     void paint(QPainter *painter, const QRect &rect, QIcon::Mode, QIcon::State) override
     {
         painter->setRenderHint(QPainter::SmoothPixmapTransform);
-        painter->drawImage(rect, m_image.get());
+        painter->drawImage(rect, pictureFor(rect.size()));
     }
 
-    QPixmap pixmap(const QSize &size, QIcon::Mode, QIcon::State) override
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
     {
-        const QImage &image = m_image.get();
-        const QSize fitting = image.size().scaled(size, Qt::KeepAspectRatio).boundedTo(image.size());
-        return QPixmap::fromImage(
-            image.size() == fitting ? image
-                                    : image.scaled(fitting, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        const QImage &picture = pictureFor(size);
+        const QSize fitting = actualSize(size, mode, state);
+        return QPixmap::fromImage(picture.size() == fitting ? picture
+                                                            : picture.scaled(fitting, Qt::KeepAspectRatio,
+                                                                             Qt::SmoothTransformation));
     }
 
     QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override
     {
-        return m_size.scaled(size, Qt::KeepAspectRatio).boundedTo(m_size);
+        return m_sizes.last().scaled(size, Qt::KeepAspectRatio).boundedTo(m_sizes.last());
     }
 
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {m_size}; }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return m_sizes; }
     bool isNull() override { return false; }
     QIconEngine *clone() const override { return new ResourceEngine(*this); }
 
 private:
-    QSize m_size;
-    std::shared_future<QImage> m_image;
+    /// The smallest that need not be enlarged.
+    const QImage &pictureFor(const QSize &size) const
+    {
+        qsizetype i = 0;
+        while (i + 1 < m_sizes.size() && m_sizes.at(i).width() < size.width())
+            ++i;
+        return m_pictures.get().at(i);
+    }
+
+    QList<QSize> m_sizes; ///< smallest first
+    std::shared_future<Pictures> m_pictures;
 };
 
 } // namespace
 
-QIcon programIcon(const QString &path, const QSize &size)
+QIcon programIcon(const QString &path, const QList<QSize> &sizes)
 {
-    return QIcon(new ResourceEngine(path, size));
+    return QIcon(new ResourceEngine(path, sizes));
 }

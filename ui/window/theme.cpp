@@ -24,6 +24,18 @@ enum ThemeChoice
     systemTheme,
 };
 
+/// Widgets that have not been shown yet ask their style all they want to know when they are. Told of a new
+/// sheet before, each would have its rules looked up twice.
+class UnshownStayQuiet final : public QObject
+{
+public:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        return event->type() == QEvent::StyleChange && watched->isWidgetType() &&
+               !static_cast<QWidget *>(watched)->testAttribute(Qt::WA_WState_Polished);
+    }
+};
+
 PlaylistColours playlistColours()
 {
     PlaylistColours colours;
@@ -82,8 +94,11 @@ void PlayerGuiWindow::applyTheme()
     const QPalette palette = theme::applicationPalette();
     if (palette != QApplication::palette())
         QApplication::setPalette(palette);
-    if (const QString sheet = styleSheetInForce(); sheet != styleSheet())
+    if (const QString sheet = styleSheetInForce(); sheet != styleSheet()) {
+        UnshownStayQuiet quiet;
+        qApp->installEventFilter(&quiet);
         setStyleSheet(sheet);
+    }
     if (auto *rows = qobject_cast<PlaylistDelegate *>(m_ui.playlist->itemDelegate()))
         rows->setColours(playlistColours());
     colourSelfCheck();
