@@ -9,8 +9,11 @@
 
 namespace {
 
-void compareSearches(ByteView bytes)
+/// Over as many bytes as a plain search goes through quickly, which are many blocks of the quick one.
+void compareSearches(ByteView all)
 {
+    constexpr uint64_t mostBytes = 6000;
+    const ByteView bytes = all.slice(0, mostBytes);
     const uint64_t from = bytes.at(0);
     for (const std::string_view word : {"ID3", "APETAGEX", "=="})
         if (findWord(bytes, word, from) != tags_test::naiveFind(bytes.text(), word, from) ||
