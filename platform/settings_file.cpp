@@ -2,12 +2,13 @@
 
 #include <QFile>
 #include <QSettings>
+#include <chrono>
 #include <sys/stat.h>
 
 namespace {
 
 /// A slider that is drawn makes sixty changes in a second.
-constexpr int restMs = 250;
+constexpr std::chrono::milliseconds rest(250);
 
 void put(SettingsChanges &values, const SettingsChanges &changes)
 {
@@ -25,19 +26,25 @@ SettingsFile::SettingsFile(Open open)
     : m_open(std::move(open))
     , m_path(m_open()->fileName())
 {
-    m_pool.setMaxThreadCount(1);
-    m_pool.setExpiryTimeout(-1);
     std::tie(m_values, m_stamp) = exchangeWithDisk({});
 }
 
 SettingsFile::~SettingsFile()
 {
     flush();
+    if (!m_thread.joinable())
+        return;
+    {
+        const std::lock_guard lock(m_mutex);
+        m_ending = true;
+    }
+    m_work.notify_all();
+    m_thread.join();
 }
 
 QVariant SettingsFile::value(const QString &key)
 {
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     seeOthersChanges();
     return m_values.value(key);
 }
@@ -46,12 +53,15 @@ void SettingsFile::apply(const SettingsChanges &changes)
 {
     if (changes.isEmpty())
         return;
-    const QMutexLocker lock(&m_mutex);
+    const std::lock_guard lock(m_mutex);
     seeOthersChanges();
     put(m_values, changes);
     m_waiting.insert(changes);
-    if (!std::exchange(m_writing, true))
-        m_pool.start([this] { writeWaiting(); });
+    m_writing = true;
+    if (m_thread.joinable())
+        m_work.notify_all();
+    else
+        m_thread = std::thread([this] { writeUntilTheEnd(); });
 }
 
 void SettingsFile::seeOthersChanges()
@@ -63,11 +73,10 @@ void SettingsFile::seeOthersChanges()
 
 void SettingsFile::flush()
 {
-    const QMutexLocker lock(&m_mutex);
+    std::unique_lock lock(m_mutex);
     ++m_flushing;
-    m_hurried.wakeAll();
-    while (m_writing)
-        m_idle.wait(&m_mutex);
+    m_hurried.notify_all();
+    m_idle.wait(lock, [this] { return !m_writing; });
     --m_flushing;
 }
 
@@ -101,20 +110,24 @@ SettingsFile::exchangeWithDisk(const SettingsChanges &changes) const
     return {std::move(values), stamp};
 }
 
-void SettingsFile::writeWaiting()
+void SettingsFile::writeUntilTheEnd()
 {
-    QMutexLocker lock(&m_mutex);
-    while (!m_waiting.isEmpty()) {
-        const SettingsChanges batch = std::exchange(m_waiting, {});
-        lock.unlock();
-        auto [values, stamp] = exchangeWithDisk(batch);
-        lock.relock();
-        m_values = std::move(values);
-        m_stamp = stamp;
-        put(m_values, m_waiting);
-        if (m_flushing == 0)
-            m_hurried.wait(&m_mutex, restMs);
+    std::unique_lock lock(m_mutex);
+    while (true) {
+        m_work.wait(lock, [this] { return m_ending || !m_waiting.isEmpty(); });
+        if (m_ending)
+            return;
+        while (!m_waiting.isEmpty()) {
+            const SettingsChanges batch = std::exchange(m_waiting, {});
+            lock.unlock();
+            auto [values, stamp] = exchangeWithDisk(batch);
+            lock.lock();
+            m_values = std::move(values);
+            m_stamp = stamp;
+            put(m_values, m_waiting);
+            m_hurried.wait_for(lock, rest, [this] { return m_flushing > 0; });
+        }
+        m_writing = false;
+        m_idle.notify_all();
     }
-    m_writing = false;
-    m_idle.wakeAll();
 }

@@ -3,13 +3,13 @@
 #pragma once
 
 #include <QHash>
-#include <QMutex>
 #include <QString>
-#include <QThreadPool>
 #include <QVariant>
-#include <QWaitCondition>
+#include <condition_variable>
 #include <functional>
 #include <memory>
+#include <mutex>
+#include <thread>
 
 class QSettings;
 
@@ -57,21 +57,23 @@ private:
 
     static Stamp stampOf(const QString &path);
     void seeOthersChanges(); ///< under the mutex
-    void writeWaiting();
+    void writeUntilTheEnd();
     /// Opens the file, puts the changes into it and reads what it then holds.
     std::pair<SettingsChanges, Stamp> exchangeWithDisk(const SettingsChanges &changes) const;
 
     const Open m_open;
     QString m_path;
 
-    QMutex m_mutex; ///< guards all of the following but the pool
-    QWaitCondition m_hurried;
-    QWaitCondition m_idle;
-    SettingsChanges m_values;  ///< with the ones that wait
-    SettingsChanges m_waiting; ///< not yet given to the disk
-    Stamp m_stamp;             ///< that m_values were read at
-    bool m_writing = false;    ///< the thread is at work or rests
-    int m_flushing = 0;        ///< how many wait for the end
+    std::mutex m_mutex;                ///< guards all of the following but the thread
+    std::condition_variable m_work;    ///< there is something to write, or the end has come
+    std::condition_variable m_hurried; ///< the thread is not to rest
+    std::condition_variable m_idle;    ///< it has nothing left to do
+    SettingsChanges m_values;          ///< with the ones that wait
+    SettingsChanges m_waiting;         ///< not yet given to the disk
+    Stamp m_stamp;                     ///< that m_values were read at
+    bool m_writing = false;            ///< something is not yet written, or the thread rests after it
+    int m_flushing = 0;                ///< how many wait for the end
+    bool m_ending = false;
 
-    QThreadPool m_pool; ///< of one thread; last, so that it ends first
+    std::thread m_thread; ///< since the first change
 };

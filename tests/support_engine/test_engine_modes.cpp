@@ -204,13 +204,16 @@ void hangUntil(const std::string &releaseFile, bool ownProcess)
 std::optional<int> playScript(const std::string &path, bool ownProcess)
 {
     std::istringstream words(path.substr(path.rfind('/') + 1));
+    std::string total = "100";
     for (std::string word; std::getline(words, word, '.');) {
         const auto behind = [&word](const char *start) -> std::optional<std::string> {
             return word.starts_with(start) ? std::optional(word.substr(std::strlen(start))) : std::nullopt;
         };
         if (auto seconds = behind("at")) {
             std::replace(seconds->begin(), seconds->end(), '_', '.');
-            say("PG " + *seconds + " " + *seconds + " 100");
+            say("PG " + *seconds + " " + *seconds + " " + total);
+        } else if (const auto length = behind("of")) {
+            total = *length;
         } else if (const auto code = behind("exit")) {
             return std::atoi(code->c_str());
         } else if (word == "done") {

@@ -96,6 +96,130 @@ TEST_P(ScriptedEngine, EndsBeforeTheEndStopTheList)
     EXPECT_EQ(start().currentRow, 0);
 }
 
+TEST_P(ScriptedEngine, EachCodeAtEachPositionEndsAsItShould)
+{
+    struct Case
+    {
+        const char *script;
+        const char *said;
+        bool goesOn;
+    };
+    const Case cases[] = {
+        {"exit0", "未到结尾就结束（0.0%）", false},
+        {"exit1", "播放器异常退出，代码: 1", false},
+        {"exit3", "播放已停止", false},
+        {"at50.exit0", "未到结尾就结束（50.0%）", false},
+        {"at50.exit1", "播放器异常退出，代码: 1", false},
+        {"at50.exit3", "播放已停止", false},
+        {"at94_9.exit0", "未到结尾就结束（94.9%）", false},
+        {"at94_9.exit1", "播放器异常退出，代码: 1", false},
+        {"at94_9.exit3", "播放已停止", false},
+        {"at95.exit0", "播放完成", true},
+        {"at95.exit1", "播放完成", true},
+        {"at95.exit3", "播放已停止", false},
+        {"at100.exit0", "播放完成", true},
+        {"at100.exit1", "播放完成", true},
+        {"at100.exit3", "播放已停止", false},
+    };
+    QStringList names;
+    for (const Case &each : cases)
+        names << u"t%1.%2.wav"_s.arg(names.size(), 2, 10, QChar(u'0')).arg(QLatin1StringView(each.script))
+              << u"next%1.at12.wav"_s.arg(names.size());
+    list(names);
+    int row = 0;
+    for (const Case &each : cases) {
+        takeLog();
+        QString log;
+        m_window->startPlayback(row);
+        ASSERT_TRUE(eventually([&] {
+            log += takeLog();
+            return log.contains(QString::fromUtf8(each.said));
+        })) << each.script;
+        if (each.goesOn) {
+            EXPECT_TRUE(eventually([&] { return progress().progressPercent == 12.; })) << each.script;
+            m_window->stopPlayback();
+        }
+        EXPECT_TRUE(waitIdle()) << each.script;
+        EXPECT_EQ(start().currentRow, row + (each.goesOn ? 1 : 0)) << each.script;
+        row += 2;
+    }
+}
+
+TEST_P(ScriptedEngine, AStopInTheMiddleEndsIdleAndTheNextStartIsANewSession)
+{
+    list({u"a.at50.wav"_s, u"b.at30.wav"_s});
+    m_window->startPlayback(0);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 50.; }));
+    m_window->stopPlayback();
+    ASSERT_TRUE(waitIdle());
+    EXPECT_TRUE(waitLog(u"播放已停止"_s));
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 50.);
+    m_window->startPlayback(1);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 30.; }));
+    EXPECT_EQ(starts(), 2);
+}
+
+TEST_P(ScriptedEngine, ADoubleClickWhileLoadingEndsWithTheLastOneChosen)
+{
+    list({u"a.at50.wav"_s, u"b.at40.wav"_s, u"c.at30.wav"_s});
+    m_window->startPlayback(0);
+    m_window->startPlayback(2);
+    m_window->startPlayback(1);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 40.; }));
+    EXPECT_EQ(told().filter(QRegularExpression(u"^load "_s)), (QStringList{load(0), load(2), load(1)}));
+    EXPECT_EQ(starts(), 1);
+    EXPECT_EQ(start().playingRow, 1);
+    EXPECT_TRUE(start().uiPlaying);
+}
+
+TEST_P(ScriptedEngine, ADeviceChangedWhileATrackStartsIsOpenedForTheNext)
+{
+    list({u"a.at50.wav"_s, u"b.at30.wav"_s});
+    m_window->startPlayback(0);
+    ui().device->setCurrentIndex(2);
+    m_window->startPlayback(1);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 30.; }));
+    EXPECT_EQ(starts(), 2);
+    EXPECT_EQ(start().playingRow, 1);
+    EXPECT_TRUE(start().uiPlaying);
+    EXPECT_FALSE(start().sessionClosing);
+    EXPECT_TRUE(logHas(u"设备或布局有变"_s));
+    EXPECT_FALSE(logHas(u"强制结束它"_s));
+}
+
+TEST_P(ScriptedEngine, AFileDeletedWhileItPlaysIsPlayedToItsEndAndSkippedNextTime)
+{
+    list({u"a.at50.wav"_s, u"b.at30.wav"_s});
+    m_window->startPlayback(0);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 50.; }));
+    ASSERT_TRUE(QFile::remove(fileAt(0)));
+    EXPECT_TRUE(start().uiPlaying);
+    m_window->startPlayback(0);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 30.; }));
+    EXPECT_TRUE(logHas(u"跳过（文件不存在）: "_s + fileAt(0)));
+    EXPECT_EQ(start().playingRow, 1);
+    EXPECT_EQ(starts(), 1);
+}
+
+TEST_P(ScriptedEngine, ATotalThatJumpsIsTheTrackThatWasHandedOver)
+{
+    list({u"a.of2.at0_9.wav"_s, u"b.of180.at0_95.done.wav"_s});
+    m_window->startPlayback(0);
+    ASSERT_TRUE(waitLog(u"自动换曲（无缝/交叉淡化）: 第 2/2 首"_s));
+    ASSERT_TRUE(waitLog(u"播放列表结束"_s));
+    EXPECT_EQ(start().playingRow, 1);
+}
+
+TEST_P(ScriptedEngine, APositionThatRunsBackALittleIsTheSameTrack)
+{
+    list({u"a.at99.at98_5.at12.wav"_s, u"b.wav"_s});
+    m_window->engineControls().gapless->setChecked(false);
+    m_window->startPlayback(0);
+    ASSERT_TRUE(eventually([this] { return progress().progressPercent == 12.; }));
+    EXPECT_EQ(start().playingRow, 0) << "nothing was handed over, so nothing can have begun";
+    EXPECT_FALSE(logHas(u"自动换曲"_s));
+}
+
 TEST_P(ScriptedEngine, ACodeOfOneBehindTheLastSecondsGoesOn)
 {
     list({u"a.at96.exit1.wav"_s, u"b.at50.wav"_s});

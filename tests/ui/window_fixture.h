@@ -21,6 +21,7 @@ struct WindowInspector
     static bool volumeTouched(PlayerGuiWindow &window) { return window.m_volumeTouched; }
     static PreloadState &preload(PlayerGuiWindow &window) { return window.m_preload; }
     static TrackProgressState &progress(PlayerGuiWindow &window) { return window.m_progress; }
+    static LogState &log(PlayerGuiWindow &window) { return window.m_log; }
     static EngineLineState &lines(PlayerGuiWindow &window) { return window.m_lines; }
     static InstrumentState &instruments(PlayerGuiWindow &window) { return window.m_instruments; }
     static SignalState &signal(PlayerGuiWindow &window) { return window.m_signal; }
