@@ -1121,14 +1121,6 @@
         <translation>تقفز المؤشرات إلى القيمة الجديدة بلا تنعيم ولا تلاشٍ</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>يطلب الطيف من المحرك؛ يسري من الجلسة التالية</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>يطلب شكل الموجة من المحرك؛ يسري من الجلسة التالية</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>حجم النافذة وموضعها وعرض العمود إلى القيم الافتراضية</translation>
     </message>
@@ -1143,6 +1135,14 @@
     <message>
         <source>侧栏宽度</source>
         <translation>عرض العمود</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>يطلب الطيف من المحرك؛ يسري فورًا، أثناء التشغيل أيضًا</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>يطلب شكل الموجة من المحرك؛ يسري فورًا، أثناء التشغيل أيضًا</translation>
     </message>
 </context>
 <context>

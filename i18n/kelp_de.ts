@@ -1121,14 +1121,6 @@ Titel %2</translation>
         <translation>Die Anzeigen springen auf den neuen Wert, ohne Glättung und Ausblenden</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Fordert das Spektrum von der Engine an; wirkt ab der nächsten Sitzung</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Fordert die Wellenform von der Engine an; wirkt ab der nächsten Sitzung</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Fenstergröße, Lage und Spaltenbreite auf die Vorgabe</translation>
     </message>
@@ -1143,6 +1135,14 @@ Titel %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Spaltenbreite</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Fordert das Spektrum von der Engine an; wirkt sofort, auch während der Wiedergabe</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Fordert die Wellenform von der Engine an; wirkt sofort, auch während der Wiedergabe</translation>
     </message>
 </context>
 <context>

@@ -1121,14 +1121,6 @@ Track %2</translation>
         <translation>Instruments jump to the new value, without smoothing or fading</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Asks the engine for a spectrum; takes effect with the next playback session</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Asks the engine for a waveform; takes effect with the next playback session</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Window size, position and side width go back to their defaults</translation>
     </message>
@@ -1143,6 +1135,14 @@ Track %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Side width</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Asks the engine for the spectrum; takes effect at once, also during playback</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Asks the engine for the waveform; takes effect at once, also during playback</translation>
     </message>
 </context>
 <context>

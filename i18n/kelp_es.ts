@@ -1121,14 +1121,6 @@ Pista %2</translation>
         <translation>Los instrumentos saltan al nuevo valor, sin suavizado ni fundido</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Pide el espectro al motor; desde la próxima sesión</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Pide la forma de onda al motor; desde la próxima sesión</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Tamaño, posición y ancho de columna predeterminados</translation>
     </message>
@@ -1143,6 +1135,14 @@ Pista %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Ancho de columna</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Pide el espectro al motor; surte efecto al instante, también durante la reproducción</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Pide la forma de onda al motor; surte efecto al instante, también durante la reproducción</translation>
     </message>
 </context>
 <context>

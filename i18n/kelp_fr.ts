@@ -1121,14 +1121,6 @@ Piste %2</translation>
         <translation>Les instruments sautent à la nouvelle valeur, sans lissage ni fondu</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Demande le spectre au moteur ; dès la prochaine session</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Demande la forme d’onde au moteur ; dès la prochaine session</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Taille, position et largeur de colonne par défaut</translation>
     </message>
@@ -1143,6 +1135,14 @@ Piste %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Largeur de colonne</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Demande le spectre au moteur ; prend effet aussitôt, même pendant la lecture</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Demande la forme d’onde au moteur ; prend effet aussitôt, même pendant la lecture</translation>
     </message>
 </context>
 <context>

@@ -1121,14 +1121,6 @@
         <translation>儀表直接跳到新值，不做平滑與淡出</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>請引擎送出頻譜；從下一次播放工作階段起生效</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>請引擎送出波形；從下一次播放工作階段起生效</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>視窗大小、位置與側欄寬度回到預設值</translation>
     </message>
@@ -1143,6 +1135,14 @@
     <message>
         <source>侧栏宽度</source>
         <translation>側欄寬度</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>請引擎送出頻譜；播放中也立即生效</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>請引擎送出波形；播放中也立即生效</translation>
     </message>
 </context>
 <context>

@@ -1121,14 +1121,6 @@
         <translation>メーターは滑らかにせず新しい値へ直接移ります</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>エンジンにスペクトラムを求めます。次の再生セッションから有効</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>エンジンに波形を求めます。次の再生セッションから有効</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>ウィンドウの大きさ・位置・側の列の幅を既定に戻します</translation>
     </message>
@@ -1143,6 +1135,14 @@
     <message>
         <source>侧栏宽度</source>
         <translation>側の列の幅</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>エンジンにスペクトラムを求めます。再生中でもすぐに有効になります</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>エンジンに波形を求めます。再生中でもすぐに有効になります</translation>
     </message>
 </context>
 <context>

@@ -1121,14 +1121,6 @@
         <translation>계기가 부드럽게 움직이지 않고 새 값으로 바로 바뀝니다</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>엔진에 스펙트럼을 요청합니다; 다음 재생 세션부터 적용됩니다</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>엔진에 파형을 요청합니다; 다음 재생 세션부터 적용됩니다</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>창 크기, 위치, 옆 열 너비를 기본값으로 되돌립니다</translation>
     </message>
@@ -1143,6 +1135,14 @@
     <message>
         <source>侧栏宽度</source>
         <translation>옆 열 너비</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>엔진에 스펙트럼을 요청합니다; 재생 중에도 바로 적용됩니다</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>엔진에 파형을 요청합니다; 재생 중에도 바로 적용됩니다</translation>
     </message>
 </context>
 <context>

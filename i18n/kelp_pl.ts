@@ -1121,14 +1121,6 @@ Utwór %2</translation>
         <translation>Wskaźniki skaczą do nowej wartości, bez wygładzania i wygaszania</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Prosi silnik o widmo; od następnej sesji</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Prosi silnik o przebieg; od następnej sesji</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Rozmiar, położenie i szerokość kolumny domyślne</translation>
     </message>
@@ -1143,6 +1135,14 @@ Utwór %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Szerokość kolumny</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Prosi silnik o widmo; działa od razu, także podczas odtwarzania</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Prosi silnik o przebieg; działa od razu, także podczas odtwarzania</translation>
     </message>
 </context>
 <context>

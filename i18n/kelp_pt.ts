@@ -1121,14 +1121,6 @@ Faixa %2</translation>
         <translation>Os instrumentos saltam para o novo valor, sem suavização nem esmaecimento</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Pede o espectro ao motor; a partir da próxima sessão</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Pede a forma de onda ao motor; a partir da próxima sessão</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Tamanho, posição e largura da coluna no padrão</translation>
     </message>
@@ -1143,6 +1135,14 @@ Faixa %2</translation>
     <message>
         <source>侧栏宽度</source>
         <translation>Largura da coluna</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Pede o espectro ao motor; vale imediatamente, também durante a reprodução</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Pede a forma de onda ao motor; vale imediatamente, também durante a reprodução</translation>
     </message>
 </context>
 <context>

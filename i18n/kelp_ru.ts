@@ -1121,14 +1121,6 @@
         <translation>Приборы сразу показывают новое значение, без сглаживания и затухания</translation>
     </message>
     <message>
-        <source>请引擎送出频谱；从下一次播放会话起生效</source>
-        <translation>Запрашивать у движка спектр; со следующего сеанса</translation>
-    </message>
-    <message>
-        <source>请引擎送出波形；从下一次播放会话起生效</source>
-        <translation>Запрашивать у движка осциллограмму; со следующего сеанса</translation>
-    </message>
-    <message>
         <source>窗口大小、位置和侧栏宽度回到默认值</source>
         <translation>Размер и место окна и ширина колонки — по умолчанию</translation>
     </message>
@@ -1143,6 +1135,14 @@
     <message>
         <source>侧栏宽度</source>
         <translation>Ширина колонки</translation>
+    </message>
+    <message>
+        <source>请引擎送出频谱；播放中也立即生效</source>
+        <translation>Запрашивать у движка спектр; действует сразу, и во время воспроизведения</translation>
+    </message>
+    <message>
+        <source>请引擎送出波形；播放中也立即生效</source>
+        <translation>Запрашивать у движка осциллограмму; действует сразу, и во время воспроизведения</translation>
     </message>
 </context>
 <context>
