@@ -8,6 +8,7 @@
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
 #include "platform/single_instance.h"
+#include "playback/playlist_widget.h"
 #include "ui/program_icon.h"
 #include "ui/style_sheet.h"
 #include "ui/theme.h"
@@ -51,6 +52,32 @@ void refuse()
     setPaletteAndIdentity();
     installTranslator();
     QMessageBox::information(nullptr, u"KelpPlayer"_s, refusalText(), QMessageBox::Ok);
+}
+
+/// Tells a step that has been done, for whoever looks into the order of the start with KELP_GUI_STEPS.
+void traceStep(const QString &step)
+{
+    if (!qEnvironmentVariableIsSet("KELP_GUI_STEPS"))
+        return;
+    std::fprintf(stderr, "[gui] KELP_GUI_STEPS: %s\n", qUtf8Printable(step));
+    std::fflush(stderr);
+}
+
+void preloadEngine()
+{
+    kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
+    std::thread([library] { library->preload(); }).detach();
+}
+
+/// The engine's library draws in dozens of others, and so is loaded before the first track has to wait for
+/// it; but they are a third of the program's memory, and with an empty list there is nothing to play.
+void preloadForRows(const QListWidget &list)
+{
+    if (list.count() > 0)
+        preloadEngine();
+    else
+        QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, qApp, preloadEngine,
+                         Qt::SingleShotConnection);
 }
 
 } // namespace
@@ -99,6 +126,7 @@ void setPaletteAndIdentity()
     QApplication::setFont(interfaceFont());
     QCoreApplication::setApplicationName(u"KelpPlayer"_s);
     QCoreApplication::setOrganizationName(u"KELP"_s);
+    traceStep(u"palette "_s + QApplication::palette().highlight().color().name());
 }
 
 LanguageChoice installTranslator()
@@ -112,6 +140,7 @@ LanguageChoice installTranslator()
     choice.code = installed.code;
     setFontLanguage(choice.code);
     QApplication::setFont(interfaceFont());
+    traceStep(u"language "_s + choice.code);
     return choice;
 }
 
@@ -119,6 +148,7 @@ void setWindowIcon()
 {
     const QList<QSize> sizes = {{32, 32}, {128, 128}};
     QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, sizes));
+    traceStep(u"icon"_s);
 }
 
 void addAboutBlock(PlayerGuiWindow &window)
@@ -126,6 +156,7 @@ void addAboutBlock(PlayerGuiWindow &window)
     auto *block = new AboutBlock(&window);
     QObject::connect(block, &AboutBlock::updateCheckRequested, &window,
                      [&window] { window.startUpdateCheck(true); });
+    traceStep(u"about"_s);
 }
 
 void showWindow(PlayerGuiWindow &window)
@@ -135,35 +166,37 @@ void showWindow(PlayerGuiWindow &window)
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
     window.show();
     window.noteShown();
-    // The engine's library draws in dozens of others: it is loaded a moment after the window is up, so that
-    // the first track need not wait for it and the first picture of the window need not share the processor
-    // with it.
-    QTimer::singleShot(preloadDelay, &window, [] {
-        kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
-        std::thread([library] { library->preload(); }).detach();
-    });
+    traceStep(u"shown"_s);
+    // Not with the first picture of the window, which need not share the processor.
+    QTimer::singleShot(preloadDelay, &window, [&window] { preloadForRows(*window.widgets().playlist); });
 }
 
 void startServices(PlayerGuiWindow &window)
 {
     window.restoreRemote();
+    traceStep(u"services"_s);
 }
 
 void startHeartbeat()
 {
     heartbeat::start();
+    traceStep(u"heartbeat"_s);
 }
 
 void startStackWatch()
 {
-    if (qEnvironmentVariableIsSet("KELP_GUI_STACK_WATCH"))
-        heartbeat::startStallSampler();
+    if (!qEnvironmentVariableIsSet("KELP_GUI_STACK_WATCH"))
+        return;
+    heartbeat::startStallSampler();
+    traceStep(u"stack watch"_s);
 }
 
 void startUpdateCheck(PlayerGuiWindow &window)
 {
-    if (qEnvironmentVariableIsEmpty("KELP_NO_UPDATE_CHECK"))
-        window.startUpdateCheck(false);
+    if (!qEnvironmentVariableIsEmpty("KELP_NO_UPDATE_CHECK"))
+        return;
+    window.startUpdateCheck(false);
+    traceStep(u"update check"_s);
 }
 
 void playCommandLineFile(PlayerGuiWindow &window, const QStringList &arguments)

@@ -7,20 +7,12 @@
 
 namespace {
 
-struct FaceOfFile
-{
-    const char *file = nullptr;
-    int index = 0;
-};
-
-bool readFace(const FcPattern *pattern, FaceOfFile &face)
+const char *fileOf(const FcPattern *pattern)
 {
     FcChar8 *file = nullptr;
-    if (FcPatternGetInteger(pattern, FC_INDEX, 0, &face.index) != FcResultMatch ||
-        FcPatternGetString(pattern, FC_FILE, 0, &file) != FcResultMatch)
-        return false;
-    face.file = reinterpret_cast<const char *>(file);
-    return true;
+    return FcPatternGetString(pattern, FC_FILE, 0, &file) == FcResultMatch
+               ? reinterpret_cast<const char *>(file)
+               : nullptr;
 }
 
 } // namespace
@@ -37,18 +29,18 @@ void warmUpFonts()
 
 FcPattern *fontOfNamedFile(const FcFontSet *set, const FcPattern *request)
 {
-    FaceOfFile wanted;
-    if (!set || !readFace(request, wanted))
+    const char *file = fileOf(request);
+    if (!set || !file)
         return nullptr;
     FcPattern *found = nullptr;
     for (int i = 0; i < set->nfont; ++i) {
-        FaceOfFile face;
-        if (!readFace(set->fonts[i], face) || face.index != wanted.index ||
-            std::strcmp(face.file, wanted.file) != 0)
+        FcPattern *font = set->fonts[i];
+        const char *itsFile = fileOf(font);
+        if (!itsFile || std::strcmp(itsFile, file) != 0)
             continue;
         if (found)
             return nullptr;
-        found = set->fonts[i];
+        found = font;
     }
     FcBool variable = FcFalse;
     if (found && FcPatternGetBool(found, FC_VARIABLE, 0, &variable) == FcResultMatch && variable)

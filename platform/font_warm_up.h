@@ -11,7 +11,7 @@
 /// first thing.
 void warmUpFonts();
 
-/// The font of the set that a request means which names a file and a face in it, as the toolkit's requests
-/// do. \return null where the request names none, where the set does not hold exactly one such font, and
+/// The font of the set that a request means which names a file, as the toolkit's requests do.
+/// \return null where the request names none, where the set does not hold exactly one font of that file, and
 /// where that font is variable: there the whole set has to be searched
 FcPattern *fontOfNamedFile(const FcFontSet *set, const FcPattern *request);

@@ -351,6 +351,11 @@ TEST_F(Program, TheStepsOfTheStartFollowEachOther)
     set(u"KELP_GUI_SHOT"_s, m_root.filePath(u"shot.png"_s));
     set(u"KELP_GUI_MOVEROW"_s, u"bad"_s);
     set(u"KELP_GUI_SMOKE"_s, u"1"_s);
+    set(u"KELP_GUI_STEPS"_s, u"1"_s);
+    set(u"KELP_GUI_STACK_WATCH"_s, u"1"_s);
+    // The check is begun; where it asks, nobody answers.
+    m_environment.remove(u"KELP_NO_UPDATE_CHECK"_s);
+    set(u"KELP_UPDATE_URL"_s, u"http://127.0.0.1:9/"_s);
     QProcess process;
     process.setProcessChannelMode(QProcess::MergedChannels);
     start(process, {music.fileName()});
@@ -360,8 +365,16 @@ TEST_F(Program, TheStepsOfTheStartFollowEachOther)
     for (const char *step : {
              "swept 1 empty + 0 aged session log dir(s)", // logs, before anything of the window
              "GetLastError=0 (183=ALREADY_EXISTS)",       // the single instance
+             "KELP_GUI_STEPS: palette #c9a96e",           // the palette
+             "KELP_GUI_STEPS: language en",               // the translator
+             "KELP_GUI_STEPS: icon",                      // the icon
              "=== KelpPlayer",                            // the window is made, in the language chosen before
-             "[shot] ",                                   // it is shown, and its picture taken
+             "KELP_GUI_STEPS: about",                     // the block of documents, with the check's button
+             "KELP_GUI_STEPS: shown",                     // the window is shown
+             "KELP_GUI_STEPS: heartbeat",                 // the beat that the next watches
+             "KELP_GUI_STEPS: stack watch",               // the stall sampler
+             "[shot] ",                                   // the picture
+             "KELP_GUI_STEPS: update check",              // the automatic check
              "Play command: ",                            // the file of the command line
              "KELP_GUI_MOVEROW bad spec='bad'",           // the other hooks
              "KELP_SMOKE_SIZE w=",                        // the self-check, from the event loop's threshold
@@ -370,6 +383,7 @@ TEST_F(Program, TheStepsOfTheStartFollowEachOther)
         ASSERT_GE(at, 0) << step << " is missing, or came too early:\n" << said.constData();
         from = at;
     }
+    EXPECT_EQ(said.count("KELP_GUI_STEPS: "), 9) << said.constData();
     EXPECT_TRUE(said.contains("KELP_SMOKE lang=en")) << "the language was chosen by then";
 }
 

@@ -22,6 +22,8 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     // The engine lists its devices while the widgets are built; populateDevicesBlocking waits for the rest.
     beginDeviceListing();
     setWindowTitle(u"Kelp Player"_s);
+    // The central widget covers all of it.
+    setAttribute(Qt::WA_OpaquePaintEvent);
     KeyboardFocus::install();
     loadTheme();
     buildInstrumentTimers();
