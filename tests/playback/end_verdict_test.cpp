@@ -51,6 +51,36 @@ INSTANTIATE_TEST_SUITE_P(Codes, EndVerdictByCode,
                                          CodeCase{94.9, 1, Kind::Failed}, CodeCase{100., 0, Kind::Finished},
                                          CodeCase{0., -1, Kind::Failed}, CodeCase{99., 3, Kind::Stopped}));
 
+TEST(EndVerdict, EachCodeAtEachPositionInBothKinds)
+{
+    for (const bool inProcess : {false, true}) {
+        for (const bool crashed : {false, true}) {
+            for (const double percent : {0., 1., 50., 94.9, 94.999, 95., 96., 100.}) {
+                for (const int code : {0, 1, 3, -1, 139}) {
+                    SessionEndFacts facts = endedAt(percent, code);
+                    facts.inProcess = inProcess;
+                    facts.crashed = crashed;
+                    const Kind expected = code == 3       ? Kind::Stopped
+                                          : percent < 95. ? Kind::Failed
+                                                          : Kind::Finished;
+                    const SessionEndVerdict verdict = sessionEndVerdict(facts);
+                    EXPECT_EQ(verdict.kind, expected) << percent << " %, code " << code;
+                    EXPECT_EQ(verdict.lines.first().isError, expected == Kind::Failed);
+                }
+            }
+        }
+    }
+}
+
+TEST(EndVerdict, ACrashWithCodeZeroIsNoCleanEnd)
+{
+    SessionEndFacts facts = endedAt(50., 0);
+    facts.crashed = true;
+    EXPECT_TRUE(sessionEndVerdict(facts).lines.first().text.contains(u"播放器异常退出"_s));
+    facts.crashed = false;
+    EXPECT_TRUE(sessionEndVerdict(facts).lines.first().text.contains(u"未到结尾就结束（50.0%）"_s));
+}
+
 TEST(EndVerdict, ACrashTellsTheEnginesLastLine)
 {
     SessionEndFacts facts = endedAt(10., 139);

@@ -236,6 +236,32 @@ TEST_P(RemovedRow, ASessionThatIsBegunAgainBeginsWithWhatTookItsPlace)
     EXPECT_EQ(takeLines(), QStringList{u"load "_s + m_files.at(1)});
 }
 
+TEST_P(RemovedRow, AStepByHandFromARowThatHasGoneIsTheFirstRow)
+{
+    m_window->startPlayback(2);
+    remove({2});
+    EXPECT_EQ(start().playingRow, -1);
+    takeLines();
+    m_window->stepRow(-1);
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_TRUE(takeLog().contains(u"已经是第一首"_s));
+    m_window->stepRow(1);
+    EXPECT_EQ(takeLines(), QStringList{u"load "_s + m_files.at(0)});
+    EXPECT_EQ(playedToTheEnd(), (QList{1, 3})) << "and from there the list goes on";
+}
+
+TEST_P(RemovedRow, ThePositionOfARemovedTrackIsStillItsOwn)
+{
+    m_window->startPlayback(0);
+    at(20.);
+    remove({0});
+    at(30.);
+    EXPECT_EQ(readUserSetting(settings::resumePath), m_files.at(0));
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 30.);
+    say(u"DONE x"_s);
+    EXPECT_TRUE(readUserSetting(settings::resumePath).isEmpty());
+}
+
 TEST_P(RemovedRow, AClearedListEndsWithTheTrack)
 {
     m_window->startPlayback(1);
