@@ -16,7 +16,8 @@ Pictures picturesOf(const QString &path, const QList<QSize> &sizes)
     const QImage whole = reader.read();
     Pictures pictures;
     for (const QSize &size : sizes)
-        pictures.append(whole.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+        pictures.append(whole.isNull() ? whole
+                                       : whole.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
     return pictures;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/system_scheme.h"
 #include "ui/cover_accent.h"
 #include "ui/light_look.h"
+#include "ui/program_icon.h"
 #include "ui/style_sheet.h"
 
 #include <QApplication>
@@ -35,6 +36,20 @@ QImage plain(const QColor &colour, QSize size = {64, 64})
 class Theme : public PaintedTest
 {
 };
+
+TEST(ProgramIcon, OffersItsSizesAndNeverEnlarges)
+{
+    const QList<QSize> sizes = {{32, 32}, {128, 128}};
+    const QIcon icon = programIcon(u":/icons/kelp.png"_s, sizes);
+    EXPECT_FALSE(icon.isNull());
+    EXPECT_EQ(icon.availableSizes(), sizes);
+    for (const auto &[asked, given] : {std::pair(16, 16), {32, 32}, {64, 64}, {128, 128}, {512, 128}}) {
+        const QImage picture = icon.pixmap(QSize(asked, asked)).toImage();
+        EXPECT_EQ(picture.size(), QSize(given, given)) << asked;
+        EXPECT_GT(qAlpha(picture.pixel(given / 2, given / 2)), 0) << asked;
+    }
+    EXPECT_TRUE(programIcon(u":/icons/none.png"_s, sizes).pixmap(32, 32).isNull());
+}
 
 TEST_F(Theme, TheDefaultsAreThoseOfTheDesign)
 {
