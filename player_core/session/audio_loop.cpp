@@ -18,6 +18,9 @@ constexpr auto longestHoldAnswer = std::chrono::seconds(2);
 constexpr double tapSec = 0.5;
 /// While nothing plays so little silence is kept in hand, so that the next track is heard at once.
 constexpr double idleFillSec = 0.04;
+/// So much is decoded before a deck is heard that did not follow another: a decoder that is held up in its
+/// first moments then leaves no hole. Less than what seals a deck's end, or a short track would never begin.
+constexpr double cushionSec = 0.08;
 
 /// A tenth of a second has ten chunks of this: short enough for quick answers, long enough to cost nothing.
 size_t chunkFor(const WireFormat &wire)
@@ -233,6 +236,7 @@ void AudioLoop::finishSwitch()
     fadeLength_ = 0;
     dsdCarry_ = 0;
     sounding_ = false;
+    cushioned_ = false;
     ramp_.jump(paused_ ? 0.0 : gain_);
 }
 
@@ -262,7 +266,17 @@ AudioLoop::Step AudioLoop::step()
         return Step::wait; // the first thing a device hears is music
     if (!current_ || (paused_ && (isDsd() || ramp_.settled())))
         return silence();
-    return playMusic();
+    return hasCushion() ? playMusic() : starve();
+}
+
+bool AudioLoop::hasCushion()
+{
+    if (!cushioned_) {
+        const auto wanted =
+            static_cast<size_t>(cushionSec * static_cast<double>(current_->plan().framesPerSecondOut()));
+        cushioned_ = current_->sealed() || current_->available() >= wanted;
+    }
+    return cushioned_;
 }
 
 AudioLoop::Step AudioLoop::starve()

@@ -132,6 +132,7 @@ private:
     void countAnew();
     Step silence();
     Step starve();
+    bool hasCushion();
     Step writeMusic(size_t wireFrames);
     Step writeOut(size_t wireFrames);
     Step writePcm(size_t frames, bool mixing);
@@ -185,6 +186,7 @@ private:
     bool dither_ = false;
     bool quit_ = false;
     bool sounding_ = false;      ///< the present track has begun
+    bool cushioned_ = false;     ///< the present deck had enough decoded to begin
     uint64_t clippedBefore_ = 0; ///< of the writer, at the start of the present track
     PlaybackState state_;
     std::chrono::steady_clock::time_point silenceUntil_{};

@@ -37,7 +37,10 @@ public:
         if (at_ >= end)
             return track_.failAt >= 0 ? ReadOutcome{ReadStatus::failed, "the file ends too early"}
                                       : ReadOutcome{};
-        const int64_t n = std::min<int64_t>(end - at_, static_cast<int64_t>(maxFrames));
+        if (at_ == track_.stallAt)
+            std::this_thread::sleep_for(track_.stall);
+        const int64_t until = at_ < track_.stallAt ? std::min(track_.stallAt, end) : end;
+        const int64_t n = std::min<int64_t>(until - at_, static_cast<int64_t>(maxFrames));
         if (track_.plain)
             block.dsd.assign(static_cast<size_t>(n * track_.format.channels), 0x96);
         for (int64_t f = at_; f < at_ + n && !track_.plain; ++f) {

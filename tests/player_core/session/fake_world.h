@@ -3,6 +3,7 @@
 #include "player_core/session/session.h"
 
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
@@ -21,7 +22,9 @@ struct FakeTrack
 {
     StreamFormat format{SignalKind::pcm, 44100, 2, 16, false};
     int64_t frames = 44100;
-    int64_t failAt = -1; ///< the frame at which reading fails
+    int64_t failAt = -1;  ///< the frame at which reading fails
+    int64_t stallAt = -1; ///< the frame at which reading waits once, so long
+    std::chrono::milliseconds stall{0};
     bool lengthKnown = true;
     uint32_t seed = 1; ///< gives each track samples of its own
     bool lossless = true;

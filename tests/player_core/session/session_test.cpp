@@ -50,6 +50,29 @@ FakeTrack dsdTrack(int64_t frames, uint32_t seed)
 
 } // namespace
 
+TEST(SessionTest, ADecoderThatIsHeldUpInItsFirstMomentsLeavesNoHole)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.bufferSec = 0.03;
+    world.tracks["/a.wav"] = pcmTrack(30'000, 7);
+    world.tracks["/a.wav"].stallAt = 44'100 / 20;
+    world.tracks["/a.wav"].stall = std::chrono::milliseconds(400);
+    world.tracks["/b.wav"] = world.tracks["/a.wav"];
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a.wav");
+    world.send("load /b.wav");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
+    world.send("stop");
+    world.wait();
+    std::vector<int16_t> heard = trimmed(world.written16());
+    const std::vector<int16_t> track = samplesOf(world.tracks["/a.wav"]);
+    ASSERT_GE(heard.size(), 2 * track.size());
+    EXPECT_TRUE(std::equal(track.begin(), track.end(), heard.begin())) << "the first";
+    EXPECT_TRUE(std::equal(track.rbegin(), track.rend(), heard.rbegin())) << "and the one after silence";
+}
+
 TEST(SessionTest, PlaysTheOnlySourceBitForBitAndEndsWithZero)
 {
     FakeWorld world;
