@@ -1,15 +1,25 @@
 #include "ui/setup_dialog.h"
 
+#include <QAbstractSpinBox>
+#include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSlider>
 #include <QVBoxLayout>
+#include <QWheelEvent>
 
 namespace {
 
 constexpr QSize initialSize(860, 640);
 constexpr QSize leastSize(520, 420);
+
+bool turnsWithTheWheel(const QWidget *widget)
+{
+    return qobject_cast<const QComboBox *>(widget) || qobject_cast<const QAbstractSpinBox *>(widget) ||
+           qobject_cast<const QSlider *>(widget);
+}
 
 } // namespace
 
@@ -52,4 +62,26 @@ void SetupDialog::addSection(const QString &title, QWidget *section)
         m_sections->insertWidget(place++, caption);
     }
     m_sections->insertWidget(place, section);
+}
+
+void SetupDialog::showEvent(QShowEvent *event)
+{
+    for (QWidget *widget : findChildren<QWidget *>()) {
+        if (!turnsWithTheWheel(widget))
+            continue;
+        if (widget->focusPolicy() == Qt::WheelFocus)
+            widget->setFocusPolicy(Qt::StrongFocus);
+        widget->installEventFilter(this);
+    }
+    QDialog::showEvent(event);
+}
+
+bool SetupDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    const auto *control = qobject_cast<QWidget *>(watched);
+    if (event->type() != QEvent::Wheel || !control || control->hasFocus())
+        return QDialog::eventFilter(watched, event);
+    // What is ignored goes on to the page.
+    event->ignore();
+    return true;
 }

@@ -17,6 +17,12 @@ public:
     /// \param section becomes a child of the dialog
     void addSection(const QString &title, QWidget *section);
 
+protected:
+    void showEvent(QShowEvent *event) override;
+    /// A wheel over a control that has not the focus scrolls the page: no setting changes by scrolling past
+    /// it.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QVBoxLayout *m_sections;
 };
