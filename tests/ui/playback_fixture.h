@@ -4,6 +4,7 @@
 
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
+#include "playback/playlist_widget.h"
 #include "window_fixture.h"
 
 #include <QTest>
@@ -53,6 +54,18 @@ protected:
         const QStringList fresh = lines.mid(m_linesTaken);
         m_linesTaken = lines.size();
         return fresh;
+    }
+    /// Adds the tracks of a sheet of the first file behind what is listed.
+    /// \return the last of them
+    PlaylistEntry appendSheet(int tracks)
+    {
+        PlaylistEntry entry;
+        entry.path = fileAt(0);
+        entry.cuePath = m_root.filePath(QStringLiteral("a.cue"));
+        for (entry.track = 1; entry.track <= tracks; ++entry.track)
+            ui().playlist->appendEntry(entry);
+        entry.track = tracks;
+        return entry;
     }
     QString load(int row) const { return QStringLiteral("load ") + fileAt(row); }
     bool eventually(const std::function<bool()> &condition) { return QTest::qWaitFor(condition, 30000); }

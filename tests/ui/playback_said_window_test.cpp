@@ -204,11 +204,7 @@ TEST_P(Said, ALoopThatCannotBeIsAnErrorAndOneThatBeginsIsNone)
 
 TEST_P(Said, ASegmentIsShownAsTheTrackThatPlays)
 {
-    PlaylistEntry entry;
-    entry.path = fileAt(0);
-    entry.cuePath = m_root.filePath(u"a.cue"_s);
-    for (entry.track = 1; entry.track <= 2; ++entry.track)
-        ui().playlist->appendEntry(entry);
+    appendSheet(2);
     m_window->startPlayback(3);
     say(u"SEG 0 100 2"_s);
     EXPECT_EQ(message(), u"正在播放… 5/5"_s);

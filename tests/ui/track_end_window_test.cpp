@@ -462,11 +462,7 @@ TEST_P(Preloading, RandomOrderPlaysTheTracksOfAnImageThatItShows)
 
 TEST_P(Preloading, ASheetsTrackThatMovedIsFoundByItsNumber)
 {
-    PlaylistEntry entry;
-    entry.path = fileAt(0);
-    entry.cuePath = m_root.filePath(u"a.cue"_s);
-    for (entry.track = 1; entry.track <= 3; ++entry.track)
-        ui().playlist->appendEntry(entry);
+    appendSheet(3);
     m_window->startPlayback(3);
     at(99.);
     ASSERT_TRUE(m_window->moveRow(4, 5)) << "track 2 behind track 3";
@@ -531,14 +527,9 @@ TEST_P(NoAudio, APauseIsNoSilence)
 
 TEST_P(TrackEnd, ASegmentIsTheLastPlayedRow)
 {
-    PlaylistEntry entry;
-    entry.path = fileAt(0);
-    entry.cuePath = m_root.filePath(u"a.cue"_s);
-    for (entry.track = 1; entry.track <= 2; ++entry.track)
-        ui().playlist->appendEntry(entry);
+    const PlaylistEntry entry = appendSheet(2);
     m_window->startPlayback(3);
     say(u"SEG 0 100 2"_s);
-    entry.track = 2;
     EXPECT_EQ(start().lastPlayedKey, rowKey(entry));
     EXPECT_EQ(readUserSetting(settings::lastPlayedKey), rowKey(entry));
     EXPECT_EQ(m_window->lastPlayedRow(), 4);

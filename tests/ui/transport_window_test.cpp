@@ -160,11 +160,7 @@ TEST_P(Transport, AFileThatVanishedBeforeItsTurnIsSkipped)
 
 TEST_P(Transport, TwoRowsOfOneSheetAreOneSession)
 {
-    PlaylistEntry entry;
-    entry.path = fileAt(0);
-    entry.cuePath = m_root.filePath(u"a.cue"_s);
-    for (entry.track = 1; entry.track <= 2; ++entry.track)
-        ui().playlist->appendEntry(entry);
+    const PlaylistEntry entry = appendSheet(2);
     m_window->startPlayback(3);
     EXPECT_TRUE(takeLines().isEmpty()) << "the command line names the track";
     EXPECT_TRUE(m_engine.startArgs.last().contains(entry.cuePath));

@@ -346,4 +346,38 @@ void FakeWorld::readLines()
     changed_.notify_all();
 }
 
+FakeTrack pcmTrack(int64_t frames, uint32_t seed, int rateHz)
+{
+    FakeTrack track;
+    track.frames = frames;
+    track.seed = seed;
+    track.format.rateHz = rateHz;
+    return track;
+}
+
+FakeTrack dsdTrack(int64_t frames, uint32_t seed)
+{
+    FakeTrack track;
+    track.format = {SignalKind::dsd, 2822400, 2, 1, false};
+    track.frames = frames;
+    track.seed = seed;
+    return track;
+}
+
+std::vector<int16_t> samplesOf(const FakeTrack &track, int64_t from, int64_t to)
+{
+    std::vector<int16_t> result;
+    for (int64_t f = from; f < (to < 0 ? track.frames : to); ++f)
+        for (int c = 0; c < track.format.channels; ++c)
+            result.push_back(fakeSample(track.seed, f, c));
+    return result;
+}
+
+std::vector<int16_t> trimmed(std::vector<int16_t> samples)
+{
+    while (!samples.empty() && samples.back() == 0)
+        samples.pop_back();
+    return samples;
+}
+
 } // namespace kelp_core::test

@@ -34,8 +34,17 @@ struct FakeTrack
     bool plain = false; ///< every byte of DSD the same, for very long tracks
 };
 
+/// A track of 16-bit PCM on two channels.
+FakeTrack pcmTrack(int64_t frames, uint32_t seed, int rateHz = 44100);
+/// A track of DSD64 on two channels.
+FakeTrack dsdTrack(int64_t frames, uint32_t seed);
+
 /// The 16-bit sample of a frame and channel; as DSD its low byte.
 int16_t fakeSample(uint32_t seed, int64_t frame, int channel);
+/// All samples of a track of PCM, or those between two frames.
+std::vector<int16_t> samplesOf(const FakeTrack &track, int64_t from = 0, int64_t to = -1);
+/// The samples without the silence at the end (tracks hold no zero).
+std::vector<int16_t> trimmed(std::vector<int16_t> samples);
 
 /// What a device took, and how it behaves.
 struct FakeDevice

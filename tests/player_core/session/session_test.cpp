@@ -13,41 +13,6 @@ namespace {
 
 const std::string ownPid = std::to_string(::getpid());
 
-std::vector<int16_t> samplesOf(const FakeTrack &track, int64_t from = 0)
-{
-    std::vector<int16_t> result;
-    for (int64_t f = from; f < track.frames; ++f)
-        for (int c = 0; c < track.format.channels; ++c)
-            result.push_back(fakeSample(track.seed, f, c));
-    return result;
-}
-
-/// The samples without the silence at the end (tracks hold no zero).
-std::vector<int16_t> trimmed(std::vector<int16_t> samples)
-{
-    while (!samples.empty() && samples.back() == 0)
-        samples.pop_back();
-    return samples;
-}
-
-FakeTrack pcmTrack(int64_t frames, uint32_t seed, int rateHz = 44100)
-{
-    FakeTrack track;
-    track.frames = frames;
-    track.seed = seed;
-    track.format.rateHz = rateHz;
-    return track;
-}
-
-FakeTrack dsdTrack(int64_t frames, uint32_t seed)
-{
-    FakeTrack track;
-    track.format = {SignalKind::dsd, 2822400, 2, 1, false};
-    track.frames = frames;
-    track.seed = seed;
-    return track;
-}
-
 } // namespace
 
 TEST(SessionTest, ADecoderThatIsHeldUpInItsFirstMomentsLeavesNoHole)

@@ -23,43 +23,10 @@ namespace {
 
 const std::string ownPid = std::to_string(::getpid());
 
-FakeTrack pcmTrack(int64_t frames, uint32_t seed)
-{
-    FakeTrack track;
-    track.frames = frames;
-    track.seed = seed;
-    return track;
-}
-
-FakeTrack dsdTrack(int64_t frames, uint32_t seed)
-{
-    FakeTrack track;
-    track.format = {SignalKind::dsd, 2822400, 2, 1, false};
-    track.frames = frames;
-    track.seed = seed;
-    return track;
-}
-
-std::vector<int16_t> samplesOf(const FakeTrack &track, int64_t from = 0, int64_t to = -1)
-{
-    std::vector<int16_t> result;
-    for (int64_t f = from; f < (to < 0 ? track.frames : to); ++f)
-        for (int c = 0; c < track.format.channels; ++c)
-            result.push_back(fakeSample(track.seed, f, c));
-    return result;
-}
-
 template<typename T>
 void append(std::vector<T> &to, const std::vector<T> &more)
 {
     to.insert(to.end(), more.begin(), more.end());
-}
-
-std::vector<int16_t> trimmed(std::vector<int16_t> samples)
-{
-    while (!samples.empty() && samples.back() == 0)
-        samples.pop_back();
-    return samples;
 }
 
 double secondsIn(const std::string &progress)
