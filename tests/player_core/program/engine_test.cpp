@@ -10,10 +10,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <thread>
 
+#include <malloc.h>
 #include <unistd.h>
 
 namespace kelp_core::test {
@@ -89,6 +92,15 @@ size_t residentKib()
     size_t resident = 0;
     statm >> total >> resident;
     return resident * static_cast<size_t>(::sysconf(_SC_PAGESIZE)) / 1024;
+}
+
+/// What the count comes to once it is not above the wanted one, or after five seconds: a reader that its
+/// closed queue has just let go may still be on its last instructions.
+size_t settled(size_t (*count)(), size_t wanted)
+{
+    for (int i = 0; i < 500 && count() > wanted; ++i)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    return count();
 }
 
 /// The bytes without the silence that a session feeds a device behind a track, which for noise is clear-cut.
@@ -184,6 +196,9 @@ TEST_F(EngineTest, AnUnknownDeviceEndsWithFour)
 
 TEST_F(EngineTest, AThousandSessionsLeaveNothingBehind)
 {
+    // On a busy machine threads meet in the allocator more often, and each meeting may found a heap of 2 to 3
+    // MiB that stays: no leak, and more than a leak that this test is to find.
+    ::mallopt(M_ARENA_MAX, 1);
     const std::string path = save("a.wav", wavBytes(ramp(500)));
     const auto session = [&] {
         EngineHost host;
@@ -192,16 +207,15 @@ TEST_F(EngineTest, AThousandSessionsLeaveNothingBehind)
     };
     for (int i = 0; i < 50; ++i)
         session(); // what is loaded and cached once
+    const size_t threads = settled(runningThreads, 1);
     const size_t descriptors = openDescriptors();
-    const size_t threads = runningThreads();
     const size_t memory = residentKib();
     for (int i = 0; i < 1'000; ++i)
         session();
-    EXPECT_EQ(openDescriptors(), descriptors);
-    // A reader that its closed queue has just let go may still be on its last instructions.
-    EXPECT_LE(runningThreads(), threads + 1);
+    EXPECT_EQ(settled(openDescriptors, descriptors), descriptors);
+    EXPECT_LE(settled(runningThreads, threads), threads);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    EXPECT_LT(residentKib(), memory + 4'096);
+    EXPECT_LT(residentKib(), memory + 1'024);
 #else
     (void)memory;
 #endif
