@@ -8,7 +8,8 @@
 namespace {
 
 /// A slider that is drawn makes sixty changes in a second.
-constexpr std::chrono::milliseconds rest(250);
+constexpr std::chrono::milliseconds shortestRest(250);
+constexpr int restsPerWriting = 19; ///< so that a long file's writings take a twentieth of the time at most
 
 void put(SettingsChanges &values, const SettingsChanges &changes)
 {
@@ -120,11 +121,14 @@ void SettingsFile::writeUntilTheEnd()
         while (!m_waiting.isEmpty()) {
             const SettingsChanges batch = std::exchange(m_waiting, {});
             lock.unlock();
+            const auto began = std::chrono::steady_clock::now();
             auto [values, stamp] = exchangeWithDisk(batch);
+            const auto took = std::chrono::steady_clock::now() - began;
             lock.lock();
             m_values = std::move(values);
             m_stamp = stamp;
             put(m_values, m_waiting);
+            const auto rest = std::max<std::chrono::nanoseconds>(shortestRest, restsPerWriting * took);
             m_hurried.wait_for(lock, rest, [this] { return m_flushing > 0; });
         }
         m_writing = false;

@@ -7,6 +7,7 @@
 #include <atomic>
 #include <gtest/gtest.h>
 #include <optional>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -134,6 +135,24 @@ TEST_F(SettingsFileTest, ABurstIsWrittenInFewWritings)
     file.flush();
     EXPECT_EQ(onDisk(u"vol"_s), u"100"_s);
     EXPECT_LE(m_opened, 2) << "the first, and the last of those that waited";
+}
+
+TEST_F(SettingsFileTest, AfterALongWritingItRestsLong)
+{
+    SettingsFile file([this] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200)); // as with a very long playlist
+        return opener()();
+    });
+    m_opened = 0;
+    for (int second = 1; second <= 10; ++second) {
+        file.apply({{secondsKey, second}});
+        std::this_thread::sleep_for(std::chrono::milliseconds(60));
+    }
+    EXPECT_EQ(file.value(secondsKey), 10) << "whoever reads sees the newest";
+    EXPECT_EQ(m_opened, 1) << "the second writing is nearly four seconds away";
+    file.flush();
+    EXPECT_EQ(onDisk(u"resume_sec"_s), u"10"_s) << "but whoever asks for the disk gets it";
+    EXPECT_EQ(m_opened, 2);
 }
 
 TEST_F(SettingsFileTest, WhatAnotherProgramChangesIsSeenAndKept)
