@@ -15,7 +15,8 @@ constexpr auto openTime = 3000ms;
 constexpr auto drainGrace = 500ms;
 constexpr auto dropTime = 500ms;
 constexpr pa_usec_t targetLatencyUs = 200'000;
-constexpr pa_usec_t startAfterUs = 50'000; ///< sound begins when so much is there
+constexpr pa_usec_t largestLatencyUs = 800'000; ///< after a stream has run dry twice
+constexpr pa_usec_t startAfterUs = 50'000;      ///< sound begins when so much is there
 constexpr double unityDb = 0.005;
 
 pa_sample_format_t pulseFormat(SampleEncoding encoding)
@@ -48,6 +49,17 @@ pa_sample_spec specOf(const WireFormat &wire)
     spec.rate = static_cast<uint32_t>(wire.frameRateHz);
     spec.channels = static_cast<uint8_t>(wire.channels);
     return spec;
+}
+
+pa_buffer_attr bufferFor(pa_usec_t latencyUs, const pa_sample_spec &spec)
+{
+    pa_buffer_attr buffer;
+    buffer.maxlength = static_cast<uint32_t>(-1);
+    buffer.tlength = static_cast<uint32_t>(pa_usec_to_bytes(latencyUs, &spec));
+    buffer.prebuf = static_cast<uint32_t>(pa_usec_to_bytes(startAfterUs, &spec));
+    buffer.minreq = static_cast<uint32_t>(-1);
+    buffer.fragsize = static_cast<uint32_t>(-1);
+    return buffer;
 }
 
 std::string volumeNote(const SinkFacts &sink)
@@ -114,12 +126,8 @@ bool PulseOutput::connectStream(const std::string &sinkName, std::string &why)
             pa_stream_set_state_callback(stream_, onState, this);
             pa_stream_set_write_callback(stream_, onRoom, this);
             pa_stream_set_underflow_callback(stream_, onUnderflow, this);
-            pa_buffer_attr buffer;
-            buffer.maxlength = static_cast<uint32_t>(-1);
-            buffer.tlength = static_cast<uint32_t>(pa_usec_to_bytes(targetLatencyUs, &spec));
-            buffer.prebuf = static_cast<uint32_t>(pa_usec_to_bytes(startAfterUs, &spec));
-            buffer.minreq = static_cast<uint32_t>(-1);
-            buffer.fragsize = static_cast<uint32_t>(-1);
+            targetUs_ = targetLatencyUs;
+            const pa_buffer_attr buffer = bufferFor(targetUs_, spec);
             const auto flags =
                 static_cast<pa_stream_flags_t>(PA_STREAM_ADJUST_LATENCY | PA_STREAM_INTERPOLATE_TIMING |
                                                PA_STREAM_AUTO_TIMING_UPDATE | PA_STREAM_DONT_MOVE);
@@ -167,8 +175,22 @@ void PulseOutput::onRoom(pa_stream *, size_t, void *self)
 void PulseOutput::onUnderflow(pa_stream *, void *self)
 {
     auto *output = static_cast<PulseOutput *>(self);
-    if (output->playing_.exchange(false))
-        ++output->underruns_;
+    if (!output->playing_.exchange(false))
+        return;
+    ++output->underruns_;
+    output->enlargeBuffer();
+}
+
+/// Under the lock. A machine that was too busy once will be so again, and a later answer to the volume is
+/// better than a gap in the music.
+void PulseOutput::enlargeBuffer()
+{
+    if (targetUs_ >= largestLatencyUs)
+        return;
+    targetUs_ *= 2;
+    const pa_buffer_attr buffer = bufferFor(targetUs_, *pa_stream_get_sample_spec(stream_));
+    if (pa_operation *operation = pa_stream_set_buffer_attr(stream_, &buffer, nullptr, nullptr))
+        pa_operation_unref(operation);
 }
 
 void PulseOutput::onDone(pa_stream *, int, void *self)

@@ -44,6 +44,7 @@ private:
     bool connectStream(const std::string &sinkName, std::string &why);
     bool alive() const;
     void noteLatency();
+    void enlargeBuffer();
     void finishInterruptibly(pa_operation *operation, std::chrono::milliseconds time);
     static void onRoom(pa_stream *, size_t, void *self);
     static void onUnderflow(pa_stream *, void *self);
@@ -53,6 +54,7 @@ private:
     std::unique_ptr<PulseConnection> connection_;
     OpenedOutput opened_;
     pa_stream *stream_ = nullptr;
+    pa_usec_t targetUs_ = 0;           ///< of the buffer; under the connection's lock
     WakeEvent wake_;                   ///< something changed: interrupt() or a callback of the stream
     std::atomic<bool> playing_{false}; ///< frames are expected, so that running dry counts
     std::atomic<bool> interrupted_{false};

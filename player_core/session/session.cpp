@@ -183,6 +183,7 @@ void Session::onTrackHeard(uint32_t serial)
     if (const auto before = book_.find(heardSerial_);
         before && serial != heardSerial_ && !before->failure.empty())
         lines_.say(failedLine(before->failure, before->path));
+    watchUnderruns(true);
     heardSerial_ = serial;
     underrunsBefore_ = underruns();
     book_.forgetBefore(serial);
@@ -207,6 +208,7 @@ void Session::onTrackOver(uint32_t serial)
     const auto info = book_.find(serial);
     if (!info || serial < firstWanted_)
         return;
+    watchUnderruns(true);
     lines_.say(info->failure.empty() ? doneLine(info->path) : failedLine(info->failure, info->path));
     if (serial != lastSerial_ && !oneSource())
         return; // a later one is on its way
@@ -238,6 +240,7 @@ void Session::passTime()
     const auto now = Clock::now();
     if (parent_.gone())
         return end(exit_code::stopped);
+    watchUnderruns();
     if (verifyAt_ && now >= *verifyAt_)
         sayVerify();
     if (!playing_ && deferred_ && now >= deferredAt_) {

@@ -121,7 +121,11 @@ private:
     void sayChain();
     /// The stages as they are now; nothing while there is no stream.
     std::optional<ChainFacts> chainFacts() const;
+    /// Since the device was opened.
     unsigned underruns() const;
+    /// Tells when the device has run dry since that was told last; every few seconds at most while a track
+    /// lasts, and at its end.
+    void watchUnderruns(bool trackEnds = false);
     void askVerify();
     void sayVerify();
 
@@ -181,6 +185,8 @@ private:
     Clock::time_point changedAt_{};             ///< when the last line came that may change the chain
     std::optional<Clock::time_point> verifyAt_; ///< a check that waits for the stages to settle
     unsigned underrunsBefore_ = 0;              ///< when the track that is heard began
+    unsigned underrunsTold_ = 0;                ///< of the device that is open
+    Clock::time_point underrunsToldAt_{};
     std::set<std::string> warned_;
     std::optional<int> exit_;
 };

@@ -275,6 +275,7 @@ void Session::closeDevice()
     decks_.clear();
     lastDeck_ = nullptr;
     output_.reset();
+    underrunsTold_ = 0;
 }
 
 Deck &Session::makeDeck(DeckTrack track)

@@ -6,6 +6,7 @@
 #include "player_core/session/verify_report.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kelp_core {
 
@@ -16,6 +17,7 @@ using namespace std::chrono_literals;
 // So long after a line the audio thread has taken it and a ramp is over: one write, and the ramp's few
 // milliseconds. A check that is asked for together with a change must not judge what was before.
 constexpr auto settleTime = 300ms;
+constexpr auto tellingPeriod = 5s; ///< between two warnings of a device that keeps running dry
 
 } // namespace
 
@@ -74,6 +76,21 @@ VolumeFacts Session::volumeFacts(double replayGain) const
 unsigned Session::underruns() const
 {
     return output_ && loop_ ? output_->underruns() + loop_->starved() : 0;
+}
+
+void Session::watchUnderruns(bool trackEnds)
+{
+    const unsigned count = underruns();
+    const auto now = Clock::now();
+    if (count <= underrunsTold_ || (!trackEnds && now - underrunsToldAt_ < tellingPeriod))
+        return;
+    const unsigned fresh = count - std::exchange(underrunsTold_, count);
+    underrunsToldAt_ = now;
+    lines_.say("WARN The device ran dry " +
+               (fresh == 1 ? std::string("once, so a gap of silence stood")
+                           : std::to_string(fresh) + " times, so gaps of silence stood") +
+               " in the music: a busy machine or a slow disk did not deliver it in time.");
+    lines_.say("underruns: " + std::to_string(count)); // the chain's figure, without the whole block
 }
 
 std::optional<ChainFacts> Session::chainFacts() const

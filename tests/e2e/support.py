@@ -258,6 +258,17 @@ def end_process(process):
             stream.close()
 
 
+def in_peace(play, tries=4):
+    """What play() returns first, from a run in which no device ran dry. A machine that is busy with other tests may
+    leave a gap, which the engine tells; a gap that nobody told of is for the caller to find. play() returns a pair:
+    its result and what was said."""
+    for _ in range(tries):
+        result, said = play()
+        if "The device ran dry" not in said:
+            return result
+    raise unittest.SkipTest(f"This machine is too busy to play without a gap: {tries} tries all had one.")
+
+
 def without_silence(samples, frame_bytes):
     """What lies between leading and trailing digital silence, cut at whole frames."""
     start = len(samples) - len(samples.lstrip(b"\0"))

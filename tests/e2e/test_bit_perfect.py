@@ -39,13 +39,16 @@ class BitPerfect(unittest.TestCase):
     def test_sound_server_gets_the_files_samples_in_both_kinds_of_session(self):
         for inproc in (0, 1):
             for kind, rate, bits in PCM:
-                with self.subTest(inproc=inproc, kind=kind, rate=rate, bits=bits), Stage() as stage:
-                    stage.sound_server(rate, SERVER_FORMAT[bits])
-                    path, raw = stage.make(kind, f"take.{kind}", rate=rate, bits=bits, seconds=2, signal="noise")
-                    with stage.recording(rate, SERVER_FORMAT[bits]) as recorded:
-                        player = stage.player(path, KELP_GUI_INPROC=inproc)
-                        player.wait_log("Playback finished")
-                    expected, got = read_bytes(raw), read_bytes(recorded)
+                def play():
+                    with Stage() as stage:
+                        stage.sound_server(rate, SERVER_FORMAT[bits])
+                        path, raw = stage.make(kind, f"take.{kind}", rate=rate, bits=bits, seconds=2, signal="noise")
+                        with stage.recording(rate, SERVER_FORMAT[bits]) as recorded:
+                            player = stage.player(path, KELP_GUI_INPROC=inproc)
+                            player.wait_log("Playback finished")
+                        return (read_bytes(raw), read_bytes(recorded)), player.log()
+                with self.subTest(inproc=inproc, kind=kind, rate=rate, bits=bits):
+                    expected, got = support.in_peace(play)
                     self.assertEqual(without_silence(got, bits // 4), without_silence(expected, bits // 4))
 
     def test_dop_gives_back_the_dsd_bits(self):

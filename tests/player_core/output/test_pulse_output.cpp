@@ -167,6 +167,22 @@ TEST_F(PulseOutputTest, RunningDryIsCountedOnce)
     EXPECT_TRUE(test_devices::waitUntil([&] { return outcome.output->underruns() == 1; }));
 }
 
+TEST_F(PulseOutputTest, HavingRunDryItKeepsMoreInHand)
+{
+    start("sink_name=n1 rate=44100 format=s16le");
+    if (!pulse->missing().empty())
+        GTEST_SKIP() << pulse->missing();
+    OutputOutcome outcome = openOutput(pcmRequest("pulse"));
+    ASSERT_TRUE(outcome.output) << outcome.error;
+    const auto inHandAfterASecond = [&] {
+        EXPECT_TRUE(writeAll(*outcome.output, noise(4 * 44100)));
+        return outcome.output->delayFrames();
+    };
+    EXPECT_LT(inHandAfterASecond(), 44100 * 3 / 10);
+    ASSERT_TRUE(test_devices::waitUntil([&] { return outcome.output->underruns() > 0; }));
+    EXPECT_TRUE(test_devices::waitUntil([&] { return inHandAfterASecond() > 44100 * 3 / 10; }));
+}
+
 TEST_F(PulseOutputTest, TwoHundredRoundsLeaveNothingBehind)
 {
     start("sink_name=n1 rate=44100 format=s16le");

@@ -215,7 +215,7 @@ TEST_F(EngineTest, AThousandSessionsLeaveNothingBehind)
     EXPECT_EQ(settled(openDescriptors, descriptors), descriptors);
     EXPECT_LE(settled(runningThreads, threads), threads);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
-    EXPECT_LT(residentKib(), memory + 1'024);
+    EXPECT_LT(residentKib(), memory + 4'096); // the stacks of threads that overlapped are kept, too
 #else
     (void)memory;
 #endif

@@ -151,7 +151,7 @@ public:
 
     void drop() override {}
     void interrupt() override { interrupted_.store(true); }
-    unsigned underruns() const override { return 0; }
+    unsigned underruns() const override { return device_.underruns.load(); }
     std::string message() const override { return "it was pulled out"; }
     double latencyMs() const override { return opened_.clocked ? device_.bufferSec * 1000 : 0; }
 

@@ -61,8 +61,9 @@ struct FakeDevice
     bool clocked = false;               ///< takes samples at their rate instead of at once
     double bufferSec = 0.1;             ///< of a clocked device
     std::atomic<int64_t> goneAfter{-1}; ///< frames
-    std::string refuse;                 ///< openOutput's error
-    std::optional<Carrier> dsdCarrier;  ///< takes DSD this way; else DSD is decoded
+    std::atomic<unsigned> underruns{0};
+    std::string refuse;                ///< openOutput's error
+    std::optional<Carrier> dsdCarrier; ///< takes DSD this way; else DSD is decoded
     bool readBackKnown = false;
     int validBits = 16;
 };

@@ -1,15 +1,20 @@
 #include "player_core/session/fake_world.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <chrono>
 #include <cstdlib>
+#include <thread>
 
 #include <unistd.h>
 
 namespace kelp_core::test {
 
 namespace {
+
+using ::testing::EndsWith;
+using ::testing::StartsWith;
 
 const std::string ownPid = std::to_string(::getpid());
 
@@ -153,6 +158,31 @@ TEST(SessionTest, AnEarlyLoadLeavesTheTrackAtOnce)
     const std::vector<int16_t> second = samplesOf(world.tracks["/b.wav"]);
     ASSERT_GT(all.size(), second.size());
     EXPECT_TRUE(std::equal(second.rbegin(), second.rend(), all.rbegin()));
+}
+
+TEST(SessionTest, ADeviceThatRanDryIsToldAtOnceAndThenNowAndAgain)
+{
+    FakeWorld world;
+    world.device.clocked = true;
+    world.device.bufferSec = 1.0;
+    world.tracks["/a.wav"] = pcmTrack(44'100 * 60, 1);
+    world.start({"-stream", "-parent-pid", ownPid});
+    world.send("load /a.wav");
+    ASSERT_FALSE(world.waitLine("PG ").empty());
+    const auto before = world.lines("WARN The device ran dry ").size(); // by this machine's own doing
+    world.device.underruns = 1000;
+    EXPECT_THAT(
+        world.waitLine("WARN The device ran dry "),
+        EndsWith(" times, so gaps of silence stood in the music: a busy machine or a slow disk did not "
+                 "deliver it in time."));
+    EXPECT_THAT(world.waitLine("underruns: "), StartsWith("underruns: 10"));
+    for (unsigned more = 1001; more <= 1010; ++more) {
+        world.device.underruns = more;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    EXPECT_LE(world.lines("WARN The device ran dry ").size(), before + 2) << "not once a time";
+    world.send("stop");
+    EXPECT_EQ(world.wait(), exit_code::stopped);
 }
 
 TEST(SessionTest, CrossfadeTakesItsTimeOffTheSum)
