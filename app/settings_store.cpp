@@ -1,6 +1,7 @@
 #include "app/settings_store.h"
 
 #include <QDir>
+#include <QSettings>
 
 namespace {
 
@@ -38,12 +39,6 @@ QVariant UserSettings::value(QLatin1StringView key) const
 void UserSettings::flush()
 {
     userSettingsFile().apply(std::exchange(m_changes, {}));
-    userSettingsFile().flush();
-}
-
-SettingsStore::SettingsStore()
-    : QSettings(QSettings::IniFormat, QSettings::UserScope, QString(organisation), QString(application))
-{
     userSettingsFile().flush();
 }
 

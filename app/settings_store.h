@@ -5,8 +5,6 @@
 #include "platform/qsettings_access.h"
 #include "platform/settings_file.h"
 
-#include <QSettings>
-
 /// The user's settings file, made at the first use. GUI thread: a worker that needs a value gets it passed.
 SettingsFile &userSettingsFile();
 
@@ -27,13 +25,6 @@ public:
 
 private:
     SettingsChanges m_changes; ///< not yet handed on
-};
-
-/// The file itself, for what wants to see what is in it. Opening waits for everything that is to be written.
-class SettingsStore final : public QSettings
-{
-public:
-    SettingsStore();
 };
 
 /// One choice of the user's, by the table of settings; opens the store and closes it.

@@ -7,6 +7,7 @@
 #include "platform/settings_table.h"
 #include "playback/add_plan.h"
 #include "playback/playlist_widget.h"
+#include "tests/support/settings_on_disk.h"
 #include "tests/ui/fake_session.h"
 #include "ui/window/player_gui_window.h"
 
@@ -177,7 +178,7 @@ public:
         window.reset();
 
         // A copy under another name has to be read anew.
-        const QString stored = SettingsStore().fileName();
+        const QString stored = SettingsOnDisk().fileName();
         const QString plainFile = m_root.filePath(u"plain%1.ini"_s.arg(rows));
         QFile::copy(stored, plainFile);
         QListWidget bare;
@@ -197,8 +198,8 @@ public:
         useSettings(u"again%1"_s.arg(rows));
         auto fresh = makeWindow();
         useSettings(u"copy%1"_s.arg(rows));
-        QDir().mkpath(QFileInfo(SettingsStore().fileName()).path());
-        QFile::copy(stored, SettingsStore().fileName());
+        QDir().mkpath(QFileInfo(SettingsOnDisk().fileName()).path());
+        QFile::copy(stored, SettingsOnDisk().fileName());
         took.restore = millisecondsOf([&] {
             fresh->restorePlaylist();
             present(*fresh->widgets().playlist);
@@ -276,7 +277,7 @@ private:
         const QStringList rows = window.widgets().playlist->savedRows();
         const QString file = m_root.filePath(u"own.ini"_s);
         QFile::remove(file);
-        QFile::copy(SettingsStore().fileName(), file);
+        QFile::copy(SettingsOnDisk().fileName(), file);
         QList<double> ours;
         QList<double> own;
         for (int round = 0; round <= saveRounds; ++round) {
@@ -354,7 +355,7 @@ private:
                 nextTrack = std::max(nextTrack, millisecondsOf([&] { window.stepRow(1); }));
             longest = std::max(longest, longestTurnUntilWritten());
             direct.append(millisecondsOf([&] {
-                QSettings file(SettingsStore().fileName(), QSettings::IniFormat);
+                QSettings file(SettingsOnDisk().fileName(), QSettings::IniFormat);
                 file.setValue("play/resume_path"_L1, u"/a/track.flac"_s);
                 file.setValue("play/resume_sec"_L1, periodicSec * round);
                 file.sync();

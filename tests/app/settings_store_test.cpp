@@ -1,6 +1,7 @@
 #include "app/settings_store.h"
 
 #include "platform/settings_table.h"
+#include "tests/support/settings_on_disk.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -8,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-TEST(SettingsStore, BlankVariablesLeaveTheStoreAlone)
+TEST(SettingsDirectory, BlankVariablesLeaveTheStoreAlone)
 {
     qunsetenv("KELP_SETTINGS_DIR");
     EXPECT_FALSE(applySettingsDirOverride());
@@ -17,26 +18,26 @@ TEST(SettingsStore, BlankVariablesLeaveTheStoreAlone)
     qunsetenv("KELP_SETTINGS_DIR");
 }
 
-TEST(SettingsStore, TheDirectoryIsMadeAndUsed)
+TEST(SettingsDirectory, TheDirectoryIsMadeAndUsed)
 {
     const QTemporaryDir temp;
     const QString directory = temp.filePath(u"a/b"_s);
     qputenv("KELP_SETTINGS_DIR", (u" "_s + directory + u" "_s).toLocal8Bit());
     EXPECT_TRUE(applySettingsDirOverride());
     {
-        SettingsStore store;
+        SettingsOnDisk store;
         store.setValue(u"param/vol"_s, 33);
     }
     EXPECT_TRUE(QFile::exists(directory + u"/KELP/KelpPlayer.ini"_s));
-    EXPECT_EQ(SettingsStore().value(u"param/vol"_s).toInt(), 33);
+    EXPECT_EQ(SettingsOnDisk().value(u"param/vol"_s).toInt(), 33);
     qunsetenv("KELP_SETTINGS_DIR");
 }
 
-TEST(SettingsStore, ADirectoryThatCannotBeMadeGivesDefaults)
+TEST(SettingsDirectory, ADirectoryThatCannotBeMadeGivesDefaults)
 {
     qputenv("KELP_SETTINGS_DIR", "/proc/nonexistent/x");
     EXPECT_TRUE(applySettingsDirOverride());
-    EXPECT_EQ(SettingsStore().value(u"param/vol"_s, 7).toInt(), 7);
+    EXPECT_EQ(SettingsOnDisk().value(u"param/vol"_s, 7).toInt(), 7);
     qunsetenv("KELP_SETTINGS_DIR");
 }
 
@@ -79,8 +80,8 @@ TEST_F(UserSettingsTest, TheFileOpenedForItselfHoldsWhatWasJustWritten)
 {
     for (int volume = 0; volume < 5; ++volume) {
         writeUserSetting(settings::volume, volume);
-        EXPECT_EQ(SettingsStore().value(settings::volume.key).toInt(), volume);
-        SettingsStore().setValue(settings::volume.key, volume + 50);
+        EXPECT_EQ(SettingsOnDisk().value(settings::volume.key).toInt(), volume);
+        SettingsOnDisk().setValue(settings::volume.key, volume + 50);
         EXPECT_EQ(readUserSetting(settings::volume), volume + 50);
     }
 }
@@ -99,7 +100,7 @@ TEST_F(UserSettingsTest, WhatIsStillToBeWrittenGoesToItsOwnDirectory)
     writeUserSetting(settings::volume, 12);
     use(u"two"_s);
     EXPECT_TRUE(bytesOf(u"one"_s).contains("vol=12"));
-    EXPECT_FALSE(SettingsStore().contains(settings::volume.key)) << "two directories share nothing";
+    EXPECT_FALSE(SettingsOnDisk().contains(settings::volume.key)) << "two directories share nothing";
     writeUserSetting(settings::volume, 99);
     use(u"one"_s);
     EXPECT_EQ(readUserSetting(settings::volume), 12);

@@ -1,6 +1,7 @@
 // What the window says while nothing plays, how it begins, and what it tells of its place.
 #include "playback_fixture.h"
 
+#include "tests/support/settings_on_disk.h"
 #include "ui/cover_disc.h"
 #include "ui/library_panel.h"
 #include "ui/mini_cover.h"
@@ -111,7 +112,7 @@ TEST_F(IdleWindow, TheFilterChipsStandInTheirOrder)
 TEST_F(IdleWindow, TheBannerStandsBehindWhatSettingsAndDevicesHadToSay)
 {
     m_window.reset();
-    SettingsStore().setValue(u"param/mode"_s, u"no such mode"_s);
+    SettingsOnDisk().setValue(u"param/mode"_s, u"no such mode"_s);
     takeLog();
     makeWindow();
     const QString log = takeLog();

@@ -1,7 +1,7 @@
 // What the window makes of the engine's lines, and of its device list.
 #include "window_fixture.h"
 
-#include "app/settings_store.h"
+#include "tests/support/settings_on_disk.h"
 #include "ui/stage.h"
 
 #include <QLabel>
@@ -55,7 +55,7 @@ TEST_F(EngineOutput, AWarningReachesTheStatusLine)
 
 TEST_F(EngineOutput, RememberedDevicesAreChosenAgainEvenWhenTheyAreGone)
 {
-    SettingsStore().setValue(u"devices"_s, QStringList{u"Two"_s, u"Gone"_s});
+    SettingsOnDisk().setValue(u"devices"_s, QStringList{u"Two"_s, u"Gone"_s});
     m_deviceList = u"[default] One\n[2] Two"_s;
     makeWindow();
     EXPECT_EQ(m_window->currentDeviceName(), u"Two"_s);

@@ -2,6 +2,7 @@
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
+#include "tests/support/settings_on_disk.h"
 #include "ui/dock_bar.h"
 
 using namespace Qt::StringLiterals;
@@ -83,7 +84,7 @@ TEST_F(Params, ARestoredChoiceIsNotToldToASession)
     EngineControls *engine = &m_window->engineControls();
     const bool guard = engine->peakGuard->isChecked();
     {
-        SettingsStore store;
+        SettingsOnDisk store;
         store.setValue(u"param/peak_guard"_s, !guard);
         store.setValue(u"param/speed_ratio"_s, 1.5);
         store.setValue(u"param/vol"_s, 37);
@@ -99,7 +100,7 @@ TEST_F(Params, ARestoredChoiceIsNotToldToASession)
 TEST_F(Params, DamagedValuesAreKeptInRange)
 {
     {
-        SettingsStore store;
+        SettingsOnDisk store;
         store.setValue(u"param/denoise_tier"_s, 7);
         store.setValue(u"param/vol"_s, 400);
         store.setValue(u"param/mode"_s, u"no such mode"_s);
@@ -114,7 +115,7 @@ TEST_F(Params, DamagedValuesAreKeptInRange)
 TEST_F(Params, AStoredTextFindsItsItemAsWellAsAStoredCode)
 {
     for (const QString &stored : {u"4"_s, u"4 声道"_s, u" 4  声道 "_s, u"4声道"_s}) {
-        SettingsStore().setValue(u"param/layout"_s, stored);
+        SettingsOnDisk().setValue(u"param/layout"_s, stored);
         m_window.reset();
         makeWindow();
         EXPECT_EQ(m_window->choices().channelCount, 4) << qPrintable(stored);
@@ -123,7 +124,7 @@ TEST_F(Params, AStoredTextFindsItsItemAsWellAsAStoredCode)
 
 TEST_F(Params, AnEmptyStoredTextLeavesTheComboAndSaysNothing)
 {
-    SettingsStore().setValue(u"param/mode"_s, u"   "_s);
+    SettingsOnDisk().setValue(u"param/mode"_s, u"   "_s);
     makeWindow();
     EXPECT_EQ(m_window->choices().mode, u"standard"_s);
     EXPECT_FALSE(logHas(u"找不到匹配项"_s));
@@ -151,13 +152,13 @@ TEST_F(Params, ClosingSavesThem)
     makeWindow();
     m_window->widgets().dock->volume->setValue(23);
     m_window->close();
-    EXPECT_EQ(SettingsStore().value(u"param/vol"_s).toInt(), 23);
+    EXPECT_EQ(SettingsOnDisk().value(u"param/vol"_s).toInt(), 23);
 }
 
 TEST_F(Params, HarmonicsNeedATier)
 {
     {
-        SettingsStore store;
+        SettingsOnDisk store;
         store.setValue(u"param/keep_harmonics"_s, true);
     }
     makeWindow();
@@ -169,7 +170,7 @@ TEST_F(Params, HarmonicsNeedATier)
 
 TEST_F(Params, ARestoredVolumeIsNoTouch)
 {
-    SettingsStore().setValue(u"param/vol"_s, 100);
+    SettingsOnDisk().setValue(u"param/vol"_s, 100);
     makeWindow();
     addFiles(1);
     m_window->startPlayback(0);

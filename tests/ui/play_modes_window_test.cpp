@@ -2,6 +2,7 @@
 #include "playback_fixture.h"
 
 #include "playback/play_speed.h"
+#include "tests/support/settings_on_disk.h"
 #include "ui/dock_bar.h"
 
 #include <QSignalSpy>
@@ -66,7 +67,7 @@ TEST_F(PlayModes, TheFormerSingleKeySetsBothAxes)
     };
     for (const Case &each : {Case{0, 0, 0}, Case{1, 1, 0}, Case{2, 0, 1}, Case{3, 0, 2}, Case{4, 0, 0}}) {
         m_window.reset();
-        SettingsStore().clear();
+        SettingsOnDisk().clear();
         writeUserSetting(settings::playOrder, each.stored);
         open();
         EXPECT_EQ(static_cast<int>(transport().order.order), each.order) << each.stored;

@@ -1,6 +1,7 @@
 // The playlist in the window: adding, changing, saving and taking back.
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
+#include "tests/support/settings_on_disk.h"
 #include "window_fixture.h"
 
 #include "ui/dock_bar.h"
@@ -380,7 +381,7 @@ TEST_F(Playlist, ADamagedHistoryIsToldAndTheListStays)
 {
     abc();
     m_window.reset();
-    const QString file = QFileInfo(SettingsStore().fileName()).dir().filePath(u"playlist.history"_s);
+    const QString file = QFileInfo(SettingsOnDisk().fileName()).dir().filePath(u"playlist.history"_s);
     ASSERT_TRUE(QFile::exists(file));
     QFile damaged(file);
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));

@@ -1,6 +1,7 @@
 // The settings while music plays: nothing waits for the file, and nothing is lost.
 #include "playback_fixture.h"
 
+#include "tests/support/settings_on_disk.h"
 #include "ui/dock_bar.h"
 
 #include <QDir>
@@ -15,7 +16,7 @@ protected:
     void SetUp() override
     {
         BothKinds::SetUp();
-        SettingsStore().sync(); // what the window's opening wrote is on the disk
+        SettingsOnDisk().sync(); // what the window's opening wrote is on the disk
     }
     static QString file() { return userSettingsFile().path(); }
     static QByteArray onDisk(const QByteArray &name)
