@@ -48,6 +48,7 @@ int runWindow(const QStringList &arguments)
     startup::addAboutBlock(window);
     startup::showWindow(window);
     startup::startServices(window);
+    startup::watchTermination(window);
     startup::startHeartbeat();
     startup::startStackWatch();
     takeHookScreenshot(window, hooks);

@@ -8,6 +8,7 @@
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
 #include "platform/single_instance.h"
+#include "platform/termination_signals.h"
 #include "playback/playlist_widget.h"
 #include "ui/program_icon.h"
 #include "ui/style_sheet.h"
@@ -175,6 +176,13 @@ void startServices(PlayerGuiWindow &window)
 {
     window.restoreRemote();
     traceStep(u"services"_s);
+}
+
+void watchTermination(PlayerGuiWindow &window)
+{
+    onTerminationSignal(&window, [&window](int number) {
+        window.endOnDemand(QString::fromLatin1(terminationSignalName(number)));
+    });
 }
 
 void startHeartbeat()

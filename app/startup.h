@@ -29,6 +29,8 @@ void addAboutBlock(PlayerGuiWindow &window);
 void showWindow(PlayerGuiWindow &window);
 /// What is switched on by the stored choices and serves others.
 void startServices(PlayerGuiWindow &window);
+/// A signal that asks the program to end closes it as the listener would, without a question.
+void watchTermination(PlayerGuiWindow &window);
 void startHeartbeat();
 void startStackWatch();
 void startUpdateCheck(PlayerGuiWindow &window);

@@ -152,19 +152,30 @@ void ControlReader::readDescriptor(const std::shared_ptr<Shared> &shared)
     LineCutter cutter;
     char buffer[4096];
     std::string line;
+    int input = shared->origin.fd; // below 0 from its end on, when only the process's end is waited for
     while (!shared->ending.load()) {
-        pollfd wait[2]{{shared->origin.fd, POLLIN, 0}, {shared->wakeFd, POLLIN, 0}};
-        if (::poll(wait, 2, -1) < 0 && errno != EINTR)
-            break;
+        pollfd wait[3]{{input, POLLIN, 0}, {shared->wakeFd, POLLIN, 0}, {shared->origin.stopFd, POLLIN, 0}};
+        const bool broken = ::poll(wait, 3, -1) < 0 && errno != EINTR;
         if (wait[1].revents)
             return;
-        if (!wait[0].revents)
+        if (wait[2].revents) {
+            shared->post("stop");
+            return;
+        }
+        if (!broken && !wait[0].revents)
             continue;
-        const ssize_t n = ::read(shared->origin.fd, buffer, sizeof buffer);
+        const ssize_t n = broken ? 0 : ::read(input, buffer, sizeof buffer);
         if (n < 0 && (errno == EINTR || errno == EAGAIN))
             continue;
-        if (n <= 0)
-            break;
+        if (n <= 0) {
+            if (const std::string rest = cutter.rest(); !rest.empty() && !shared->post(rest))
+                return;
+            shared->postEnd();
+            if (broken || shared->origin.stopFd < 0)
+                return;
+            input = -1;
+            continue;
+        }
         cutter.add(buffer, static_cast<size_t>(n));
         while (cutter.next(line)) {
             if (!shared->post(line))
@@ -173,9 +184,6 @@ void ControlReader::readDescriptor(const std::shared_ptr<Shared> &shared)
         if (cutter.takeLost())
             shared->postLost();
     }
-    if (const std::string rest = cutter.rest(); !rest.empty() && !shared->post(rest))
-        return;
-    shared->postEnd();
 }
 
 } // namespace kelp_core

@@ -17,6 +17,7 @@ struct ControlOrigin
     int fd = -1;                             ///< read when readLine is null
     kelp_player_ctl_read readLine = nullptr; ///< the host's function
     void *queue = nullptr;                   ///< its argument
+    int stopFd = -1;                         ///< beside fd: readable when the process is asked to end
 };
 
 /// Cuts a stream of bytes into lines. A line longer than maxControlLine is thrown away whole; takeLost() then

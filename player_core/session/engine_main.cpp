@@ -2,9 +2,11 @@
 
 #include "player_core/session/help_text.h"
 #include "player_core/session/session.h"
+#include "player_core/session/stop_signals.h"
 
 #include <cstdlib>
 #include <exception>
+#include <optional>
 
 #include <unistd.h>
 
@@ -38,9 +40,13 @@ int runSession(const SessionOptions &options)
     const char *log = std::getenv("KELP_ENGINE_LOG");
     LineWriter lines(STDOUT_FILENO, log ? log : "");
     SessionServices services{openSource, openOutput};
+    ControlOrigin origin = controlOrigin(options);
+    std::optional<StopSignals> signals;
+    if (!origin.readLine) // else the process is the host's
+        origin.stopFd = signals.emplace(options.parentPid != 0).descriptor();
     try {
         Session session(options, services, lines);
-        return session.run(controlOrigin(options));
+        return session.run(origin);
     } catch (const std::exception &error) {
         // Out of memory or out of threads: the session is over, the process that holds it is not ours to end.
         lines.say(std::string("The session ended because of an error: ") + error.what());

@@ -1,6 +1,7 @@
 """The program plays what it is given, in a session of either kind, and ends cleanly."""
 import os
 import re
+import signal
 import subprocess
 import time
 import unittest
@@ -9,6 +10,12 @@ import support
 from support import ENGINE, PROGRAM, Stage, read_text, wait_until
 
 KINDS = [("flac", dict(rate=44100, bits=16)), ("wav", dict(rate=96000, bits=24)), ("dsf", {}), ("dff", {})]
+
+
+def children_of(pid):
+    """The process numbers of a process's children."""
+    with open(f"/proc/{pid}/task/{pid}/children", encoding="ascii") as file:
+        return [int(number) for number in file.read().split()]
 
 
 class Play(unittest.TestCase):
@@ -120,6 +127,20 @@ class Play(unittest.TestCase):
             third = stage.player(KELP_GUARD_TRACE=trace, KELP_GUI_QUIT_AFTER=1)
             self.assertEqual(third.wait_end(), 0)
             self.assertEqual(read_text(trace).count("GetLastError=0"), 2)
+
+    def test_asked_to_end_by_the_system_it_ends_as_if_closed(self):
+        with Stage() as stage:
+            path, _ = stage.make("flac", "long.flac", seconds=60)
+            for inproc, number in ((1, signal.SIGTERM), (0, signal.SIGINT), (0, signal.SIGHUP)):
+                with self.subTest(inproc=inproc, number=number):
+                    player = stage.player(path, KELP_GUI_INPROC=inproc)
+                    player.wait_log(r"Progress \(PG\) received")
+                    engine = children_of(player.process.pid)
+                    player.process.send_signal(number)
+                    self.assertEqual(player.wait_end(), 0, player.log())
+                    self.assertRegex(player.log(), rf"\[gui\] {number.name}: ")
+                    self.assertRegex(player.log(), r"\[control\] closure: queued=\d+ recv=\d+ diff=\d+ — passed")
+                    wait_until(lambda: not any(os.path.exists(f"/proc/{pid}") for pid in engine), what="the end of the engine")
 
     def test_closing_the_window_ends_the_engine(self):
         with Stage() as stage:

@@ -1,6 +1,9 @@
 // The end of the window.
 #include "window_fixture.h"
 
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
+
 #include <QApplication>
 #include <QMessageBox>
 #include <QTimer>
@@ -52,6 +55,24 @@ TEST_F(Close, DuringPlaybackANoKeepsTheWindow)
     EXPECT_EQ(m_asked, 2);
     EXPECT_TRUE(m_engine.did(u"write stop"_s));
     EXPECT_TRUE(m_engine.did(u"wait 5000"_s));
+}
+
+TEST_F(Close, WhenTheSystemEndsTheProgramNobodyIsAskedAndAllIsSaved)
+{
+    m_asksBeforeClosing = true;
+    makeWindow();
+    m_window->show();
+    addFiles(1);
+    m_window->startPlayback(0);
+    writeUserSetting(settings::geometry, QByteArray());
+    QTimer::singleShot(0, m_window.get(), [this] { m_window->endOnDemand(u"SIGTERM"_s); });
+    QApplication::exec();
+    EXPECT_TRUE(logHas(u"[gui] SIGTERM: 系统要求退出"_s));
+    EXPECT_TRUE(logHas(u"[gui] closeEvent: 播放中=1"_s));
+    EXPECT_FALSE(m_window->isVisible());
+    EXPECT_TRUE(m_engine.did(u"write stop"_s));
+    EXPECT_FALSE(m_engine.current->isRunning());
+    EXPECT_FALSE(readUserSetting(settings::geometry).isEmpty());
 }
 
 TEST_F(Close, AnEndingHookIsNeverAsked)

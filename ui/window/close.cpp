@@ -17,12 +17,20 @@ bool PlayerGuiWindow::trayActive() const
 
 bool PlayerGuiWindow::confirmClose()
 {
-    if (!m_options.asksBeforeClosing || !sessionRuns() || !m_start.uiPlaying)
+    if (m_endDemanded || !m_options.asksBeforeClosing || !sessionRuns() || !m_start.uiPlaying)
         return true;
     const auto answer = QMessageBox::question(this, tr("播放进行中"),
                                               tr("播放尚未结束, 关闭窗口将停止播放。\n\n确定要退出吗?"),
                                               QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
     return answer == QMessageBox::Yes;
+}
+
+void PlayerGuiWindow::endOnDemand(const QString &whose)
+{
+    logLine(u"[gui] %1: 系统要求退出"_s.arg(whose));
+    m_endDemanded = true;
+    // Closes every window, dialogs too, and this one as its closeEvent says.
+    QCoreApplication::quit();
 }
 
 void PlayerGuiWindow::closeEvent(QCloseEvent *event)
@@ -33,7 +41,7 @@ void PlayerGuiWindow::closeEvent(QCloseEvent *event)
         return;
     }
     logLine(u"[gui] closeEvent: 播放中=%1"_s.arg(sessionRuns() ? 1 : 0));
-    if (trayActive() && readUserSetting(settings::trayClose)) {
+    if (!m_endDemanded && trayActive() && readUserSetting(settings::trayClose)) {
         hide();
         logLine(tr("已缩到系统托盘, 播放继续"));
         event->ignore();

@@ -225,6 +225,9 @@ public Q_SLOTS:
     void debugNext();
     void debugStop();
     void jumpToRow(int row);
+    /// Ends the program as closing the window does, without a question: the desktop session or a terminal
+    /// ends. whose: who wants it, for the log.
+    void endOnDemand(const QString &whose);
     /// What has to be settled when the application is about to quit.
     void shutdown();
 
@@ -460,6 +463,7 @@ private:
     bool m_analysisRuns = false;
     bool m_volumeTouched = false; ///< the user has moved the volume since the program started
     bool m_closing = false;       ///< killProc has run on the way out
+    bool m_endDemanded = false;   ///< the system wants the program to end: no question, no tray
     PlaylistState m_list;
     HistoryStore *m_historyStore = nullptr; ///< a child of the window, made with the list's actions
 };

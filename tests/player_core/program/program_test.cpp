@@ -72,10 +72,23 @@ public:
         in_ = -1;
     }
 
+    /// Reads until this is printed; false at the end of the output.
+    bool waitText(const std::string &wanted)
+    {
+        char buffer[4096];
+        while (text_.find(wanted) == std::string::npos) {
+            const ssize_t n = ::read(out_, buffer, sizeof buffer);
+            if (n <= 0)
+                return false;
+            text_.append(buffer, static_cast<size_t>(n));
+        }
+        return true;
+    }
+
     /// Everything printed until the end, and the exit code.
     std::pair<std::string, int> finish()
     {
-        std::string text;
+        std::string text = std::move(text_);
         char buffer[4096];
         for (ssize_t n = 0; (n = ::read(out_, buffer, sizeof buffer)) > 0;)
             text.append(buffer, static_cast<size_t>(n));
@@ -89,6 +102,7 @@ private:
     pid_t pid_ = -1;
     int in_ = -1;
     int out_ = -1;
+    std::string text_; ///< read already
 };
 
 std::string smallFile(const kelp_test::TempDir &dir)
@@ -203,6 +217,39 @@ TEST(ProgramTest, EndsWhenTheHostProcessIsGone)
     // too.
     EXPECT_EQ(child.finish().second, 3);
     EXPECT_EQ(host.finish().second, 0);
+}
+
+TEST(ProgramTest, AskedToEndByTheSystemItStopsAsAtStop)
+{
+    const kelp_test::TempDir dir;
+    kelp_test::SignalRecipe recipe;
+    recipe.frames = 44'100 * 60;
+    const std::vector<uint8_t> bytes = wavBytes(kelp_test::makeSignal(recipe));
+    std::ofstream(dir.file("long.wav"), std::ios::binary)
+        .write(reinterpret_cast<const char *>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
+    const std::vector<std::string> console{KELP_ENGINE_PROGRAM, "-i", dir.file("long.wav"), "-dev", "null"};
+    std::vector<std::string> hosted = console;
+    hosted.insert(hosted.end(), {"-stream", "-parent-pid", std::to_string(::getpid())});
+    struct Case
+    {
+        const std::vector<std::string> &args;
+        std::vector<int> signals; ///< all but the last are not heard
+        bool inputEnds;
+    };
+    ::setenv("KELP_ENGINE_PACE", "realtime", 1);
+    for (const Case &each : {Case{console, {SIGTERM}, false}, Case{console, {SIGINT}, false},
+                             Case{console, {SIGHUP}, true}, Case{hosted, {SIGINT, SIGHUP, SIGTERM}, false}}) {
+        Child child(each.args);
+        if (each.inputEnds)
+            child.closeInput();
+        EXPECT_TRUE(child.waitText("PG "));
+        for (const int number : each.signals)
+            ::kill(child.pid(), number);
+        const auto [text, code] = child.finish();
+        EXPECT_EQ(code, 3) << each.signals.back() << text;
+        EXPECT_EQ(text.find("DONE"), std::string::npos) << "the track was not played to its end";
+    }
+    ::unsetenv("KELP_ENGINE_PACE");
 }
 
 } // namespace kelp_core::test
