@@ -1,4 +1,6 @@
 // The built program as its users start it, without a display and in private directories.
+#include "tests/support/patience.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -13,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int limitMs = 60000;
+constexpr int limitMs = kelp_test::patienceMs;
 
 class Program : public testing::Test
 {

@@ -1,5 +1,7 @@
 #include "dsp/effects_worker.h"
 
+#include "tests/support/patience.h"
+
 #include <QStringList>
 #include <future>
 #include <gtest/gtest.h>
@@ -13,7 +15,7 @@ using namespace std::chrono_literals;
 namespace {
 
 /// Ample, and never waited for in a test that passes.
-constexpr auto ample = 30s;
+constexpr auto ample = kelp_test::patience;
 
 } // namespace
 

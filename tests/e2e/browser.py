@@ -8,7 +8,7 @@ import time
 import urllib.error
 import urllib.request
 
-from support import need, wait_until
+from support import PATIENCE, need, wait_until
 
 ELEMENT = "element-6066-11e4-a52e-4f735466cecf"
 PHONE = dict(width=390, height=844, pixelRatio=2, touch=True)
@@ -48,7 +48,7 @@ class Browser(contextlib.ExitStack):
         data = None if method != "POST" else json.dumps(body or {}).encode()
         request = urllib.request.Request(self.base + path, data, {"Content-Type": "application/json"}, method=method)
         try:
-            with urllib.request.urlopen(request, timeout=60) as reply:
+            with urllib.request.urlopen(request, timeout=PATIENCE) as reply:
                 return json.load(reply)["value"]
         except urllib.error.HTTPError as error:
             raise AssertionError(f"{method} {path}: {error.read().decode(errors='replace')[:600]}") from None
@@ -72,7 +72,7 @@ class Browser(contextlib.ExitStack):
         actions = [step for key in text for step in ({"type": "keyDown", "value": key}, {"type": "keyUp", "value": key})]
         self.call("POST", "/actions", {"actions": [{"type": "key", "id": "keyboard", "actions": actions}]})
 
-    def wait(self, script, what, seconds=20):
+    def wait(self, script, what, seconds=PATIENCE):
         return wait_until(lambda: self.run("return " + script), seconds, what)
 
     def errors(self):

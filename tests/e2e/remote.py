@@ -1,22 +1,27 @@
 """The whole player with its phone remote on, playing an album into a null sink."""
+import contextlib
 import os
+import random
 import re
 import socket
 
 
 def free_port():
-    with socket.socket() as probe:
-        probe.bind(("0.0.0.0", 0))
-        return probe.getsockname()[1]
+    """None of those that the system gives to whoever connects, as other tests do at the same time."""
+    while True:
+        with socket.socket() as probe, contextlib.suppress(OSError):
+            port = random.randrange(20_000, 32_000)
+            probe.bind(("0.0.0.0", port))
+            return port
 
 
 def msf(seconds):
     return f"{seconds // 60:02d}:{seconds % 60:02d}:00"
 
 
-def make_album(stage, titles, seconds):
+def make_album(stage, titles, seconds, rate=44100):
     """One file and its sheet; returns the sheet."""
-    wave, _ = stage.make("wav", "album.wav", seconds=seconds * len(titles))
+    wave, _ = stage.make("wav", "album.wav", seconds=seconds * len(titles), rate=rate)
     sheet = stage.path("album.cue")
     with open(sheet, "w", encoding="utf-8") as file:
         file.write(f'TITLE "海带"\nPERFORMER "Someone"\nFILE "{os.path.basename(wave)}" WAVE\n')

@@ -4,14 +4,13 @@
 // usage: soak_test FIRST_TRACK SECOND_TRACK   (of the same format, minutes long, so that none ends by itself)
 
 #include "platform/process_facts.h"
+#include "tests/support/process_count.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QDir>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -19,6 +18,7 @@
 #include <chrono>
 #include <cstdio>
 #include <functional>
+#include <limits>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -28,7 +28,7 @@ namespace {
 constexpr int trackChanges = 1000;
 constexpr int sessionRebuilds = 200;
 constexpr int warmUp = 100;
-constexpr int patienceMs = 20000;
+using kelp_test::patienceMs;
 
 struct Footprint
 {
@@ -37,17 +37,12 @@ struct Footprint
     double residentMiB = 0;
 };
 
-int entries(const QString &folder)
+/// What is held once the session before has let go of all: with no more descriptors and threads than then, or
+/// after all patience.
+Footprint footprint(const Footprint &before)
 {
-    return static_cast<int>(
-        QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
-}
-
-/// A flusher sleeps for up to 50 ms before it sees the end of its session; then the count is taken.
-Footprint footprint()
-{
-    std::this_thread::sleep_for(std::chrono::milliseconds(200));
-    Footprint now{entries(u"/proc/self/fd"_s), entries(u"/proc/self/task"_s), 0};
+    Footprint now{kelp_test::fallsTo(before.descriptors, kelp_test::openDescriptors),
+                  kelp_test::fallsTo(before.threads, kelp_test::runningThreads), 0};
     QFile status(u"/proc/self/status"_s);
     if (status.open(QIODevice::ReadOnly)) {
         for (const QByteArray &line : status.readAll().split('\n')) {
@@ -56,6 +51,15 @@ Footprint footprint()
         }
     }
     return now;
+}
+
+/// Before all: a flusher sleeps for up to 50 ms before it sees the end of its session; then the count is
+/// taken.
+Footprint firstFootprint()
+{
+    std::this_thread::sleep_for(std::chrono::milliseconds(200));
+    constexpr int any = std::numeric_limits<int>::max();
+    return footprint({any, any, 0});
 }
 
 /// Runs the event loop until the condition holds; ends the test when it does not within the patience.
@@ -115,12 +119,12 @@ int main(int argc, char **argv)
     for (int i = 0; i < warmUp; ++i)
         change(i);
     QString report;
-    Footprint before = footprint();
+    Footprint before = firstFootprint();
     for (int i = 0; i < trackChanges; ++i)
         change(i);
     // What the log pane holds grows with its lines up to its bound; a megabyte a hundred changes would be a
     // leak.
-    bool good = same("1000 track changes in one session", before, footprint(), 10.0, report);
+    bool good = same("1000 track changes in one session", before, footprint(before), 10.0, report);
 
     const auto rebuild = [&](int number) {
         window.stopPlayback();
@@ -131,10 +135,10 @@ int main(int argc, char **argv)
     };
     for (int i = 0; i < warmUp / 5; ++i)
         rebuild(i);
-    before = footprint();
+    before = firstFootprint();
     for (int i = 0; i < sessionRebuilds; ++i)
         rebuild(i);
-    good = same("200 rebuilt sessions", before, footprint(), 10.0, report) && good;
+    good = same("200 rebuilt sessions", before, footprint(before), 10.0, report) && good;
 
     window.killProc(true);
     std::fputs(qPrintable(report), stdout);

@@ -20,7 +20,7 @@ class Commands(unittest.TestCase):
     def environment(self, stage):
         return {k: v for k, v in stage.env.items() if k not in ("DISPLAY", "QT_QPA_PLATFORM", "HOME")} | {"HOME": stage.home}
 
-    def run_it(self, stage, *arguments, timeout=120, cwd=None):
+    def run_it(self, stage, *arguments, timeout=4 * support.PATIENCE, cwd=None):
         return subprocess.run([RUN, *arguments], env=self.environment(stage), capture_output=True, text=True, timeout=timeout,
                               stdin=subprocess.DEVNULL, cwd=cwd or stage.root)
 
@@ -48,9 +48,9 @@ class Commands(unittest.TestCase):
             log = stage.path("named.log")
             process = stage.start([RUN, track], env={**self.environment(stage), "KELP_GUI_LOG": log}, stdout=subprocess.PIPE,
                                   stderr=subprocess.STDOUT, text=True)
-            wait_until(lambda: "Playback finished" in support.read_text(log), 60, "the end of the track")
+            wait_until(lambda: "Playback finished" in support.read_text(log), 4 * support.PATIENCE, "the end of the track")
             process.send_signal(signal.SIGTERM)
-            output = process.communicate(timeout=20)[0]
+            output = process.communicate(timeout=support.PATIENCE)[0]
             self.assertIn("virtual one", output)
             self.assertIn(log, output)
 

@@ -5,7 +5,7 @@ import subprocess
 import unittest
 
 import support
-from support import BUILD, Player, Stage, read_text
+from support import BUILD, Stage
 
 EXPECTED = ["bin/KelpPlayer", "bin/KelpPlayerEngine", "lib/kelp-player/libkelp_player_core.so",
             "share/applications/io.kelp.KelpPlayer.desktop", "share/metainfo/io.kelp.KelpPlayer.metainfo.xml",
@@ -23,13 +23,11 @@ class Install(unittest.TestCase):
             shutil.move(first, prefix)
             track, _ = stage.make("flac", "t.flac", seconds=1)
             engine = subprocess.run([os.path.join(prefix, "bin/KelpPlayerEngine"), "-i", track, "-dev", "null"], env=stage.env,
-                                    capture_output=True, text=True, timeout=30, stdin=subprocess.DEVNULL)
+                                    capture_output=True, text=True, timeout=support.PATIENCE, stdin=subprocess.DEVNULL)
             self.assertEqual(engine.returncode, 0, engine.stdout + engine.stderr)
             support.PROGRAM = os.path.join(prefix, "bin/KelpPlayer")
             for inproc in (1, 0):
-                player = Player(stage, [track], dict(KELP_GUI_INPROC=inproc, KELP_GUI_QUIT_AFTER=4))
-                player.wait_log("Playback finished")
-                self.assertEqual(player.wait_end(), 0, read_text(player.output_path))
+                stage.player_to_its_end(track, KELP_GUI_INPROC=inproc, quit_after=4, done=lambda log: "Playback finished" in log)
 
     def test_the_desktop_files_are_valid(self):
         root = os.path.join(os.path.dirname(__file__), "..", "..", "packaging")

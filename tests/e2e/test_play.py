@@ -3,11 +3,10 @@ import os
 import re
 import signal
 import subprocess
-import time
 import unittest
 
 import support
-from support import ENGINE, PROGRAM, Stage, read_text, wait_until
+from support import ENGINE, PATIENCE, PROGRAM, Stage, read_text, wait_until
 
 KINDS = [("flac", dict(rate=44100, bits=16)), ("wav", dict(rate=96000, bits=24)), ("dsf", {}), ("dff", {})]
 
@@ -20,11 +19,9 @@ def children_of(pid):
 
 class Play(unittest.TestCase):
     def play_to_the_end(self, stage, path, inproc, finished=1):
-        player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_QUIT_AFTER=4)
-        player.wait_log("Playback finished", count=finished)
-        player.wait_log(r"OPENED ")
-        self.assertEqual(player.wait_end(), 0, read_text(player.output_path))
-        log = player.log()
+        log = stage.player_to_its_end(path, KELP_GUI_INPROC=inproc, quit_after=2 + finished,
+                                      done=lambda log: log.count("Playback finished") >= finished).log()
+        self.assertIn("OPENED ", log)
         self.assertRegex(log, r"\[control\] closure: queued=\d+ recv=\d+ diff=\d+ — passed")
         if inproc:
             self.assertRegex(log, r"\[control\] closure: queued=[1-9]\d* recv=[1-9]\d* diff=0 — passed")
@@ -96,9 +93,7 @@ class Play(unittest.TestCase):
                 self.assertEqual(run.returncode, 1, name + run.stdout + run.stderr)
                 self.assertEqual(len([line for line in run.stdout.split("\n") if "FAILED" in line]), 1, run.stdout)
                 self.assertNotIn("DONE", run.stdout)
-                player = stage.player(path, KELP_GUI_INPROC=1, KELP_GUI_QUIT_AFTER=3)
-                player.wait_log("FAILED")
-                self.assertEqual(player.wait_end(), 0)
+                player = stage.player_to_its_end(path, KELP_GUI_INPROC=1, quit_after=2, done=lambda log: "FAILED" in log)
                 self.assertNotIn("Playback finished", player.log())
 
     def test_the_console_role_answers_in_the_terminal(self):
@@ -106,9 +101,9 @@ class Play(unittest.TestCase):
             path, _ = stage.make("flac", "t.flac", seconds=1)
             for program in (PROGRAM, ENGINE):
                 environment = {k: v for k, v in stage.env.items() if k not in ("QT_QPA_PLATFORM", "DISPLAY")}
-                listing = subprocess.run([program, "-list"], env=environment, capture_output=True, text=True, timeout=20)
+                listing = subprocess.run([program, "-list"], env=environment, capture_output=True, text=True, timeout=PATIENCE)
                 self.assertEqual(listing.returncode, 0, listing.stderr)
-                playing = subprocess.run([program, "-i", path], env=environment, capture_output=True, text=True, timeout=20,
+                playing = subprocess.run([program, "-i", path], env=environment, capture_output=True, text=True, timeout=PATIENCE,
                                          stdin=subprocess.DEVNULL)
                 self.assertEqual(playing.returncode, 0, playing.stdout + playing.stderr)
                 self.assertIn("DONE", playing.stdout)
@@ -147,11 +142,11 @@ class Play(unittest.TestCase):
             path, _ = stage.make("flac", "long.flac", seconds=20)
             for inproc in (1, 0):
                 player = stage.player(path, KELP_GUI_INPROC=inproc, KELP_GUI_AUTOCLOSE=1)
-                self.assertEqual(player.wait_end(20), 0)
+                self.assertEqual(player.wait_end(), 0)
                 self.assertRegex(player.log(), "test hook: ")
-                time.sleep(0.1)
-                left = subprocess.run(["pgrep", "-f", f"KelpPlayerEngine.*-parent-pid {player.process.pid}"], capture_output=True)
-                self.assertNotEqual(left.returncode, 0, "an engine process was left behind")
+                engine = ["pgrep", "-f", f"KelpPlayerEngine.*-parent-pid {player.process.pid}"]
+                wait_until(lambda engine=engine: subprocess.run(engine, capture_output=True).returncode != 0,
+                           what="the end of the engine's process")
 
 
 if __name__ == "__main__":

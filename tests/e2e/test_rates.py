@@ -51,9 +51,9 @@ class Rates(unittest.TestCase):
             session = support.EngineSession(stage, "-dev", "cap", "-dop", "force")
             for number in range(1, 61):
                 session.send("load " + path)
-                session.wait_line("DONE", count=number, seconds=60)
+                session.wait_line("DONE", count=number)
             self.assertEqual(session.stop(), 3)
-            support.wait_until(lambda: "frames" in support.read_text(verdict), 30, "the checker's verdict")
+            support.wait_until(lambda: "frames" in support.read_text(verdict), what="the checker's verdict")
             text = support.read_text(verdict)
             match = re.search(r"(\d+) frames, (\d+) markers out of step, (\d+) differing between channels", text)
             self.assertTrue(match, text)

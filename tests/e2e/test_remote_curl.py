@@ -8,7 +8,7 @@ from remote import RemotePlayer, make_album
 from support import Stage, need, wait_until
 
 TITLES = ["Eins", 'Zwei \\"so\\"', "海带", "Vier"]
-SECONDS = 30
+SECONDS = 60
 
 
 class RemoteCurl(unittest.TestCase):
@@ -17,8 +17,8 @@ class RemoteCurl(unittest.TestCase):
 
     def curl(self, url, *options):
         """Status and body."""
-        done = subprocess.run(["curl", "--silent", "--show-error", "--noproxy", "*", "--max-time", "20", "--write-out", "\n%{http_code}",
-                               *options, url], capture_output=True, text=True, timeout=30)
+        done = subprocess.run(["curl", "--silent", "--show-error", "--noproxy", "*", "--max-time", "60", "--write-out", "\n%{http_code}",
+                               *options, url], capture_output=True, text=True, timeout=support.PATIENCE)
         self.assertEqual(done.returncode, 0, done.stderr)
         body, _, status = done.stdout.rpartition("\n")
         return int(status), body
@@ -37,7 +37,7 @@ class RemoteCurl(unittest.TestCase):
         def there():
             state = self.state(remote)
             return state if state["track"] == track and all(state[key] == value for key, value in wanted.items()) else None
-        return wait_until(there, 30, f"row {track} with {wanted}")
+        return wait_until(there, what=f"row {track} with {wanted}")
 
     def test_an_album_from_the_first_track_to_the_last(self):
         with Stage() as stage:
@@ -85,10 +85,10 @@ class RemoteCurl(unittest.TestCase):
         with Stage() as stage:
             stage.display()
             stage.sound_server()
-            remote = RemotePlayer(stage, make_album(stage, ["A", "B"], 3))
+            remote = RemotePlayer(stage, make_album(stage, ["A", "B"], 8))
             self.wait_track(remote, 0, playing=True)
             self.wait_track(remote, 1, playing=True)
-            wait_until(lambda: not self.state(remote)["playing"], 30, "the end of the album")
+            wait_until(lambda: not self.state(remote)["playing"], what="the end of the album")
             self.assertTrue(self.tell(remote, do="playat", i=0)["playing"], "and it can be started again")
 
     def test_nothing_but_the_routes_is_answered(self):

@@ -18,7 +18,8 @@ class RemotePage(unittest.TestCase):
         need_browser()
         self.stage = self.enterContext(Stage())
         self.stage.sound_server()
-        self.sheet = make_album(self.stage, TITLES, 20)
+        # Each so long that none ends by itself while the page is looked at; a low rate keeps the file small.
+        self.sheet = make_album(self.stage, TITLES, 90, rate=8000)
 
     def start(self, screen, **options):
         remote = RemotePlayer(self.stage, self.sheet, **options)
@@ -83,12 +84,12 @@ class RemotePage(unittest.TestCase):
         # A player that hangs looks to the phone like one that has gone away.
         remote.player.process.send_signal(signal.SIGSTOP)
         try:
-            browser.wait("document.querySelector('#t').textContent.startsWith('连接已断开')", "the loss", 30)
+            browser.wait("document.querySelector('#t').textContent.startsWith('连接已断开')", "the loss")
             self.assertTrue(browser.run("return document.body.classList.contains('off')"))
             self.picture(browser, "phone_lost")
         finally:
             remote.player.process.send_signal(signal.SIGCONT)
-        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "the return", 30)
+        browser.wait("document.querySelector('#t').textContent.startsWith('正在播放')", "the return")
         self.assertFalse(browser.run("return document.body.classList.contains('off')"))
 
         remote.player.process.terminate()

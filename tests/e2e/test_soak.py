@@ -13,7 +13,7 @@ class Soak(unittest.TestCase):
             first, _ = stage.make("flac", "one.flac", seconds=600, signal="silence")
             second, _ = stage.make("flac", "two.flac", seconds=600, signal="silence")
             done = subprocess.run([os.path.join(support.BUILD, "soak_test"), first, second], capture_output=True, text=True,
-                                  env={**stage.env, "KELP_GUI_LOG": stage.path("gui.log")}, timeout=400)
+                                  env={**stage.env, "KELP_GUI_LOG": stage.path("gui.log")}, timeout=1700)
             print(done.stdout)
             self.assertEqual(done.returncode, 0, done.stdout + done.stderr[-3000:])
 

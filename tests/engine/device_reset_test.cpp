@@ -46,14 +46,13 @@ TEST(DeviceReset, AnEngineThatHangsIsKilledAfterFiveSecondsAndTold)
     const QTemporaryDir scratch;
     QFile script(scratch.filePath(u"engine"_s));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\nexec sleep 60\n");
+    script.write("#!/bin/sh\nexec sleep 600\n"); // longer than CTest lets a test run
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     script.close();
     QElapsedTimer clock;
     clock.start();
     const auto log = reset(script.fileName());
     EXPECT_GE(clock.elapsed(), 5000);
-    EXPECT_LT(clock.elapsed(), 60000) << "it was not waited for";
     ASSERT_EQ(log.size(), 1);
     EXPECT_TRUE(log[0].isError);
     EXPECT_EQ(log[0].text, u"设备复位 (-reset-device) 超时：100%1 forced"_s);

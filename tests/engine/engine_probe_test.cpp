@@ -25,7 +25,7 @@ struct LogEntry
 class EngineProbe : public testing::Test
 {
 protected:
-    PlayerProbeResult run(const QStringList &args, int timeoutMs = 30000, const QString &program = {})
+    PlayerProbeResult run(const QStringList &args, int timeoutMs = patienceMs, const QString &program = {})
     {
         return runEngineProbe(program.isEmpty() ? engineProgramPath() : program, args, timeoutMs,
                               [this](const QString &text, bool isError) {
@@ -103,7 +103,7 @@ TEST_F(EngineProbe, ATimeOutLeavesNoProcessBehind)
 TEST_F(EngineProbe, WithoutAKnownEngineTheProgramAsksItself)
 {
     // Its own program: of this test it is the one that lists its tests.
-    const PlayerProbeResult result = runEngineProbe({}, {u"--gtest_list_tests"_s}, 60000, {});
+    const PlayerProbeResult result = runEngineProbe({}, {u"--gtest_list_tests"_s}, patienceMs, {});
     EXPECT_EQ(result.rc, 0);
     EXPECT_TRUE(result.text.contains(u"WithoutAKnownEngineTheProgramAsksItself"_s));
 }

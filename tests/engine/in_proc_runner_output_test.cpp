@@ -23,7 +23,7 @@ TEST(InProcRunnerOutput, AFloodArrivesWholeAndInOrder)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("flood", std::to_string(count)), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(60000), 0);
+    EXPECT_EQ(runner.waitExit(patienceMs), 0);
     const auto lines = pieces.ofTheEngine();
     ASSERT_EQ(lines.size(), std::size_t{count});
     std::array<char, 32> expected;
@@ -38,7 +38,7 @@ TEST(InProcRunnerOutput, GarbageArrivesByteForByte)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("garbage"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), 0);
+    EXPECT_EQ(runner.waitExit(patienceMs), 0);
     const auto got = pieces.ofTheEngine();
     ASSERT_GE(got.size(), 8u);
     EXPECT_EQ(got[0], std::string("nul \0 inside\n", 13));
@@ -54,7 +54,7 @@ TEST(InProcRunnerOutput, ALineOfSeventyThousandBytesArrivesInPieces)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("garbage"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), 0);
+    EXPECT_EQ(runner.waitExit(patienceMs), 0);
     std::size_t bytes = 0, count = 0;
     for (const std::string &piece : pieces.ofTheEngine()) {
         if (piece.starts_with("xxx")) {
@@ -71,7 +71,7 @@ TEST(InProcRunnerOutput, BothStreamsComeThroughOnePipe)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("both"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), 0);
+    EXPECT_EQ(runner.waitExit(patienceMs), 0);
     EXPECT_TRUE(pieces.contains("to stdout\n"));
     EXPECT_TRUE(pieces.contains("to stderr\n"));
 }
@@ -81,9 +81,9 @@ TEST(InProcRunnerOutput, WhatTheEngineDoesNotFlushIsFlushedWhileItRuns)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("unflushed"), pieces.sink()), 0);
-    EXPECT_TRUE(eventually([&] { return pieces.contains("UNFLUSHED\n"); }));
+    EXPECT_TRUE(waitUntil([&] { return pieces.contains("UNFLUSHED\n"); }));
     EXPECT_TRUE(runner.running());
-    EXPECT_EQ(runner.stop(10000), 3);
+    EXPECT_EQ(runner.stop(patienceMs), 3);
 }
 
 TEST(InProcRunnerOutput, AnEngineThatThrowsEndsWithMinusOneAndItsSentence)
@@ -91,11 +91,11 @@ TEST(InProcRunnerOutput, AnEngineThatThrowsEndsWithMinusOneAndItsSentence)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("throw", "std"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), -1);
+    EXPECT_EQ(runner.waitExit(patienceMs), -1);
     EXPECT_TRUE(pieces.contains("[inproc] the engine threw an exception: a thrown sentence\n"));
     EXPECT_TRUE(pieces.contains("[inproc] engine entry returned rc=-1 (args=9)\n"));
     ASSERT_EQ(runner.start(engineArgs("throw", "other"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), -1);
+    EXPECT_EQ(runner.waitExit(patienceMs), -1);
     EXPECT_TRUE(pieces.contains("[inproc] the engine threw a non-std exception\n"));
 }
 
@@ -135,7 +135,7 @@ TEST(InProcRunnerOutput, AThrowingSinkIsReportedAndDoesNotEndTheReader)
                                    throw std::runtime_error("sink is ill");
                                }),
                   0);
-        EXPECT_EQ(runner.waitExit(10000), 0);
+        EXPECT_EQ(runner.waitExit(patienceMs), 0);
     }
     const std::string reported = contents(scratch.file("stderr"));
     EXPECT_GE(calls, 9);
@@ -152,7 +152,7 @@ TEST(InProcRunnerOutput, TheDiagnosticFileTellsEachStep)
     Pieces pieces;
     InProcRunner runner(testEngine());
     ASSERT_EQ(runner.start(engineArgs("both"), pieces.sink()), 0);
-    EXPECT_EQ(runner.waitExit(10000), 0);
+    EXPECT_EQ(runner.waitExit(patienceMs), 0);
     unsetenv("KELP_INPROC_LOG");
     const std::string log = contents(path);
     EXPECT_TRUE(

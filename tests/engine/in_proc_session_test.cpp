@@ -44,7 +44,7 @@ TEST(InProcSession, CountsBytesAndDeliversLines)
     EXPECT_EQ(session.writeLine(u"load /音乐/a.flac"_s, flushed), 20);
     EXPECT_TRUE(flushed);
     EXPECT_TRUE(eventually([&] { return heard.hasLine(u"[echo] load /音乐/a.flac\n"_s); }));
-    EXPECT_EQ(session.stop(10000), 3);
+    EXPECT_EQ(session.stop(patienceMs), 3);
     EXPECT_TRUE(heard.ends.isEmpty()) << "the end is reported by poll()";
     session.poll();
     session.poll();
@@ -84,7 +84,7 @@ TEST(InProcSession, ASecondStartIsRefusedAndTheFirstStillReportsItsEnd)
     Heard heard(session);
     ASSERT_EQ(session.start(u"KelpPlayer"_s, args(u"echo"_s)), 0);
     EXPECT_EQ(session.start(u"KelpPlayer"_s, args(u"echo"_s)), -2);
-    EXPECT_EQ(session.stop(10000), 3);
+    EXPECT_EQ(session.stop(patienceMs), 3);
     session.poll();
     EXPECT_EQ(heard.ends.size(), 1);
 }
@@ -112,7 +112,7 @@ TEST(InProcSession, AHangingEngineTimesOut)
     EXPECT_TRUE(heard.ends.isEmpty());
     QFile release(scratch.filePath(u"release"_s));
     ASSERT_TRUE(release.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(session.waitFinished(10000));
+    EXPECT_TRUE(session.waitFinished(patienceMs));
     session.poll();
     EXPECT_EQ(heard.ends.size(), 1);
 }
@@ -145,7 +145,7 @@ TEST(InProcSession, NamesTheStageForTheLengthOfAWrite)
     session.writeLine(QString(50, u'w') + u" x"_s, flushed);
     EXPECT_EQ(history, (QStringList{u"sendCmd(load)"_s, u"before"_s, u"sendCmd("_s + QString(40, u'w') + u')',
                                     u"before"_s}));
-    EXPECT_EQ(session.stop(10000), 3);
+    EXPECT_EQ(session.stop(patienceMs), 3);
 }
 
 TEST(InProcSession, ARefusedLineCountsZeroAndTellsWhy)
@@ -161,7 +161,7 @@ TEST(InProcSession, ARefusedLineCountsZeroAndTellsWhy)
     EXPECT_EQ(session.writeLine(u"stop"_s, flushed), 5);
     QFile wake(scratch.filePath(u"wake"_s));
     ASSERT_TRUE(wake.open(QIODevice::WriteOnly));
-    EXPECT_TRUE(session.waitFinished(30000));
+    EXPECT_TRUE(session.waitFinished(patienceMs));
 }
 
 TEST(InProcSession, WithoutALibraryTheStartIsRefusedWithASentence)

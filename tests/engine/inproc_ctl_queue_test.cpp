@@ -11,7 +11,7 @@
 #include <thread>
 
 using kelp::InprocCtlQueue;
-using runner_support::eventually;
+using runner_support::waitUntil;
 
 namespace {
 
@@ -118,7 +118,7 @@ TEST(InprocCtlQueue, AReaderWaitsForALineAndForTheClose)
         while (last > 0);
     });
     queue->push("four");
-    EXPECT_TRUE(eventually([&] { return last == 4; }));
+    EXPECT_TRUE(waitUntil([&] { return last == 4; }));
     queue->close();
     reader.join();
     EXPECT_EQ(last, 0);
@@ -171,11 +171,11 @@ TEST(InprocCtlQueue, ARetiredQueueLivesUntilItsReadersHaveBeenToldTheEnd)
         std::array<char, 16> buffer;
         gotLine = kelp_inproc_ctl_read(address, buffer.data(), 16) == 4;
         // Between two reads nobody waits in the queue, yet this thread will come back to it.
-        eventually([&] { return goOn.load(); });
+        waitUntil([&] { return goOn.load(); });
         end = kelp_inproc_ctl_read(address, buffer.data(), 16);
     });
     queue->push("line");
-    ASSERT_TRUE(eventually([&] { return gotLine.load(); }));
+    ASSERT_TRUE(waitUntil([&] { return gotLine.load(); }));
     queue->close();
     queue.reset();
     EXPECT_EQ(InprocCtlQueue::aliveCount(), before + 1);

@@ -1,6 +1,8 @@
 #include "engine/engine_probe.h"
 #include "engine/probe_worker.h"
 
+#include "tests/support/patience.h"
+
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <QStringList>
@@ -24,7 +26,7 @@ namespace {
 template<typename Condition>
 bool waitUntil(Condition condition)
 {
-    return QTest::qWaitFor(condition, 10000);
+    return QTest::qWaitFor(condition, kelp_test::patienceMs);
 }
 
 /// A probe that stays under way until it is let go.
@@ -161,7 +163,7 @@ TEST(ProbeWorker, EndsWithoutWaitingForWhatHasNotBegun)
     const auto gate = std::make_shared<Gate>();
     bool delivered = false;
     {
-        ProbeWorker worker(30s);
+        ProbeWorker worker(kelp_test::patience);
         worker.run(
             [gate, &begun] {
                 ++begun;
@@ -211,19 +213,27 @@ TEST(ProbeWorker, TheEventLoopRunsOnWhileAProbeHangs)
     ASSERT_TRUE(qputenv("KELP_GUI_PROBE_HANG", "1"));
     ProbeWorker worker;
     std::optional<PlayerProbeResult> result;
+    // The probe begins only when the loop has turned some times behind the request for it.
+    const auto gate = std::make_shared<Gate>();
     int ticks = 0;
     QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] { ++ticks; });
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (++ticks == 5)
+            gate->open();
+    });
     timer.start(20);
-    worker.run([] { return runEngineProbe(u"/nowhere"_s, {u"-list"_s}, 5000, {}); }, &worker,
-               [&](const PlayerProbeResult &answer) { result = answer; });
+    worker.run(
+        [gate] {
+            gate->pass();
+            return runEngineProbe(u"/nowhere"_s, {u"-list"_s}, 5000, {});
+        },
+        &worker, [&](const PlayerProbeResult &answer) { result = answer; });
     EXPECT_TRUE(waitUntil([&] { return result.has_value(); }));
     qunsetenv("KELP_GUI_PROBE_HANG");
     ASSERT_TRUE(result);
     EXPECT_EQ(result->rc, -1000);
     EXPECT_EQ(result->text, u"[probe] timed out after 1200 ms (KELP_GUI_PROBE_HANG self-test) -- killed"_s);
-    // The time-out lasts for sixty ticks; a loop that waits for the probe has one or none.
-    EXPECT_GT(ticks, 10);
+    EXPECT_GT(ticks, 5) << "and turned on while the probe ran into its time-out";
 }
 
 TEST(ProbeWorker, AnUnusedWorkerEndsAtOnce)
@@ -240,7 +250,7 @@ TEST(ProbeWorker, AProbeThatStartsAProcessHandsOverWhatItTouched)
     std::optional<PlayerProbeResult> answer;
     worker.run(
         [runs] {
-            const PlayerProbeResult result = runEngineProbe(u"/bin/true"_s, {}, 20000, {});
+            const PlayerProbeResult result = runEngineProbe(u"/bin/true"_s, {}, kelp_test::patienceMs, {});
             ++*runs;
             return result;
         },

@@ -3,7 +3,6 @@
 #include "player_core/include/kelp_player_core.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <dlfcn.h>
@@ -13,7 +12,6 @@
 #include <iterator>
 #include <sstream>
 #include <sys/stat.h>
-#include <thread>
 
 namespace runner_support {
 
@@ -67,35 +65,6 @@ std::vector<std::string> Pieces::ofTheEngine() const
         return piece.starts_with("[host]") || piece.starts_with("[inproc]");
     });
     return pieces;
-}
-
-bool eventually(const std::function<bool()> &condition)
-{
-    const auto until = std::chrono::steady_clock::now() + std::chrono::minutes(1);
-    while (!condition()) {
-        if (std::chrono::steady_clock::now() > until)
-            return false;
-        std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    }
-    return true;
-}
-
-static std::size_t entriesOf(const char *directory)
-{
-    std::size_t count = 0;
-    for ([[maybe_unused]] const auto &entry : std::filesystem::directory_iterator(directory))
-        ++count;
-    return count;
-}
-
-std::size_t openDescriptors()
-{
-    return entriesOf("/proc/self/fd");
-}
-
-std::size_t threads()
-{
-    return entriesOf("/proc/self/task");
 }
 
 StandardDescriptors StandardDescriptors::now()

@@ -3,7 +3,9 @@
 
 #include "engine/in_proc_runner.h"
 
-#include <functional>
+#include "tests/support/patience.h"
+#include "tests/support/process_count.h"
+
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -12,6 +14,13 @@
 #include <vector>
 
 namespace runner_support {
+
+using kelp_test::fallsTo;
+using kelp_test::idleThreads;
+using kelp_test::openDescriptors;
+using kelp_test::patienceMs;
+using kelp_test::runningThreads;
+using kelp_test::waitUntil;
 
 // The entry of the test engine's library.
 kelp::InProcRunner::Entry testEngine();
@@ -34,19 +43,6 @@ private:
     mutable std::mutex m_mutex;
     std::vector<std::string> m_pieces;
 };
-
-// Polls until the condition holds; false after a minute, which no test should ever see.
-bool eventually(const std::function<bool()> &condition);
-
-std::size_t openDescriptors();
-std::size_t threads();
-
-// Threads of a test that runs nothing: the main one, and the one that ThreadSanitizer keeps.
-#ifdef __SANITIZE_THREAD__
-inline constexpr std::size_t idleThreads = 2;
-#else
-inline constexpr std::size_t idleThreads = 1;
-#endif
 
 // Which files descriptors 0, 1 and 2 are, and their flags.
 struct StandardDescriptors

@@ -25,7 +25,7 @@ kelp::EngineLibrary &engineLibrary()
 
 bool eventually(const std::function<bool()> &condition)
 {
-    const QDeadlineTimer deadline(60000);
+    const QDeadlineTimer deadline(patienceMs);
     while (!condition()) {
         if (deadline.hasExpired())
             return false;

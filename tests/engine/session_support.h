@@ -4,6 +4,8 @@
 #include "engine/engine_library.h"
 #include "engine/player_session.h"
 
+#include "tests/support/patience.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -13,11 +15,13 @@
 
 namespace session_support {
 
+using kelp_test::patienceMs;
+
 QString engineLibraryPath();
 QString engineProgramPath();
 kelp::EngineLibrary &engineLibrary();
 
-// Runs the event loop until the condition holds; false after a minute, which no test should ever see.
+// Runs the event loop until the condition holds; false when patience is at its end.
 bool eventually(const std::function<bool()> &condition);
 
 // Polls the session besides, as its owner does.

@@ -31,7 +31,7 @@ struct Pipe
 TEST(StdioRedirect, SendsBothStreamsAwayAndBringsThemBack)
 {
     const auto before = StandardDescriptors::now();
-    const std::size_t descriptors = openDescriptors();
+    const int descriptors = openDescriptors();
     {
         const Pipe out;
         StdioRedirect redirect;
@@ -78,7 +78,7 @@ TEST(StdioRedirect, UndoesEverythingWhicheverStepFails)
 {
     for (int failing = 0; failing < 6; ++failing) {
         const auto before = StandardDescriptors::now();
-        const std::size_t descriptors = openDescriptors();
+        const int descriptors = openDescriptors();
         {
             const Pipe out, in;
             int step = 0;

@@ -1,6 +1,8 @@
 // Two hundred phones at once: all are answered, and what it costs the thread is printed.
 #include "net/remote_server.h"
 
+#include "tests/support/patience.h"
+
 #include <QElapsedTimer>
 #include <QTest>
 #include <QTimer>
@@ -16,7 +18,7 @@
 
 namespace {
 
-constexpr int patienceMs = 20'000;
+using kelp_test::patienceMs;
 constexpr int tickMs = 20;
 
 /// Connects all, then asks with all, then reads all; the number that got a whole answer.

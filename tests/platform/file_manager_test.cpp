@@ -3,6 +3,8 @@
 
 #include "support_devices/private_bus.h"
 
+#include "tests/support/patience.h"
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QTest>
@@ -36,7 +38,8 @@ TEST(FileManager, IsAskedAndItsAbsenceIsTold)
     QObject context;
     bool refused = false;
     showInFileManager({u"/m/a.flac"_s}, &context, [&refused] { refused = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&refused] { return refused; }, 20000)) << "nobody has the name";
+    ASSERT_TRUE(QTest::qWaitFor([&refused] { return refused; }, kelp_test::patienceMs))
+        << "nobody has the name";
 
     QDBusConnection desktop = QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"desktop"_s);
     FakeFileManager manager;
@@ -45,7 +48,7 @@ TEST(FileManager, IsAskedAndItsAbsenceIsTold)
     ASSERT_TRUE(desktop.registerService(u"org.freedesktop.FileManager1"_s));
     refused = false;
     showInFileManager({u"/m/a b#%.flac"_s, u"/m/武.dsf"_s}, &context, [&refused] { refused = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&manager] { return !manager.shown.isEmpty(); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&manager] { return !manager.shown.isEmpty(); }, kelp_test::patienceMs));
     EXPECT_EQ(manager.shown, (QStringList{u"file:///m/a%20b%23%25.flac"_s, u"file:///m/%E6%AD%A6.dsf"_s}));
     EXPECT_FALSE(refused);
 }

@@ -2,6 +2,7 @@
 
 #include "platform/module_list.h"
 #include "platform/symbol_names.h"
+#include "tests/support/patience.h"
 #include "tests/support/sanitizers.h"
 #include "tests/support/standing_thread.h"
 
@@ -45,7 +46,7 @@ QStringList namesOf(SystemThreadId thread)
     const std::vector<LoadedModule> modules = loadedModules();
     for (int attempt = 0; attempt < 200; ++attempt) {
         StackSample sample;
-        if (sampleStack(thread, sample, 5s) != StackSampleResult::Taken)
+        if (sampleStack(thread, sample, kelp_test::patience) != StackSampleResult::Taken)
             return {};
         names.clear();
         for (int frame = 0; frame < sample.count; ++frame) {
@@ -96,7 +97,7 @@ TEST(StackSample, TheThreadGoesOnAfterwards)
     StandingThread thread;
     for (int round = 0; round < 100; ++round) {
         StackSample sample;
-        ASSERT_EQ(sampleStack(thread.id(), sample, 5s), StackSampleResult::Taken);
+        ASSERT_EQ(sampleStack(thread.id(), sample, kelp_test::patience), StackSampleResult::Taken);
         EXPECT_GT(sample.count, 2);
     }
     thread.letGo();
@@ -116,7 +117,7 @@ TEST(StackSample, ADeepStackIsCutAtTheLimit)
     id.wait(0);
     StackSample sample;
     for (int attempt = 0; attempt < 1000 && sample.count != StackSample::mostFrames; ++attempt)
-        ASSERT_EQ(sampleStack(id.load(), sample, 5s), StackSampleResult::Taken);
+        ASSERT_EQ(sampleStack(id.load(), sample, kelp_test::patience), StackSampleResult::Taken);
     EXPECT_EQ(sample.count, StackSample::mostFrames);
     sem_post(&gate);
     thread.join();
@@ -142,7 +143,7 @@ TEST(StackSample, AllocatesNothingInTheStoppedThread)
     id.wait(0);
     for (int round = 0; round < 50; ++round) {
         StackSample sample;
-        ASSERT_EQ(sampleStack(id.load(), sample, 5s), StackSampleResult::Taken);
+        ASSERT_EQ(sampleStack(id.load(), sample, kelp_test::patience), StackSampleResult::Taken);
     }
     EXPECT_EQ(allocations.load(), 0);
     sem_post(&gate);
@@ -159,7 +160,7 @@ TEST(StackSample, PutsTheFormerHandlerBack)
     SKIP_WITHOUT_SIGNALS();
     StandingThread thread;
     StackSample sample;
-    ASSERT_EQ(sampleStack(thread.id(), sample, 5s), StackSampleResult::Taken);
+    ASSERT_EQ(sampleStack(thread.id(), sample, kelp_test::patience), StackSampleResult::Taken);
     for (int signal = SIGRTMIN; signal <= SIGRTMAX; ++signal)
         EXPECT_EQ(actionOf(signal).sa_handler, SIG_DFL) << signal;
 }
@@ -172,7 +173,7 @@ TEST(StackSample, LeavesSignalsThatSomebodyUsesAlone)
     sigaction(SIGRTMAX, &own, nullptr);
     StandingThread thread;
     StackSample sample;
-    EXPECT_EQ(sampleStack(thread.id(), sample, 5s), StackSampleResult::Taken);
+    EXPECT_EQ(sampleStack(thread.id(), sample, kelp_test::patience), StackSampleResult::Taken);
     EXPECT_EQ(actionOf(SIGRTMAX).sa_handler, SIG_IGN);
     own.sa_handler = SIG_DFL;
     sigaction(SIGRTMAX, &own, nullptr);
@@ -186,7 +187,7 @@ TEST(StackSample, SaysWhenNoSignalIsFree)
         sigaction(signal, &own, nullptr);
     StandingThread thread;
     StackSample sample;
-    EXPECT_EQ(sampleStack(thread.id(), sample, 5s), StackSampleResult::NoSignal);
+    EXPECT_EQ(sampleStack(thread.id(), sample, kelp_test::patience), StackSampleResult::NoSignal);
     own.sa_handler = SIG_DFL;
     for (int signal = SIGRTMIN; signal <= SIGRTMAX; ++signal)
         sigaction(signal, &own, nullptr);
@@ -231,7 +232,7 @@ TEST(StackSample, AThreadThatBlocksSignalsTimesOutAndTheLateSignalDoesNoHarm)
     EXPECT_EQ(sample.count, 0);
     sem_post(&unblock);
     unblocked.wait(false);
-    EXPECT_EQ(sampleStack(id.load(), sample, 5s), StackSampleResult::Taken);
+    EXPECT_EQ(sampleStack(id.load(), sample, kelp_test::patience), StackSampleResult::Taken);
     EXPECT_GT(sample.count, 0);
     sem_post(&unblock);
     thread.join();

@@ -4,6 +4,8 @@
 
 #include "support_devices/private_bus.h"
 
+#include "tests/support/patience.h"
+
 #include <QDBusConnection>
 #include <QGuiApplication>
 #include <QPalette>
@@ -18,7 +20,7 @@ namespace {
 constexpr uint noPreference = 0;
 constexpr uint dark = 1;
 constexpr uint light = 2;
-constexpr int patienceMs = 20000;
+using kelp_test::patienceMs;
 
 /// Answers as a desktop's portal does.
 class FakePortal : public QObject

@@ -1,5 +1,7 @@
 #include "playback/history_store.h"
 
+#include "tests/support/patience.h"
+
 #include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
@@ -29,7 +31,7 @@ protected:
         HistoryStore store(path());
         std::optional<HistoryStore::Loaded> answer;
         store.load(rows, [&answer](const HistoryStore::Loaded &loaded) { answer = loaded; });
-        EXPECT_TRUE(QTest::qWaitFor([&answer] { return answer.has_value(); }, 20000));
+        EXPECT_TRUE(QTest::qWaitFor([&answer] { return answer.has_value(); }, kelp_test::patienceMs));
         return *answer;
     }
 
@@ -93,6 +95,6 @@ TEST_F(HistoryFile, WhatCannotBeWrittenIsSaid)
     QString complaint;
     store.onFailure = [&complaint](const QString &text) { complaint = text; };
     store.save(history(1), m_rows);
-    ASSERT_TRUE(QTest::qWaitFor([&complaint] { return !complaint.isEmpty(); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&complaint] { return !complaint.isEmpty(); }, kelp_test::patienceMs));
     EXPECT_TRUE(complaint.contains(path()));
 }

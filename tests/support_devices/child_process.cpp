@@ -4,7 +4,6 @@
 #include <csignal>
 #include <cstdlib>
 #include <sstream>
-#include <thread>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -15,7 +14,11 @@ extern char **environ;
 
 namespace test_devices {
 
-using namespace std::chrono_literals;
+namespace {
+
+constexpr std::chrono::milliseconds politeWait{2000};
+
+}
 
 std::string findProgram(const std::string &name)
 {
@@ -25,17 +28,6 @@ std::string findProgram(const std::string &name)
         if (const std::string file = folder + "/" + name; ::access(file.c_str(), X_OK) == 0)
             return file;
     return {};
-}
-
-bool waitUntil(const std::function<bool()> &done, std::chrono::milliseconds time)
-{
-    const auto deadline = std::chrono::steady_clock::now() + time;
-    while (!done()) {
-        if (std::chrono::steady_clock::now() >= deadline)
-            return false;
-        std::this_thread::sleep_for(2ms);
-    }
-    return true;
 }
 
 ChildProcess::ChildProcess(const std::vector<std::string> &command, const std::string &outputFile,
@@ -84,7 +76,7 @@ void ChildProcess::end()
     if (reap(false))
         return;
     ::kill(pid_, SIGTERM);
-    if (!waitUntil([this] { return reap(false); }, 2000ms))
+    if (!kelp_test::waitUntil([this] { return reap(false); }, politeWait))
         kill();
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
+#include "tests/support/patience.h"
+
 #include <string>
 #include <vector>
 
@@ -12,10 +12,6 @@ namespace test_devices {
 /// Full path of a program on PATH; empty when it is not installed.
 std::string findProgram(const std::string &name);
 
-/// Calls done() until it says true, at most so long.
-bool waitUntil(const std::function<bool()> &done,
-               std::chrono::milliseconds time = std::chrono::milliseconds(10000));
-
 /// A program that a test starts and ends by its own process id. Its output goes to a file.
 class ChildProcess
 {
@@ -23,7 +19,7 @@ public:
     /// Starts it; output is the file for its standard output, the log one for standard error.
     ChildProcess(const std::vector<std::string> &command, const std::string &outputFile,
                  const std::string &logFile);
-    /// Ends it: politely, after two seconds by force.
+    /// Ends it: politely, after a while by force.
     ~ChildProcess();
     ChildProcess(const ChildProcess &) = delete;
     ChildProcess &operator=(const ChildProcess &) = delete;

@@ -38,7 +38,7 @@ PrivateBus::PrivateBus(PrivatePlace &place)
                                                                       "--nopidfile",
                                                                       "--address=unix:path=" + socket},
                                              place.file("bus.out"), place.file("bus.log"));
-    const bool up = waitUntil([&] { return answers(socket) || !daemon_->running(); });
+    const bool up = kelp_test::waitUntil([&] { return answers(socket) || !daemon_->running(); });
     if (!up || !answers(socket)) {
         missing_ = "The private session bus did not start: " + readFile(place.file("bus.log"));
         return;

@@ -12,7 +12,7 @@ bool answers(const PrivatePlace &place)
 {
     const std::string told = place.file("pactl.out");
     ChildProcess question({"pactl", "list", "short", "sinks"}, told, place.file("pactl.log"));
-    waitUntil([&] { return !question.running(); });
+    kelp_test::waitUntil([&] { return !question.running(); });
     return !readFile(told).empty();
 }
 
@@ -31,8 +31,8 @@ PrivatePulse::PrivatePulse(PrivatePlace &place, const std::string &sinkArguments
                                  "module-null-sink " + sinkArguments},
         place.file("pulse.out"), place.file("pulse.log"));
     const std::string socket = place.file("run/pulse/native");
-    waitUntil([&] { return fs::is_socket(socket) || !server_->running(); });
-    if (!waitUntil([&] { return !server_->running() || answers(place); }) || !server_->running())
+    kelp_test::waitUntil([&] { return fs::is_socket(socket) || !server_->running(); });
+    if (!kelp_test::waitUntil([&] { return !server_->running() || answers(place); }) || !server_->running())
         missing_ = "The private sound server did not start: " + readFile(place.file("pulse.log"));
 }
 
@@ -49,7 +49,7 @@ SinkRecorder::SinkRecorder(PrivatePlace &place, const std::string &sink, int rat
                                  "--rate=" + std::to_string(rateHz), "--format=" + format,
                                  "--channels=" + std::to_string(channels)},
         file_, place.file("parecord.log"));
-    if (!waitUntil([this] { return !bytes().empty(); }))
+    if (!kelp_test::waitUntil([this] { return !bytes().empty(); }))
         missing_ =
             "The recorder of the private sound server gave nothing: " + readFile(place.file("parecord.log"));
 }

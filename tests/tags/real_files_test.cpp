@@ -5,6 +5,8 @@
 #include "tests/support_devices/child_process.h"
 #include "tests/tags/tags_support.h"
 
+#include "tests/support/patience.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -33,7 +35,7 @@ protected:
     {
         QProcess process;
         process.start(program, arguments);
-        EXPECT_TRUE(process.waitForFinished(30000)) << program.toStdString();
+        EXPECT_TRUE(process.waitForFinished(kelp_test::patienceMs)) << program.toStdString();
         EXPECT_EQ(process.exitCode(), 0)
             << program.toStdString() << ": " << process.readAllStandardError().toStdString();
         return process.readAllStandardOutput();

@@ -18,6 +18,8 @@
 #include "ui/title_bar.h"
 #include "ui/tools_menu.h"
 
+#include "tests/support/patience.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -52,7 +54,7 @@ protected:
     {
         m_window->resize(size);
         m_window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get(), kelp_test::patienceMs));
         QApplication::setActiveWindow(m_window.get());
         settle();
     }
@@ -105,7 +107,7 @@ TEST_F(Composition, TheClockTicks)
     static const QRegularExpression form(u"^\\d\\d:\\d\\d:\\d\\d$"_s);
     EXPECT_TRUE(form.match(clock->text()).hasMatch());
     const QString before = clock->text();
-    QTRY_VERIFY_WITH_TIMEOUT(clock->text() != before, 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(clock->text() != before, kelp_test::patienceMs);
 }
 
 TEST_F(Composition, TheToolsStandInTheirOrderAndSayWhatIsNotThere)
@@ -147,7 +149,7 @@ TEST_F(Composition, ClearLogEmptiesThePane)
     ui().logSwitch->click();
     ASSERT_TRUE(ui().log);
     m_window->logLine(u"one"_s);
-    QTRY_VERIFY_WITH_TIMEOUT(ui().log->toPlainText().contains(u"one"_s), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(ui().log->toPlainText().contains(u"one"_s), kelp_test::patienceMs);
     menu()->actions().at(16)->trigger();
     EXPECT_TRUE(ui().log->toPlainText().isEmpty());
     EXPECT_TRUE(logHas(u"one"_s)) << "the file keeps it";
@@ -339,7 +341,7 @@ TEST_F(Composition, WhatWasLoggedBeforeStandsInThePane)
     ui().logSwitch->click();
     ASSERT_TRUE(ui().log);
     EXPECT_TRUE(ui().log->isVisible());
-    QTRY_VERIFY_WITH_TIMEOUT(ui().log->toPlainText().contains(u"before the pane"_s), 5000);
+    QTRY_VERIFY_WITH_TIMEOUT(ui().log->toPlainText().contains(u"before the pane"_s), kelp_test::patienceMs);
     ui().logSwitch->click();
     EXPECT_FALSE(ui().log->isVisible());
     EXPECT_EQ(ui().logSwitch->text(), u"显示日志面板"_s);
@@ -374,7 +376,7 @@ TEST_F(Composition, FilesThatAreDroppedAreAdded)
         EXPECT_TRUE(enter.isAccepted());
         QDropEvent drop(QPointF(5, 5), Qt::CopyAction, &dropped, Qt::LeftButton, {});
         QApplication::sendEvent(target, &drop);
-        QTRY_COMPARE_WITH_TIMEOUT(ui().playlist->count(), before + 1, 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(ui().playlist->count(), before + 1, kelp_test::patienceMs);
     }
 }
 

@@ -3,6 +3,8 @@
 
 #include "ui/cover_store.h"
 
+#include "tests/support/patience.h"
+
 #include <QBuffer>
 #include <QFile>
 #include <QTest>
@@ -111,7 +113,7 @@ protected:
     {
         std::optional<QImage> got;
         store.load(wish, [&got](const QImage &image) { got = image; });
-        EXPECT_TRUE(QTest::qWaitFor([&got] { return got.has_value(); }, 20000));
+        EXPECT_TRUE(QTest::qWaitFor([&got] { return got.has_value(); }, kelp_test::patienceMs));
         return got.value_or(QImage());
     }
     void SetUp() override
@@ -201,10 +203,10 @@ TEST_F(CoverWindow, FollowsTheTrack)
     EXPECT_TRUE(image().isNull());
     m_window->startPlayback(0);
     EXPECT_EQ(m_covers, 0) << "the start of a track does not wait for a picture";
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !image().isNull(); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !image().isNull(); }, kelp_test::patienceMs));
     EXPECT_EQ(image().size(), QSize(40, 30));
     m_window->startPlayback(1);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return image().isNull(); }, 20000))
+    ASSERT_TRUE(QTest::qWaitFor([this] { return image().isNull(); }, kelp_test::patienceMs))
         << "no cover is not the last one's";
 }
 
@@ -212,7 +214,7 @@ TEST_F(CoverWindow, OnlyTheLastWishIsShown)
 {
     m_window->startPlayback(0);
     m_window->startPlayback(1);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return m_covers >= 1; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_covers >= 1; }, kelp_test::patienceMs));
     QTest::qWait(100);
     EXPECT_TRUE(image().isNull());
     EXPECT_EQ(m_covers, 1) << "a wish that was overtaken is not asked for";

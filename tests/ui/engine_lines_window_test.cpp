@@ -1,8 +1,10 @@
 // What the engine's lines do to the window, and in which order.
 #include "window_fixture.h"
 
+#include "tests/support/patience.h"
 #include "ui/bits_led.h"
 #include "ui/instrument_panel.h"
+
 #include <QLabel>
 #include <QTest>
 #include <thread>
@@ -85,9 +87,11 @@ TEST_F(EngineLines, WithLatencyTheInstrumentsWait)
     EXPECT_EQ(instruments().spectrumQueue.size(), 1U);
     EXPECT_TRUE(instruments().levelRelease->isActive());
     EXPECT_FALSE(instruments().spectrum);
-    ASSERT_TRUE(QTest::qWaitFor(
-        [this] { return instruments().spectrum && instruments().levels.leftDb == -7.; }, 20000));
-    EXPECT_TRUE(QTest::qWaitFor([this] { return !instruments().levelRelease->isActive(); }, 20000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return instruments().spectrum && instruments().levels.leftDb == -7.; },
+                        kelp_test::patienceMs));
+    EXPECT_TRUE(
+        QTest::qWaitFor([this] { return !instruments().levelRelease->isActive(); }, kelp_test::patienceMs));
     EXPECT_FALSE(instruments().spectrumRelease->isActive());
 }
 

@@ -12,6 +12,8 @@
 #include "ui/style_sheet.h"
 #include "ui/title_bar.h"
 
+#include "tests/support/patience.h"
+
 #include <QAbstractScrollArea>
 #include <QApplication>
 #include <QCheckBox>
@@ -132,7 +134,7 @@ protected:
         open();
         m_window->resize(GetParam().size);
         m_window->show();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window.get(), kelp_test::patienceMs));
         if (GetParam().playing)
             play();
         for (int round = 0; round < 3; ++round) {
@@ -226,7 +228,7 @@ TEST_P(Fitting, TheSettingsFitToo)
 {
     show();
     m_window->openSetup();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(ui().setup));
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(ui().setup, kelp_test::patienceMs));
     QCoreApplication::processEvents();
     expectNothingClipped(ui().setup);
     expectNothingOverlaps(ui().setup);

@@ -11,6 +11,8 @@
 #include "ui/spectrum_view.h"
 #include "ui/theme.h"
 
+#include "tests/support/patience.h"
+
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
@@ -56,13 +58,18 @@ protected:
 TEST_F(WindowInstruments, LevelsReachMetersAndLabels)
 {
     say(u"LVL -8.42 -0.02"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(levels(), (QStringList{u"−8.42 dB"_s, u"−0.02 dB"_s}), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(levels(), (QStringList{u"−8.42 dB"_s, u"−0.02 dB"_s}), kelp_test::patienceMs);
     EXPECT_EQ(meters().at(0)->dbfs(), -8.42);
     EXPECT_TRUE(meters().at(1)->clip());
+    qint64 &clipUntil = WindowInspector::instruments(*m_window).clipUntil;
+    ASSERT_GT(clipUntil, 0);
+    const qint64 held = std::exchange(clipUntil, clipUntil + kelp_test::patienceMs); // on a busy machine, too
     say(u"LVL -130 -20"_s);
-    QTRY_COMPARE_WITH_TIMEOUT(levels(), (QStringList{u"−∞ dB"_s, u"−20.00 dB"_s}), 5000);
+    QTRY_COMPARE_WITH_TIMEOUT(levels(), (QStringList{u"−∞ dB"_s, u"−20.00 dB"_s}), kelp_test::patienceMs);
     EXPECT_TRUE(meters().at(0)->clip()) << "the hold is one for both channels";
-    QTRY_VERIFY_WITH_TIMEOUT(!meters().at(0)->clip() && !meters().at(1)->clip(), 10000);
+    clipUntil = held;
+    say(u"LVL -130 -20"_s);
+    QTRY_VERIFY_WITH_TIMEOUT(!meters().at(0)->clip() && !meters().at(1)->clip(), kelp_test::patienceMs);
 }
 
 TEST_F(WindowInstruments, FramesReachTheViews)

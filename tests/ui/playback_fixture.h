@@ -7,6 +7,8 @@
 #include "playback/playlist_widget.h"
 #include "window_fixture.h"
 
+#include "tests/support/patience.h"
+
 #include <QTest>
 
 class PlaybackTest : public WindowTest
@@ -68,7 +70,10 @@ protected:
         return entry;
     }
     QString load(int row) const { return QStringLiteral("load ") + fileAt(row); }
-    bool eventually(const std::function<bool()> &condition) { return QTest::qWaitFor(condition, 30000); }
+    bool eventually(const std::function<bool()> &condition)
+    {
+        return QTest::qWaitFor(condition, kelp_test::patienceMs);
+    }
 
 private:
     qsizetype m_linesTaken = 0;

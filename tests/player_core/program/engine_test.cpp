@@ -5,16 +5,14 @@
 #include "tests/support/dsd_file_maker.h"
 #include "tests/support/dsd_signal.h"
 #include "tests/support/pcm_signal.h"
+#include "tests/support/process_count.h"
 #include "tests/support/temp_dir.h"
 #include "tests/support/wav_maker.h"
 
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <thread>
 
 #include <malloc.h>
 #include <unistd.h>
@@ -23,7 +21,10 @@ namespace kelp_core::test {
 
 namespace {
 
+using kelp_test::fallsTo;
+using kelp_test::openDescriptors;
 using kelp_test::PcmSignal;
+using kelp_test::runningThreads;
 using kelp_test::SignalRecipe;
 using kelp_test::SignalShape;
 using kelp_test::TempDir;
@@ -73,18 +74,6 @@ protected:
     const std::string pid_ = std::to_string(::getpid());
 };
 
-size_t openDescriptors()
-{
-    return static_cast<size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
-                                             std::filesystem::directory_iterator{}));
-}
-
-size_t runningThreads()
-{
-    return static_cast<size_t>(std::distance(std::filesystem::directory_iterator("/proc/self/task"),
-                                             std::filesystem::directory_iterator{}));
-}
-
 size_t residentKib()
 {
     std::ifstream statm("/proc/self/statm");
@@ -92,15 +81,6 @@ size_t residentKib()
     size_t resident = 0;
     statm >> total >> resident;
     return resident * static_cast<size_t>(::sysconf(_SC_PAGESIZE)) / 1024;
-}
-
-/// What the count comes to once it is not above the wanted one, or after five seconds: a reader that its
-/// closed queue has just let go may still be on its last instructions.
-size_t settled(size_t (*count)(), size_t wanted)
-{
-    for (int i = 0; i < 500 && count() > wanted; ++i)
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    return count();
 }
 
 /// The bytes without the silence that a session feeds a device behind a track, which for noise is clear-cut.
@@ -207,13 +187,13 @@ TEST_F(EngineTest, AThousandSessionsLeaveNothingBehind)
     };
     for (int i = 0; i < 50; ++i)
         session(); // what is loaded and cached once
-    const size_t threads = settled(runningThreads, 1);
-    const size_t descriptors = openDescriptors();
+    const int threads = fallsTo(kelp_test::idleThreads, runningThreads);
+    const int descriptors = openDescriptors();
     const size_t memory = residentKib();
     for (int i = 0; i < 1'000; ++i)
         session();
-    EXPECT_EQ(settled(openDescriptors, descriptors), descriptors);
-    EXPECT_LE(settled(runningThreads, threads), threads);
+    EXPECT_LE(fallsTo(descriptors, openDescriptors), descriptors);
+    EXPECT_LE(fallsTo(threads, runningThreads), threads);
 #if !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
     EXPECT_LT(residentKib(), memory + 4'096); // the stacks of threads that overlapped are kept, too
 #else

@@ -126,23 +126,30 @@ TEST_F(LevelAndSpeed, ALoopOnADeviceIsExactToTheFrame)
     ::setenv("KELP_ENGINE_PACE", "realtime", 1);
     const PcmSignal signal = makeSignal({.shape = SignalShape::ramp, .frames = 66'150});
     writeFile(dir_.file("a.wav"), wavBytes(signal));
-    EngineHost host;
-    host.start({"-stream", "-parent-pid", pid_, "-dev", "cap"});
-    host.send("load " + dir_.file("a.wav"));
-    host.send("ab 0.500 0.900");
-    EXPECT_NE(host.waitLine("A/B loop: from 0.500 s"), "");
-    double before = -1;
-    for (int turns = 0; turns < 2;) {
-        const std::string line = host.waitLine("PG ");
-        ASSERT_NE(line, "");
-        const double now = std::stod(line.substr(line.find(' ', 3)));
-        turns += now < before;
-        before = now;
+    // A busy machine may leave a gap, which the engine tells; then it is played again.
+    bool inPeace = false;
+    for (int tries = 0; tries < 8 && !inPeace; ++tries) {
+        EngineHost host;
+        host.start({"-stream", "-parent-pid", pid_, "-dev", "cap"});
+        host.send("load " + dir_.file("a.wav"));
+        host.send("ab 0.500 0.900");
+        EXPECT_NE(host.waitLine("A/B loop: from 0.500 s"), "");
+        double before = -1;
+        for (int turns = 0; turns < 2;) {
+            const std::string line = host.waitLine("PG ");
+            ASSERT_NE(line, "");
+            const double now = std::stod(line.substr(line.find(' ', 3)));
+            turns += now < before;
+            before = now;
+        }
+        host.send("ab off");
+        EXPECT_NE(host.waitLine("DONE "), "");
+        host.send("stop");
+        EXPECT_EQ(host.wait(), 3);
+        inPeace = host.lines("WARN The device ran dry").empty();
     }
-    host.send("ab off");
-    EXPECT_NE(host.waitLine("DONE "), "");
-    host.send("stop");
-    EXPECT_EQ(host.wait(), 3);
+    if (!inPeace)
+        GTEST_SKIP() << "this machine is too busy to play without a gap";
     const std::vector<int16_t> all = captured();
     const std::vector<int16_t> track = integers(signal);
     const auto at = [&](size_t frame) { return track.begin() + static_cast<std::ptrdiff_t>(2 * frame); };

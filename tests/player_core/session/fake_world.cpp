@@ -1,5 +1,7 @@
 #include "player_core/session/fake_world.h"
 
+#include "tests/support/patience.h"
+
 #include <algorithm>
 #include <chrono>
 #include <cstring>
@@ -13,6 +15,9 @@ namespace kelp_core::test {
 namespace {
 
 using Clock = std::chrono::steady_clock;
+
+/// Of a clocked device's clock from one look to the next.
+constexpr std::chrono::milliseconds longestStep{10};
 
 class FakeSource : public Source
 {
@@ -101,7 +106,7 @@ public:
         const std::lock_guard lock(device_.mutex);
         ++device_.opened;
         device_.requests.push_back(request);
-        begun_ = Clock::now();
+        lastLook_ = Clock::now();
     }
 
     ~FakeOutput() override
@@ -119,7 +124,7 @@ public:
             return -1;
         if (opened_.clocked) {
             const auto room = [this] {
-                return played() + static_cast<int64_t>(device_.bufferSec * opened_.wire.frameRateHz) -
+                return playedFrames() + static_cast<int64_t>(device_.bufferSec * opened_.wire.frameRateHz) -
                        written_;
             };
             for (int tries = 0; room() <= 0; ++tries) {
@@ -141,7 +146,10 @@ public:
         return static_cast<long>(count);
     }
 
-    int64_t delayFrames() override { return opened_.clocked ? std::max<int64_t>(0, written_ - played()) : 0; }
+    int64_t delayFrames() override
+    {
+        return opened_.clocked ? std::max<int64_t>(0, written_ - playedFrames()) : 0;
+    }
 
     void drain() override
     {
@@ -166,16 +174,23 @@ private:
         device_.wrongMarkers += wrong;
     }
 
-    int64_t played() const
+    /// By the device's own clock, which no busy machine puts ahead of the test: it moves by a step a look at
+    /// most, and stands still while the host is acting.
+    int64_t playedFrames()
     {
-        const std::chrono::duration<double> since = Clock::now() - begun_;
-        return static_cast<int64_t>(since.count() * opened_.wire.frameRateHz);
+        const Clock::time_point now = Clock::now();
+        const std::chrono::duration<double> since = std::min<Clock::duration>(now - lastLook_, longestStep);
+        lastLook_ = now;
+        if (device_.hostWaits)
+            playedSec_ += since.count();
+        return static_cast<int64_t>(playedSec_ * opened_.wire.frameRateHz);
     }
 
     FakeDevice &device_;
     OpenedOutput opened_;
     int64_t written_ = 0;
-    Clock::time_point begun_;
+    Clock::time_point lastLook_;
+    double playedSec_ = 0;
     std::atomic<bool> interrupted_{false};
 };
 
@@ -199,6 +214,7 @@ FakeWorld::FakeWorld()
 
 FakeWorld::~FakeWorld()
 {
+    device.hostWaits = true;
     closeQueue();
     if (session_.joinable())
         session_.join();
@@ -287,18 +303,26 @@ int FakeWorld::readQueue(void *address, char *buffer, int size)
     return static_cast<int>(line.size());
 }
 
-int FakeWorld::wait(int seconds)
+bool FakeWorld::waitFor(std::unique_lock<std::mutex> &lock, const std::function<bool()> &done)
+{
+    device.hostWaits = true;
+    const bool isDone = changed_.wait_for(lock, kelp_test::patience, done);
+    device.hostWaits = false;
+    return isDone;
+}
+
+int FakeWorld::wait()
 {
     std::unique_lock lock(mutex_);
-    changed_.wait_for(lock, std::chrono::seconds(seconds), [this] { return code_.has_value() && allRead_; });
+    waitFor(lock, [this] { return code_.has_value() && allRead_; });
     return code_.value_or(-1000);
 }
 
-std::string FakeWorld::waitLine(const std::string &prefix, int seconds)
+std::string FakeWorld::waitLine(const std::string &prefix)
 {
     std::unique_lock lock(mutex_);
     std::string found;
-    changed_.wait_for(lock, std::chrono::seconds(seconds), [&] {
+    waitFor(lock, [&] {
         for (; waited_ < lines_.size(); ++waited_) {
             if (lines_[waited_].starts_with(prefix)) {
                 found = lines_[waited_++];

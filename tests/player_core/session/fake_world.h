@@ -7,6 +7,7 @@
 #include <condition_variable>
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -60,6 +61,7 @@ struct FakeDevice
     std::atomic<uint64_t> frames{0};
     bool clocked = false;               ///< takes samples at their rate instead of at once
     double bufferSec = 0.1;             ///< of a clocked device
+    std::atomic<bool> hostWaits{false}; ///< a clocked device plays only then; the world sees to it
     std::atomic<int64_t> goneAfter{-1}; ///< frames
     std::atomic<unsigned> underruns{0};
     std::string refuse;                ///< openOutput's error
@@ -83,10 +85,10 @@ public:
     void start(const std::vector<std::string> &args);
     void send(const std::string &line);
     void closeQueue();
-    /// The exit code, or -1000 when the session has not ended after so long.
-    int wait(int seconds = 30);
+    /// Waits for the end; the exit code, or -1000 when the session does not end.
+    int wait();
     /// Waits for a line that begins so; its text, or an empty one when none came.
-    std::string waitLine(const std::string &prefix, int seconds = 30);
+    std::string waitLine(const std::string &prefix);
     /// Lines so far that begin so.
     std::vector<std::string> lines(const std::string &prefix = {});
     std::vector<int16_t> written16();
@@ -103,6 +105,7 @@ private:
     };
     static Queue *newQueue();
     static int readQueue(void *queue, char *buffer, int size);
+    bool waitFor(std::unique_lock<std::mutex> &lock, const std::function<bool()> &done);
     void readLines();
 
     Queue *queue_ = newQueue();

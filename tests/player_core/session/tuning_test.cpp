@@ -432,7 +432,7 @@ TEST_F(TuningTest, SpeedsInAHurryEndWithTheLastOne)
     world.send("resume");
     world.send("ab off");
     world.send("speed 3.00");
-    EXPECT_EQ(world.waitLine("DONE ", 60), "DONE /a");
+    EXPECT_EQ(world.waitLine("DONE "), "DONE /a");
     EXPECT_EQ(world.lines("speed: ").back(), "speed: 3.00x, pitch kept (time stretching)");
     stop();
 }
