@@ -1,6 +1,8 @@
 // Any bytes as a request to the phone remote: the answer is whole, and nothing but a valid command runs.
 #include "net/remote_answer.h"
 
+#include <QStringDecoder>
+
 #include <cstdint>
 
 namespace {
@@ -34,6 +36,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     const std::string answer = answerRemoteRequest(bytes, "t", host);
     const std::size_t body = answer.find("\r\n\r\n");
     demand(answer.starts_with("HTTP/1.1 ") && body != std::string::npos);
+    // What a refused command quotes is what the client sent, and is text all the same.
+    if (answer.starts_with("HTTP/1.1 400 ")) {
+        QStringDecoder decoder(QStringDecoder::Utf8);
+        static_cast<void>(
+            QString(decoder(QByteArrayView(answer.data(), static_cast<qsizetype>(answer.size())))));
+        demand(!decoder.hasError());
+    }
     demand(answer.find("Content-Length: " + std::to_string(answer.size() - body - 4) + "\r\n") < body);
     return 0;
 }

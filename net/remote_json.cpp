@@ -1,5 +1,7 @@
 #include "net/remote_json.h"
 
+#include <QString>
+
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -118,6 +120,8 @@ std::string remoteLibraryJson(const std::vector<RemoteLibraryItem> &items, int t
 std::string remoteErrorJson(std::string_view reason)
 {
     std::string out;
-    appendText(out, "{\"error\":\"", reason);
+    const auto size = static_cast<qsizetype>(reason.size());
+    const QByteArray text = QString::fromUtf8(reason.data(), size).toUtf8();
+    appendText(out, "{\"error\":\"", {text.constData(), static_cast<std::size_t>(text.size())});
     return out + '}';
 }

@@ -42,5 +42,6 @@ std::string jsonEscape(std::string_view text);
 std::string remoteStateJson(const RemoteState &state);
 /// An item's "i" is its position in this answer, from 0.
 std::string remoteLibraryJson(const std::vector<RemoteLibraryItem> &items, int total);
-/// {"error":"…"}
+/// {"error":"…"}. A reason may quote what a client sent: bytes of it that are no UTF-8 become U+FFFD, since
+/// a reader of JSON refuses a text with them.
 std::string remoteErrorJson(std::string_view reason);

@@ -17,6 +17,8 @@ constexpr int acceptedAtOnce = 16;
 constexpr int queuedBySystem = 256;
 constexpr int sweepsADeadline = 4;
 constexpr std::chrono::milliseconds longestSweep{1000};
+/// Until it is tried again to accept, after the system could not.
+constexpr std::chrono::milliseconds acceptAgain{250};
 
 std::string_view viewOf(const QByteArray &data)
 {
@@ -63,6 +65,11 @@ RemoteServer::RemoteServer(RemoteHost host, QObject *parent, const RemoteLimits 
     listener->setProxy(QNetworkProxy::NoProxy);
     listener->setMaxPendingConnections(acceptedAtOnce);
     listener->setListenBacklogSize(queuedBySystem);
+    // Without a file to spare the system accepts nobody, and the listener would never ask again.
+    m_acceptAgain.setSingleShot(true);
+    m_acceptAgain.setInterval(acceptAgain);
+    connect(listener.get(), &QTcpServer::acceptError, this, [this] { m_acceptAgain.start(); });
+    connect(&m_acceptAgain, &QTimer::timeout, listener.get(), &QTcpServer::resumeAccepting);
     m_server = std::move(listener);
     m_turn.setSingleShot(true);
     connect(&m_turn, &QTimer::timeout, this, &RemoteServer::takeTurn);
@@ -88,6 +95,7 @@ bool RemoteServer::listen(quint16 port)
 void RemoteServer::close()
 {
     clearWaitingList(*m_server);
+    m_acceptAgain.stop();
     m_server->close();
     m_token.clear();
     m_pending.clear();

@@ -78,6 +78,7 @@ private:
     std::unique_ptr<QTcpServer> m_server;
     QTimer m_turn;                       ///< fires when the thread's other events have had theirs
     std::chrono::nanoseconds m_spent{0}; ///< on answers, since the last turn
+    QTimer m_acceptAgain;                ///< runs after the system could not accept
     QTimer m_sweep;                      ///< one for all deadlines; runs while a connection is open
     std::string m_token;
     QHash<QTcpSocket *, Connection> m_open; ///< children of m_server

@@ -2,6 +2,7 @@
 import os
 import signal
 import unittest
+import urllib.request
 
 import support
 from browser import PHONE, TABLET, Browser, need_browser
@@ -9,6 +10,8 @@ from remote import RemotePlayer, make_album
 from support import Stage, wait_until
 
 TITLES = ["潮汐", "A title <b>with</b> &amp; marks", "海带森林"] + [f"Track {number}" for number in range(4, 41)]
+LONG = "A concerto whose name goes on for as long as its slow movement, " * 3
+FOREIGN = "أغنية البحر الطويلة جدا التي لا تنتهي أبدا ولا تتوقف عن الغناء في الليل"
 # Where the pictures are kept for whoever wants to look at them.
 PICTURES = os.environ.get("KELP_PICTURES")
 
@@ -33,6 +36,10 @@ class RemotePage(unittest.TestCase):
         path = os.path.join(PICTURES or self.stage.root, name + ".png")
         browser.picture(path)
         self.assertGreater(os.path.getsize(path), 10_000)
+
+    def width_of(self, browser):
+        # Not innerWidth: a phone's browser widens that to whatever sticks out.
+        return browser.run("return document.documentElement.scrollWidth")
 
     def small_targets(self, browser):
         return browser.run("""return [...document.querySelectorAll('button,input')].filter(e=>{
@@ -76,7 +83,7 @@ class RemotePage(unittest.TestCase):
         browser.click("#stop")
         browser.wait("document.querySelector('#t').textContent.startsWith('已停止')", "the stop")
         self.assertEqual(self.small_targets(browser), [])
-        self.assertEqual(browser.run("return document.documentElement.scrollWidth<=innerWidth"), True, "nothing sticks out")
+        self.assertEqual(self.width_of(browser), PHONE["width"], "nothing sticks out")
         self.assertEqual(browser.errors(), [])
 
     def test_loss_and_return(self):
@@ -114,6 +121,56 @@ class RemotePage(unittest.TestCase):
         self.picture(browser, "phone_sideways")
         self.assertTrue(browser.run("return document.querySelector('.pad').getBoundingClientRect().bottom<=innerHeight+1"))
         self.assertEqual(self.small_targets(browser), [])
+
+    def test_long_names_and_names_of_another_direction(self):
+        self.sheet = make_album(self.stage, [LONG, FOREIGN] + TITLES[2:], 20)
+        remote = None
+        for name, screen in (("tablet", TABLET), ("tablet_upright", dict(TABLET, width=768, height=1024)), ("phone", PHONE),
+                             ("small_phone", dict(PHONE, width=320, height=568)), ("small_phone_sideways", dict(PHONE, width=640, height=320)),
+                             ("wide", dict(TABLET, width=1600, height=900))):
+            with self.subTest(name):
+                if remote is None:
+                    remote, browser = self.start(screen)
+                else:
+                    browser = self.enterContext(Browser(self.stage, screen))
+                    browser.open(remote.url("/"))
+                    browser.wait("document.querySelectorAll('#lib button').length===40", "the list")
+                self.picture(browser, "names_" + name)
+                inside = """const r=document.querySelector(arguments[0]).getBoundingClientRect();
+                    return r.left>=0&&r.right<=arguments[1]&&r.top>=0&&r.bottom<=arguments[2]+1"""
+                for part in ("#t", "#a", "#n", "#lib", "#prev", "#play", "#r"):
+                    self.assertTrue(browser.run(inside, part, screen["width"], screen["height"]), part + " is on the screen")
+                self.assertEqual(self.width_of(browser), screen["width"], "nothing sticks out")
+                self.assertGreater(browser.run("return document.querySelector('#lib').clientHeight"), 100, "rows of the list are seen")
+                self.assertEqual(self.small_targets(browser), [])
+                self.assertEqual(browser.run("""return [...document.querySelectorAll('#lib .w span')].slice(0,2)
+                    .map(e=>getComputedStyle(e).direction)"""), ["ltr", "rtl"], "a name keeps its beginning")
+
+    def test_the_list_stays_where_it_was_left_when_the_music_begins(self):
+        remote, browser = self.start(PHONE)
+        browser.click("#stop")
+        browser.wait("document.querySelector('#t').textContent.startsWith('已停止')", "the stop")
+        browser.open(remote.url("/"))
+        browser.wait("document.querySelectorAll('#lib button').length===40&&!document.querySelector('#lib .cur')", "the list")
+        browser.run("document.querySelector('#lib').scrollTop=600")
+        place = browser.run("return document.querySelector('#lib').scrollTop")
+        browser.run("document.querySelector('#lib li:nth-child(14) button').click()")
+        browser.wait("document.querySelector('#lib li:nth-child(14)').classList.contains('cur')", "the chosen track")
+        self.assertEqual(browser.run("return document.querySelector('#lib').scrollTop"), place, "under the finger nothing moves")
+
+    def test_a_volume_that_was_put_back_follows_the_player_again(self):
+        remote, browser = self.start(PHONE)
+        moved = "const r=document.querySelector('#r');r.value=arguments[0];r.dispatchEvent(new Event('input'))"
+        browser.run(moved, 60)
+        # A whole poll while the finger is on it.
+        self.assertEqual(browser.call("POST", "/execute/async", {"script": "update().then(arguments[0])", "args": []}), None)
+        self.assertEqual(browser.text("#v"), "60", "while the finger is on it")
+        # Back to where it began: of that no browser tells as of a change.
+        browser.run(moved, 80)
+        browser.run("window.dispatchEvent(new Event('pointerup'))")
+        with urllib.request.urlopen(remote.url("/cmd", do="vol", v=35)) as reply:
+            self.assertEqual(reply.status, 200)
+        browser.wait("document.querySelector('#v').textContent==='35'&&document.querySelector('#r').value==='35'", "the player's volume")
 
     def test_without_the_token_there_is_no_page(self):
         remote = RemotePlayer(self.stage, self.sheet)

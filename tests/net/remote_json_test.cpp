@@ -76,3 +76,11 @@ TEST(RemoteErrorText, IsOneObject)
     EXPECT_EQ(remoteErrorJson("no such path"), R"({"error":"no such path"})");
     EXPECT_EQ(remoteErrorJson("unknown do=: \"\n"), R"({"error":"unknown do=: \"\n"})");
 }
+
+TEST(RemoteJson, AReasonIsUtf8WhateverAClientSent)
+{
+    using namespace std::string_literals;
+    EXPECT_EQ(remoteErrorJson("unknown do=: \xff\xc3"),
+              "{\"error\":\"unknown do=: \xef\xbf\xbd\xef\xbf\xbd\"}");
+    EXPECT_EQ(remoteErrorJson("unknown do=: 海\0带"s), "{\"error\":\"unknown do=: 海\\u0000带\"}");
+}

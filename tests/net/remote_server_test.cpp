@@ -7,11 +7,14 @@
 #include <QTcpSocket>
 #include <QTest>
 #include <QTimer>
+#include <arpa/inet.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <linux/sockios.h>
 #include <sys/ioctl.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -261,6 +264,28 @@ TEST_F(RemoteServers, AFullServerMakesRoomForWhoAsks)
     EXPECT_TRUE(QTest::qWaitFor([&] { return idle.front()->isEnded(); }, patienceMs)) << "the oldest goes";
     EXPECT_FALSE(idle.back()->isEnded());
     EXPECT_LE(m_server->connectionCount(), 4);
+}
+
+TEST_F(RemoteServers, GoesOnAfterTheSystemCouldNotAccept)
+{
+    make();
+    const int first = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    ASSERT_GE(first, 0);
+    rlimit usual{};
+    ASSERT_EQ(::getrlimit(RLIMIT_NOFILE, &usual), 0);
+    // The next descriptor is one too many.
+    const rlimit none{static_cast<rlim_t>(first) + 1, usual.rlim_max};
+    ASSERT_EQ(::setrlimit(RLIMIT_NOFILE, &none), 0);
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_port = htons(m_server->port());
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    EXPECT_EQ(::connect(first, reinterpret_cast<sockaddr *>(&address), sizeof address), 0);
+    QTest::qWait(100);
+    EXPECT_EQ(m_server->connectionCount(), 0) << "it could not be accepted";
+    ::setrlimit(RLIMIT_NOFILE, &usual);
+    EXPECT_THAT(ask(u"/hello"_s), HasSubstr("needToken"));
+    ::close(first);
 }
 
 TEST_F(RemoteServers, ClosingEndsEveryConnection)
