@@ -19,6 +19,19 @@ NowPlayingLabels idleLabels()
     return labels;
 }
 
+/// A label has one line, whatever a tag holds: several values are parted by commas in place of their NUL, and
+/// line ends and their like become blanks.
+QString oneLine(QString text)
+{
+    text.replace(QChar(u'\0'), u", "_s);
+    for (QChar &character : text) {
+        if (character.category() == QChar::Other_Control || character == QChar::LineSeparator ||
+            character == QChar::ParagraphSeparator)
+            character = u' ';
+    }
+    return text;
+}
+
 } // namespace
 
 QString joinedByPoint(const QString &first, const QString &second)
@@ -38,9 +51,9 @@ NowPlayingLabels nowPlayingLabels(const NowPlayingFacts &facts)
     if (facts.disc >= 1)
         labels.disc = u"DISC %1"_s.arg(facts.disc);
     labels.format = QFileInfo(facts.entry.path).suffix().toUpper().left(longestFormat);
-    labels.title = tags.title.isEmpty() ? facts.entry.text : tags.title;
-    labels.artistLine = joinedByPoint(tags.composer, tags.artist);
-    labels.albumLine = tags.work.isEmpty() ? tags.album : joinedByPoint(tags.work, tags.movement);
+    labels.title = oneLine(tags.title.isEmpty() ? facts.entry.text : tags.title);
+    labels.artistLine = oneLine(joinedByPoint(tags.composer, tags.artist));
+    labels.albumLine = oneLine(tags.work.isEmpty() ? tags.album : joinedByPoint(tags.work, tags.movement));
     labels.playCount = facts.playCount ? QString::number(*facts.playCount) : u"—"_s;
     return labels;
 }

@@ -56,7 +56,15 @@ bool readWavTag(const std::string &path, TagSet &tags, std::string *error)
     uint64_t size = 0;
     if (!findWavId3Chunk(path, offset, size, error))
         return false;
-    return size == 0 || readTagIn(path, offset + chunkHeaderBytes, size - chunkHeaderBytes, tags, error);
+    if (size == 0)
+        return true;
+    // A file that ends within the chunk is not whole, and must not be rewritten as if it were, even where the
+    // tag itself is. Only the pad byte is left out by some programs.
+    std::vector<uint8_t> last;
+    if (const uint64_t end = offset + size;
+        end > offset + chunkHeaderBytes + 1 && !readFileRange(path, end - 2, 1, last, error))
+        return false;
+    return readTagIn(path, offset + chunkHeaderBytes, size - chunkHeaderBytes, tags, error);
 }
 
 bool readDsfTag(const std::string &path, TagSet &tags, std::string *error)

@@ -40,6 +40,16 @@ TEST(NowPlaying, ThePositionHasTwoDigitsAtLeast)
     EXPECT_EQ(nowPlayingLabels(facts).track, u"TRACK 123"_s);
 }
 
+TEST(NowPlaying, EveryLabelHasOneLineWhateverTheTagsHold)
+{
+    const QString two = u"One"_s + QChar(u'\0') + u"Two"_s;
+    const NowPlayingLabels labels =
+        nowPlayingLabels(factsOf(u"/m/a.flac"_s, {u"A\nB\r\u2028C"_s, two, u"D\tE"_s, {}, {}, {}}));
+    EXPECT_EQ(labels.title, u"A B  C"_s);
+    EXPECT_EQ(labels.artistLine, u"One, Two"_s) << "several values of one tag";
+    EXPECT_EQ(labels.albumLine, u"D E"_s);
+}
+
 TEST(NowPlaying, TheDiscShowsWhenThePathNamesOne)
 {
     NowPlayingFacts facts = factsOf(u"/m/a.flac"_s);

@@ -109,6 +109,25 @@ TEST_F(Id3Tags, AWavFileThatIsNoneFails)
     EXPECT_EQ(m_error, "读不满(文件被改过?)");
 }
 
+TEST_F(Id3Tags, AWavFileThatEndsWithinItsChunkFailsThoughTheTagIsWhole)
+{
+    Bytes cut = wavOfChunks({{"data", Bytes(2)}, {"ID3 ", joined({titleTag, Bytes(100)})}});
+    cut.resize(cut.size() - 50);
+    EXPECT_FALSE(read("a.wav", cut));
+    EXPECT_EQ(m_error, "读不满(文件被改过?)");
+    EXPECT_EQ(m_tags, TagSet());
+}
+
+TEST_F(Id3Tags, AWavFileWithoutItsLastPadByteIsRead)
+{
+    Bytes unpadded =
+        wavOfChunks({{"data", Bytes(2)}, {"ID3 ", joined({titleTag, Bytes(titleTag.size() % 2 + 1)})}});
+    ASSERT_EQ(unpadded.back(), 0);
+    unpadded.pop_back();
+    EXPECT_TRUE(read("a.wav", unpadded)) << m_error;
+    EXPECT_EQ(m_tags.title, "T");
+}
+
 TEST_F(Id3Tags, ThePlaceOfAWavFilesChunk)
 {
     uint64_t offset = 1;
