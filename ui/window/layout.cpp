@@ -41,13 +41,14 @@ void PlayerGuiWindow::buildLayout()
     m_ui.title = new TitleBar(root);
     m_ui.playlist = new PlaylistWidget(root);
     m_ui.playlist->setAccessibleName(tr("播放列表"));
-    m_ui.library = new LibraryPanel(m_ui.playlist, root);
-    m_ui.centre = buildCentre();
-    m_ui.side = buildSide();
-    m_ui.dock = new DockBar(root);
     m_ui.dsp = new DspBar(root);
     m_ui.progress = new ProgressRow(root);
     QWidget *status = buildStatusLine();
+    // Last what measures text: the fonts are still being listed.
+    m_ui.centre = buildCentre();
+    m_ui.side = buildSide();
+    m_ui.dock = new DockBar(root);
+    m_ui.library = new LibraryPanel(m_ui.playlist, root);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(0);
