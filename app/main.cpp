@@ -78,6 +78,9 @@ int main(int argc, char **argv)
     toolkit.push_back(nullptr);
 
     const QApplication application(toolkitCount, toolkit.data());
+    std::future<void> fonts;
+    if (!console)
+        fonts = startup::listFonts();
     applySettingsDirOverride();
     startup::sweepLogs();
     return console ? startup::runConsoleRole(argc, argv) : runWindow(arguments);

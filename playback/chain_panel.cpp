@@ -121,6 +121,9 @@ void ChainPanel::resizeEvent(QResizeEvent *event)
 
 void ChainPanel::fitWord()
 {
+    // Not measured before the width is known: the fonts may still be being listed.
+    if (!testAttribute(Qt::WA_Resized))
+        return;
     int room = m_card->width() - 2 * cardPadding - lampSize - 8;
     if (!m_warnings->isHidden())
         room -= m_warnings->sizeHint().width() + 8;

@@ -3,7 +3,7 @@
 #include "platform/file_reader.h"
 #include "tags/head_readers.h"
 
-#include <array>
+#include <memory>
 
 namespace {
 
@@ -79,11 +79,12 @@ bool readFormat(LazyBytes &head, AudioFileInfo &info)
 bool readAudioFileInfo(AudioFileInfo &info, const std::string &path)
 {
     // Kept a thread: fresh pages for every file would cost as much as reading into them.
-    static thread_local std::array<uint8_t, 2 * bufferBytes> buffers;
+    // They are not part of the thread's storage, which every thread of the program would have to clear.
+    static thread_local const auto buffers = std::make_unique<uint8_t[]>(2 * bufferBytes);
     const FileReader file(path);
     if (!file.isOpen() || file.size() < fewestBytes)
         return false;
-    const std::span<uint8_t> room(buffers);
+    const std::span<uint8_t> room(buffers.get(), 2 * bufferBytes);
     const auto length = static_cast<size_t>(std::min(file.size(), bufferBytes));
     LazyBytes head(file, 0, room.first(length));
     if (head.first(fewestBytes).size() < fewestBytes)

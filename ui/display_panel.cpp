@@ -153,6 +153,11 @@ void DisplayPanel::resizeEvent(QResizeEvent *event)
 
 void DisplayPanel::fitTitle()
 {
+    if (!testAttribute(Qt::WA_Resized)) {
+        // Not measured: the height is not known yet, and the fonts may still be being listed.
+        m_title->setRoom(m_mostTitlePixels, 0);
+        return;
+    }
     const QLayout &box = *m_screen->layout();
     const QMargins margins = box.contentsMargins();
     int others =

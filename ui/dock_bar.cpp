@@ -109,7 +109,6 @@ QLayout *DockBar::buildRight()
     m_volumeText = new QLabel(level);
     m_volumeText->setObjectName("vesperVolume"_L1);
     m_volumeText->setFont(figureFont(figurePixels));
-    m_volumeText->setFixedWidth(QFontMetrics(m_volumeText->font()).horizontalAdvance(u"100%"_s) + 4);
     m_volumeText->setAlignment(Qt::AlignTrailing | Qt::AlignVCenter);
     connect(volume, &QSlider::valueChanged, this, &DockBar::refreshVolume);
     tools = new QPushButton(tr("工具"), this);
@@ -193,6 +192,8 @@ void DockBar::showModes(int orderAxis, int repeatAxis)
 void DockBar::applyPlan(const AreaPlan &plan)
 {
     volume->setFixedWidth(plan.volumeWidth);
+    // Measured here and not while the widgets are built: then the fonts are still being listed.
+    m_volumeText->setFixedWidth(QFontMetrics(m_volumeText->font()).horizontalAdvance(u"100%"_s) + 4);
 }
 
 QList<QWidget *> DockBar::controls() const

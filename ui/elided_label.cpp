@@ -45,6 +45,12 @@ void ElidedLabel::changeEvent(QEvent *event)
 
 void ElidedLabel::elide()
 {
+    if (!testAttribute(Qt::WA_Resized)) {
+        // Not measured: nobody has said yet how much room there is, and the fonts may still be being listed.
+        setText(m_whole);
+        setToolTip(m_tip);
+        return;
+    }
     const QString shown = fontMetrics().elidedText(m_whole, m_mode, std::max(contentsRect().width(), 1));
     if (shown != text())
         setText(shown);

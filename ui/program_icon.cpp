@@ -5,19 +5,36 @@
 #include <QPainter>
 #include <future>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using Pictures = QList<QImage>;
 
-Pictures picturesOf(const QString &path, const QList<QSize> &sizes)
+constexpr auto suffix = ".png"_L1;
+
+QImage readPng(const QString &path)
 {
     QImageReader reader(path, QByteArrayLiteral("png"));
     reader.setAutoDetectImageFormat(false);
-    const QImage whole = reader.read();
+    return reader.read();
+}
+
+QString pathOfSize(const QString &path, const QSize &size)
+{
+    return path.chopped(suffix.size()) + u'-' + QString::number(size.width()) + suffix;
+}
+
+Pictures picturesOf(const QString &path, const QList<QSize> &sizes)
+{
     Pictures pictures;
-    for (const QSize &size : sizes)
-        pictures.append(whole.isNull() ? whole
-                                       : whole.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    for (const QSize &size : sizes) {
+        const QImage ready = readPng(pathOfSize(path, size));
+        const QImage picture = ready.isNull() ? readPng(path) : ready;
+        pictures.append(picture.isNull() || picture.size() == size
+                            ? picture
+                            : picture.scaled(size, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    }
     return pictures;
 }
 

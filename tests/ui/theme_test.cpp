@@ -48,7 +48,11 @@ TEST(ProgramIcon, OffersItsSizesAndNeverEnlarges)
         EXPECT_EQ(picture.size(), QSize(given, given)) << asked;
         EXPECT_GT(qAlpha(picture.pixel(given / 2, given / 2)), 0) << asked;
     }
+    for (const QSize &size : sizes)
+        EXPECT_EQ(QImage(u":/icons/kelp-%1.png"_s.arg(size.width())).size(), size) << "needs no scaling";
     EXPECT_TRUE(programIcon(u":/icons/none.png"_s, sizes).pixmap(32, 32).isNull());
+    const QIcon scaled = programIcon(u":/icons/kelp_tray.png"_s, {{16, 16}});
+    EXPECT_EQ(scaled.pixmap(16, 16).size(), QSize(16, 16)) << "none of that size lies beside it";
 }
 
 TEST_F(Theme, TheDefaultsAreThoseOfTheDesign)

@@ -41,13 +41,19 @@ void PlayerGuiWindow::buildLayout()
     m_ui.title = new TitleBar(root);
     m_ui.playlist = new PlaylistWidget(root);
     m_ui.playlist->setAccessibleName(tr("播放列表"));
-    m_ui.library = new LibraryPanel(m_ui.playlist, root);
     m_ui.centre = buildCentre();
     m_ui.side = buildSide();
     m_ui.dock = new DockBar(root);
     m_ui.dsp = new DspBar(root);
     m_ui.progress = new ProgressRow(root);
     QWidget *status = buildStatusLine();
+    // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
+    applyTheme();
+    // They would ask for their rules when they are shown; but until now the fonts are still being listed.
+    root->ensurePolished();
+    // The last that is made, because its field measures text at once; but read out behind the title.
+    m_ui.library = new LibraryPanel(m_ui.playlist, root);
+    m_ui.library->stackUnder(m_ui.centre);
 
     auto *body = new QHBoxLayout;
     body->setSpacing(0);

@@ -28,8 +28,6 @@ PlayerGuiWindow::PlayerGuiWindow(const WindowOptions &options, QWidget *parent)
     loadTheme();
     buildInstrumentTimers();
     buildLayout();
-    // Behind the widgets: with the sheet in force each of them would be styled as often as it is set up.
-    applyTheme();
     setMinimumSize(leastSize);
     qApp->installEventFilter(this);
     restorePlace();
