@@ -23,6 +23,9 @@ struct StreamFormat
     int channels = 0;     ///< 1 … maxChannels
     int depthBits = 0;    ///< valid bits of a sample: PCM integer 8 … 32, PCM float 32 or 64, DSD 1
     bool isFloat = false; ///< PCM only
+    /// Of more than two channels their places, as the bits of a WAVE file's channel mask; the channels stand
+    /// in the order of the bits. 0: not known.
+    uint32_t speakers = 0;
 
     static constexpr int maxChannels = 32;
 

@@ -149,6 +149,9 @@ void noteTheFit(const OutputRequest &request, const WishPlan &plan, const Opened
         (wish.losesBits || opened.wire.validBits < std::min(wanted, 32)))
         notes.push_back("The device " + opened.device + " carries " + std::to_string(opened.wire.validBits) +
                         " bits, fewer than the " + std::to_string(wanted) + " of the stream.");
+    if (opened.wire.channels > request.stream.channels)
+        notes.push_back("The device " + opened.device +
+                        " has no single channel, so that of the stream goes out on both.");
     if (wish.otherRate)
         notes.push_back("The stream is resampled to " + std::to_string(opened.pcmRateHz) +
                         " Hz, because that was allowed and the device prefers it.");
@@ -219,6 +222,14 @@ OpenAttempt openAlsa(const OutputRequest &request, const std::string &name, bool
     }
     AlsaOutput::Parts parts;
     parts.opened = describe(candidate, *wish, setup);
+    parts.opened.speakers = request.stream.speakers;
+    const std::vector<int> places = placesOf(candidate.pcm.get());
+    parts.order = orderFor(request.stream.speakers, places);
+    if (!parts.order.empty()) {
+        parts.opened.speakerOrder = placesText(places);
+        attempt.notes.push_back("The channels go out in the order of the device's speakers (" +
+                                parts.opened.speakerOrder + ").");
+    }
     noteTheFit(request, plan, parts.opened, *wish, attempt.notes);
     parts.takesAtOnce = !candidate.chain.clocked;
     parts.paced = parts.takesAtOnce && pacedByWish();

@@ -25,6 +25,8 @@ AlsaOutput::AlsaOutput(Parts parts)
     , pcm_(std::move(parts.pcm))
     , setup_(parts.setup)
     , takesAtOnce_(parts.takesAtOnce)
+    , shuffle_(std::move(parts.order), static_cast<size_t>(bytesPerSample(opened_.wire.encoding)),
+               setup_.periodFrames)
 {
     if (parts.paced)
         clock_.emplace(opened_.wire.frameRateHz, opened_.wire.frameRateHz * bufferTime / 1s);
@@ -71,6 +73,10 @@ long AlsaOutput::write(const uint8_t *frames, size_t count)
         return fail(reservationLost);
     if (count == 0)
         return 0;
+    if (shuffle_.active()) {
+        count = std::min(count, shuffle_.mostFrames());
+        frames = shuffle_.apply(frames, count);
+    }
     const long taken = clock_ ? writePaced(frames, count) : writeDevice(frames, count);
     if (taken > 0)
         noteLatency();

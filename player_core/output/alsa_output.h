@@ -1,6 +1,7 @@
 #pragma once
 
 #include "player_core/output/alsa_pcm.h"
+#include "player_core/output/channel_order.h"
 #include "player_core/output/device_reservation.h"
 #include "player_core/output/frame_clock.h"
 #include "player_core/output/output.h"
@@ -25,8 +26,9 @@ public:
         PcmHandle pcm;
         PcmSetup setup;
         OpenedOutput opened;
-        bool takesAtOnce = false; ///< it ends at a null device, so nothing is ever pending in it
-        bool paced = false;       ///< such a PCM is to be fed in real time all the same
+        bool takesAtOnce = false;  ///< it ends at a null device, so nothing is ever pending in it
+        bool paced = false;        ///< such a PCM is to be fed in real time all the same
+        std::vector<size_t> order; ///< of the channels, as orderFor() gives it
     };
     explicit AlsaOutput(Parts parts);
     ~AlsaOutput() override;
@@ -58,6 +60,7 @@ private:
     PcmHandle pcm_;
     PcmSetup setup_;
     bool takesAtOnce_;
+    ChannelShuffle shuffle_;
     std::optional<FrameClock> clock_; ///< only when paced; audio thread
     std::vector<pollfd> descriptors_; ///< wake_ first, then the PCM's; audio thread
     WakeEvent wake_;

@@ -69,6 +69,9 @@ struct OpenedOutput
     /// Rate of the PCM that write() wants. Differs from the source's when the stream is DSD decoded to PCM or
     /// when resampling was chosen.
     int pcmRateHz = 0;
+    uint32_t speakers = 0; ///< the places of the channels that write() is given, as in StreamFormat
+    /// The device's own order of the same places, where the channels are put into it ("FL FR RL RR FC LFE").
+    std::string speakerOrder;
     std::vector<std::string>
         notes; ///< whole sentences for the log: which rungs of the ladder were tried and why not taken
 };

@@ -66,6 +66,7 @@ OpenAttempt openPulse(const OutputRequest &request, const Rung &rung, std::vecto
     }
     OpenedOutput opened;
     opened.device = rung.kind == Rung::Kind::pulse && rung.name.empty() ? "pulse" : "pulse:" + sink->name;
+    opened.speakers = request.stream.speakers;
     opened.notes = std::move(notes);
     opened.notes.insert(opened.notes.end(), plan.notes.begin(), plan.notes.end());
     attempt.output = PulseOutput::open(std::move(connection), *sink, *wish, std::move(opened), why);

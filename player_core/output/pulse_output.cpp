@@ -1,5 +1,7 @@
 #include "player_core/output/pulse_output.h"
 
+#include "player_core/output/channel_order.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
@@ -118,7 +120,11 @@ bool PulseOutput::connectStream(const std::string &sinkName, std::string &why)
 {
     const pa_sample_spec spec = specOf(opened_.wire);
     pa_channel_map map;
-    pa_channel_map_init_extend(&map, spec.channels, PA_CHANNEL_MAP_WAVEEX);
+    const std::optional<pa_channel_map> told = pulseMapOf(opened_.speakers);
+    if (told && told->channels == spec.channels)
+        map = *told;
+    else
+        pa_channel_map_init_extend(&map, spec.channels, PA_CHANNEL_MAP_WAVEEX);
     {
         const PulseConnection::Lock lock(*connection_);
         stream_ = pa_stream_new(connection_->context(), "Music", &spec, &map);

@@ -57,26 +57,37 @@ std::span<const EncodingBits> encodingsFor(int depthBits, bool isFloat)
     return depthBits <= 24 ? std::span(forDepth24) : std::span(forDepth32);
 }
 
+/// The stream's own number of channels; and since many converters have nothing but a pair, one channel goes
+/// out on both of it where it cannot go out alone.
+std::vector<int> channelCounts(const StreamFormat &stream)
+{
+    return stream.channels == 1 ? std::vector<int>{1, 2} : std::vector<int>{stream.channels};
+}
+
 void addPcm(WishPlan &plan, const OutputRequest &request, int rateHz, int depthBits, bool isFloat,
             bool otherRate)
 {
-    for (const EncodingBits &row : encodingsFor(depthBits, isFloat)) {
-        Wish wish;
-        wish.wire = {Carrier::pcm, row.encoding, rateHz, request.stream.channels, row.validBits};
-        wish.pcmRateHz = rateHz;
-        wish.losesBits = row.validBits < depthBits;
-        wish.otherRate = otherRate;
-        plan.wishes.push_back(wish);
+    for (const int channels : channelCounts(request.stream)) {
+        for (const EncodingBits &row : encodingsFor(depthBits, isFloat)) {
+            Wish wish;
+            wish.wire = {Carrier::pcm, row.encoding, rateHz, channels, row.validBits};
+            wish.pcmRateHz = rateHz;
+            wish.losesBits = row.validBits < depthBits;
+            wish.otherRate = otherRate;
+            plan.wishes.push_back(wish);
+        }
     }
 }
 
 void addNative(WishPlan &plan, const StreamFormat &stream)
 {
-    for (SampleEncoding encoding : nativeEncodings) {
-        const int bits = bytesPerSample(encoding) * 8;
-        if (stream.rateHz % bits == 0)
-            plan.wishes.push_back(
-                {{Carrier::nativeDsd, encoding, stream.rateHz / bits, stream.channels, 1}, 0, false, false});
+    for (const int channels : channelCounts(stream)) {
+        for (SampleEncoding encoding : nativeEncodings) {
+            const int bits = bytesPerSample(encoding) * 8;
+            if (stream.rateHz % bits == 0)
+                plan.wishes.push_back(
+                    {{Carrier::nativeDsd, encoding, stream.rateHz / bits, channels, 1}, 0, false, false});
+        }
     }
 }
 
@@ -84,12 +95,13 @@ void addDop(WishPlan &plan, const StreamFormat &stream)
 {
     if (stream.rateHz % dopBitsPerFrame != 0)
         return;
-    for (SampleEncoding encoding : dopEncodings)
-        plan.wishes.push_back(
-            {{Carrier::dop, encoding, stream.rateHz / dopBitsPerFrame, stream.channels, dopValidBits},
-             0,
-             false,
-             false});
+    for (const int channels : channelCounts(stream))
+        for (SampleEncoding encoding : dopEncodings)
+            plan.wishes.push_back(
+                {{Carrier::dop, encoding, stream.rateHz / dopBitsPerFrame, channels, dopValidBits},
+                 0,
+                 false,
+                 false});
 }
 
 /// Adds what may carry DSD as it is, or notes why nothing may.

@@ -169,7 +169,8 @@ void AudioLoop::apply(const AudioCommand &command)
         break;
     case AudioCommandKind::resume:
         paused_ = false;
-        ramp_.setTarget(gain_);
+        if (!switchTo_) // what is being left still fades out
+            ramp_.setTarget(gain_);
         break;
     case AudioCommandKind::guard:
         guardOn_ = command.on && !isDsd();
@@ -274,7 +275,9 @@ bool AudioLoop::hasCushion()
     if (!cushioned_) {
         const auto wanted =
             static_cast<size_t>(cushionSec * static_cast<double>(current_->plan().framesPerSecondOut()));
-        cushioned_ = current_->sealed() || current_->available() >= wanted;
+        // Of very many channels the ring holds less than that.
+        cushioned_ =
+            current_->sealed() || current_->available() >= std::min(wanted, current_->ringFrames() / 2);
     }
     return cushioned_;
 }
@@ -282,13 +285,18 @@ bool AudioLoop::hasCushion()
 AudioLoop::Step AudioLoop::starve()
 {
     // Before a track's first frame, and while the device has enough in hand, waiting costs nothing.
-    if (!opened_.clocked)
+    const bool fed = opened_.clocked && state_.written > 0;
+    if (fed && output_.delayFrames() > static_cast<int64_t>(2 * chunkFrames_))
         return Step::wait;
-    const bool fed = state_.written > 0;
-    if (!fed || output_.delayFrames() > static_cast<int64_t>(2 * chunkFrames_))
+    if (switchTo_) {
+        // A source that hangs gives nothing more to fade, and must not keep the next one from its turn.
+        ramp_.jump(0.0);
+        return Step::written;
+    }
+    if (!fed)
         return Step::wait;
     if (sounding_) {
-        starved_.fetch_add(1, std::memory_order_relaxed);
+        gaps_.fetch_add(1, std::memory_order_relaxed);
         sounding_ = false; // once a gap
     }
     return silence();
@@ -318,7 +326,7 @@ AudioLoop::Step AudioLoop::silence()
         std::fill(mix_.begin(), mix_.end(), 0.0);
         pcmWriter_.write(mix_.data(), frames, bytes_.data(), false);
     }
-    return writeOut(frames);
+    return writeOut(frames, false);
 }
 
 AudioLoop::Step AudioLoop::writeMusic(size_t wireFrames)
@@ -326,10 +334,20 @@ AudioLoop::Step AudioLoop::writeMusic(size_t wireFrames)
     state_.trackFrames += static_cast<int64_t>(wireFrames);
     state_.trackWrittenAt = state_.written + wireFrames;
     sounding_ = true;
-    return writeOut(wireFrames);
+    return writeOut(wireFrames, true);
 }
 
-AudioLoop::Step AudioLoop::writeOut(size_t wireFrames)
+/// What the device found missing was missing behind what was written before.
+void AudioLoop::countGaps(bool music)
+{
+    const unsigned dry = output_.underruns();
+    if (musicInHand_ && dry != drySeen_)
+        gaps_.fetch_add(dry - drySeen_, std::memory_order_relaxed);
+    drySeen_ = dry;
+    musicInHand_ = music;
+}
+
+AudioLoop::Step AudioLoop::writeOut(size_t wireFrames, bool music)
 {
     const size_t frameBytes = static_cast<size_t>(wire_.bytesPerFrame());
     size_t done = 0;
@@ -350,6 +368,7 @@ AudioLoop::Step AudioLoop::writeOut(size_t wireFrames)
         else if (now - refusedSince_ > deviceStuckAfter)
             return Step::gone;
     }
+    countGaps(music);
     state_.written += wireFrames;
     publish();
     return Step::written;

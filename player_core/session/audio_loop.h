@@ -104,8 +104,9 @@ public:
     int tapChannels() const { return tapChannels_; }
     /// The thread has ended by itself and takes no more commands. Any thread.
     bool left() const { return left_.load(); }
-    /// Times the decoder came too late. Any thread.
-    unsigned starved() const { return starved_.load(std::memory_order_relaxed); }
+    /// Gaps in the music since the device was opened: the decoder came too late, or the device ran dry. One
+    /// that runs dry while it is fed silence leaves no gap. Any thread.
+    unsigned gaps() const { return gaps_.load(std::memory_order_relaxed); }
 
 private:
     enum class Step
@@ -134,7 +135,8 @@ private:
     Step starve();
     bool hasCushion();
     Step writeMusic(size_t wireFrames);
-    Step writeOut(size_t wireFrames);
+    Step writeOut(size_t wireFrames, bool music);
+    void countGaps(bool music);
     Step writePcm(size_t frames, bool mixing);
     void noteStart();
     void toNextDeck();
@@ -187,6 +189,8 @@ private:
     bool quit_ = false;
     bool sounding_ = false;      ///< the present track has begun
     bool cushioned_ = false;     ///< the present deck had enough decoded to begin
+    bool musicInHand_ = false;   ///< what was written last was music
+    unsigned drySeen_ = 0;       ///< of the device
     uint64_t clippedBefore_ = 0; ///< of the writer, at the start of the present track
     PlaybackState state_;
     std::chrono::steady_clock::time_point silenceUntil_{};
@@ -198,7 +202,7 @@ private:
     SpscRing<uint8_t> dsdTap_;
     PlaybackBoard board_;
     std::atomic<bool> left_{false};
-    std::atomic<unsigned> starved_{0};
+    std::atomic<unsigned> gaps_{0};
     // The answer to `hold`: the number of holds asked for and answered, and the last answer.
     uint32_t holdsAsked_ = 0; ///< session thread
     std::atomic<uint32_t> holdsAnswered_{0};

@@ -9,10 +9,12 @@ namespace kelp_core {
 
 AudioLoop::Step AudioLoop::playMusic()
 {
-    if (guard_.held() > 0 && (!guardOn_ || current_->markDue() || current_->finished()))
+    // A track shorter than its fade has another one sounding on into it.
+    const bool over = current_->finished() && !(fadeLength_ > 0 && leaving_);
+    if (guard_.held() > 0 && (!guardOn_ || current_->markDue() || over))
         return flushGuard();
     noteStart();
-    if (!current_->finished())
+    if (!over)
         return isDsd() ? playDsd() : playPcm();
     if (isDsd() && dsdCarry_ > 0 && !next_) {
         // The last bits of the chain, filled up to a frame of the device.
@@ -80,7 +82,7 @@ void AudioLoop::toNextDeck()
 {
     if (switchTo_)
         return finishSwitch();
-    release(leaving_); // the new track was shorter than its fade
+    release(leaving_);
     fadeLength_ = 0;
     holdFrame_ = -1;
     release(current_);
@@ -129,9 +131,10 @@ AudioLoop::Step AudioLoop::playPcm()
 
 AudioLoop::Step AudioLoop::crossfadeStep(int64_t left)
 {
-    // Both give the same number of frames, or the fade would drift.
+    // Both give the same number of frames, or the fade would drift; one that is over gives silence.
     size_t n = std::min<size_t>(chunkFrames_, static_cast<size_t>(left));
     const bool leavingDone = !leaving_ || leaving_->finished();
+    const bool comingDone = current_->finished();
     if (!leavingDone) {
         while (leaving_->takeMark()) // what it would tell is told by the other
             continue;
@@ -139,11 +142,17 @@ AudioLoop::Step AudioLoop::crossfadeStep(int64_t left)
         if (n == 0)
             return starve();
     }
-    n = std::min(n, current_->available());
-    if (n == 0 && !current_->finished())
-        return starve();
-    if (n > 0) {
+    if (leavingDone && comingDone)
+        n = 0;
+    if (!comingDone) {
+        n = std::min(n, current_->available());
+        if (n == 0)
+            return starve();
         n = current_->read(mix_.data(), n);
+    }
+    if (n > 0) {
+        if (comingDone)
+            std::fill_n(mix_.begin(), n * channels_, 0.0);
         const size_t m = leavingDone ? 0 : leaving_->read(other_.data(), n);
         std::fill(other_.begin() + static_cast<std::ptrdiff_t>(m * channels_),
                   other_.begin() + static_cast<std::ptrdiff_t>(n * channels_), 0.0);

@@ -39,17 +39,25 @@ Deck::Deck(DeckSetup setup, DeckTrack first)
     , transform_(setup_.transform)
     , queued_(std::move(first))
 {
-    thread_ = std::thread([this] { run(); });
+    thread_ = std::thread([this] {
+        run();
+        left_.store(true);
+    });
 }
 
 Deck::~Deck()
+{
+    leave();
+    thread_.join();
+}
+
+void Deck::leave()
 {
     {
         const std::lock_guard lock(mutex_);
         ending_ = true;
     }
     wake_.notify_one();
-    thread_.join();
 }
 
 bool Deck::chain(DeckTrack &track)

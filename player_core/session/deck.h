@@ -80,6 +80,11 @@ public:
     Deck(const Deck &) = delete;
     Deck &operator=(const Deck &) = delete;
 
+    /// Tells the decoder to end and does not wait for it: it may be held up by a file. Session thread.
+    void leave();
+    /// The decoder has ended, so that destroying the deck takes no time. Any thread.
+    bool left() const { return left_.load(); }
+
     /// Lets a track follow the last one. False when the end has already been sealed; the track then stays the
     /// caller's. Session thread.
     [[nodiscard]] bool chain(DeckTrack &track);
@@ -102,6 +107,11 @@ public:
     size_t read(uint8_t *out, size_t frames);
     /// Frames that can be read now.
     size_t available() const;
+    /// Frames that fit between the decoder and the reader.
+    size_t ringFrames() const
+    {
+        return (setup_.transform.toDsd ? dsd_.capacity() : pcm_.capacity()) / channels_;
+    }
     int64_t consumed() const { return consumed_.load(std::memory_order_relaxed); }
     /// Every frame has been read and none will follow.
     bool finished() const;
@@ -134,6 +144,7 @@ private:
     std::atomic<int64_t> consumed_{0};
     std::atomic<int64_t> expectedEnd_{-1};
     std::atomic<int64_t> endFrame_{-1};
+    std::atomic<bool> left_{false};
 
     // Decoder thread only.
     StreamTransform transform_;

@@ -46,6 +46,8 @@ std::string whyNotJoin(const JoinFacts &facts)
         return differs("the rate", a.rateHz, b.rateHz, " Hz");
     if (a.channels != b.channels)
         return differs("the number of channels", a.channels, b.channels, "");
+    if (a.speakers != b.speakers)
+        return "the places of the channels differ";
     // A device that was opened deep enough carries shallower samples too; one that already cuts the present
     // track would cut the next one no more than a fresh opening would.
     const bool floatWire = facts.wire.encoding == SampleEncoding::f32;

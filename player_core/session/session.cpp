@@ -85,10 +85,7 @@ void Session::handle(const Message &message)
     case MessageKind::sourceFailed:
         return book_.setFailure(message.serial, message.text);
     case MessageKind::deckFree:
-        if (lastDeck_ && lastDeck_->number() == message.serial)
-            lastDeck_ = nullptr;
-        std::erase_if(decks_, [&](const auto &deck) { return deck->number() == message.serial; });
-        return;
+        return retireDeck(message.serial);
     case MessageKind::deviceGone:
         if (message.serial != openings_)
             return; // of a device that has been closed in the meantime
@@ -241,6 +238,7 @@ void Session::passTime()
     if (parent_.gone())
         return end(exit_code::stopped);
     watchUnderruns();
+    std::erase_if(leavingDecks_, [](const auto &deck) { return deck->left(); });
     if (verifyAt_ && now >= *verifyAt_)
         sayVerify();
     if (!playing_ && deferred_ && now >= deferredAt_) {

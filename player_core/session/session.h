@@ -93,6 +93,8 @@ private:
     bool openDevice(const StreamFormat &stream);
     void closeDevice();
     Deck &makeDeck(DeckTrack track);
+    void retireDeck(uint32_t number);
+    void retireDecks();
     /// Whether samples must be rounded on their way, so that dither is due.
     bool needsDither(const TransformPlan &plan, double gain) const;
     TransformPlan transformFor(const StreamFormat &stream) const;
@@ -147,6 +149,8 @@ private:
     std::unique_ptr<Output> output_;
     std::unique_ptr<AudioLoop> loop_;
     std::vector<std::unique_ptr<Deck>> decks_;
+    /// Done with, but a decoder may still wait for its file; nobody waits for it.
+    std::vector<std::unique_ptr<Deck>> leavingDecks_;
     Deck *lastDeck_ = nullptr;  ///< the one that ends the chain
     StreamFormat openedStream_; ///< what the device was opened for
     TransformPlan transform_;   ///< of the track that is heard

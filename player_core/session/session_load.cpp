@@ -269,13 +269,33 @@ void Session::closeDevice()
 {
     if (!loop_)
         return;
+    watchUnderruns(true);
     loop_->finish();
     telemetry_.detach();
     loop_.reset();
-    decks_.clear();
-    lastDeck_ = nullptr;
+    retireDecks();
     output_.reset();
     underrunsTold_ = 0;
+    underrunsBefore_ = 0;
+}
+
+void Session::retireDeck(uint32_t number)
+{
+    if (lastDeck_ && lastDeck_->number() == number)
+        lastDeck_ = nullptr;
+    const auto deck = std::find_if(decks_.begin(), decks_.end(),
+                                   [number](const auto &one) { return one->number() == number; });
+    if (deck == decks_.end())
+        return;
+    (*deck)->leave();
+    leavingDecks_.push_back(std::move(*deck));
+    decks_.erase(deck);
+}
+
+void Session::retireDecks()
+{
+    while (!decks_.empty())
+        retireDeck(decks_.back()->number());
 }
 
 Deck &Session::makeDeck(DeckTrack track)

@@ -75,7 +75,7 @@ VolumeFacts Session::volumeFacts(double replayGain) const
 
 unsigned Session::underruns() const
 {
-    return output_ && loop_ ? output_->underruns() + loop_->starved() : 0;
+    return loop_ ? loop_->gaps() : 0;
 }
 
 void Session::watchUnderruns(bool trackEnds)

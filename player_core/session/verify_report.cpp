@@ -69,6 +69,9 @@ StageItem channelItem(const ChainFacts &f)
     const std::string to = std::to_string(t.toChannels);
     if (t.mapsChannels())
         return broken(stage_name::channels, from + " channels are mapped to " + to);
+    if (!f.output.speakerOrder.empty())
+        return kept(stage_name::channels,
+                    from + " in, " + to + " out, each to its speaker (" + f.output.speakerOrder + ")");
     return kept(stage_name::channels, from + " in, " + to + " out, in their order");
 }
 

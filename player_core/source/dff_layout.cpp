@@ -3,7 +3,9 @@
 #include "player_core/source/dsd_limits.h"
 #include "player_core/source/endian.h"
 
+#include <algorithm>
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 namespace kelp_core {
@@ -38,6 +40,29 @@ bool readChunk(ByteInput &input, int64_t at, Chunk &chunk)
     return true;
 }
 
+/// The channel mask of the ids of a channel chunk; 0 when one is unknown or they stand in another order.
+uint32_t readSpeakers(ByteInput &input, const Chunk &chunk, int channels)
+{
+    constexpr struct
+    {
+        const char *id;
+        uint32_t bit;
+    } ids[] = {{"SLFT", 0x01}, {"SRGT", 0x02}, {"MLFT", 0x01}, {"MRGT", 0x02},
+               {"C   ", 0x04}, {"LFE ", 0x08}, {"LS  ", 0x10}, {"RS  ", 0x20}};
+    uint32_t mask = 0;
+    for (int channel = 0; channel < channels && channel < DsdLayout::maxChannels; ++channel) {
+        uint8_t id[4];
+        if (!input.readFully(chunk.body + 2 + 4 * channel, id, sizeof id))
+            return 0;
+        const auto known = std::find_if(std::begin(ids), std::end(ids),
+                                        [&](const auto &one) { return std::memcmp(one.id, id, 4) == 0; });
+        if (known == std::end(ids) || known->bit <= mask)
+            return 0;
+        mask |= known->bit;
+    }
+    return channels > 2 ? mask : 0;
+}
+
 /// The property chunk: rate, channels and coding.
 bool readProperties(ByteInput &input, const Chunk &properties, DsdLayout &layout, std::string &coding)
 {
@@ -53,6 +78,7 @@ bool readProperties(ByteInput &input, const Chunk &properties, DsdLayout &layout
             layout.rateHz = rate > std::numeric_limits<int>::max() ? 0 : static_cast<int>(rate);
         } else if (chunk.is("CHNL") && input.readFully(chunk.body, word, 2)) {
             layout.channels = static_cast<int>(bigU16(word));
+            layout.speakers = readSpeakers(input, chunk, layout.channels);
         } else if (chunk.is("CMPR") && input.readFully(chunk.body, word, 4)) {
             coding.assign(reinterpret_cast<const char *>(word), 4);
         }

@@ -16,6 +16,7 @@ struct DsdLayout
     const char *name = ""; ///< "DSF", "DFF", "WSD"
     int rateHz = 0;        ///< bits a second of one channel
     int channels = 0;
+    uint32_t speakers = 0;        ///< as in StreamFormat
     int64_t totalFrames = 0;      ///< bytes of one channel
     int validBitsOfLastFrame = 8; ///< 1 … 8
     int64_t dataOffset = 0;

@@ -109,7 +109,7 @@ ReadOutcome DsdSource::read(AudioBlock &block, size_t maxFrames)
 SourceFacts dsdFacts(const DsdLayout &layout)
 {
     SourceFacts facts;
-    facts.format = {SignalKind::dsd, layout.rateHz, layout.channels, 1, false};
+    facts.format = {SignalKind::dsd, layout.rateHz, layout.channels, 1, false, layout.speakers};
     facts.formatWord = "dsd";
     facts.dst = layout.dst;
     facts.gains = layout.gains;

@@ -4,9 +4,24 @@
 #include "player_core/source/endian.h"
 
 #include <cstring>
+#include <iterator>
 #include <limits>
 
 namespace kelp_core {
+namespace {
+
+/// The channel mask of a channel type, where it goes with the number of channels.
+uint32_t speakersOf(uint32_t type, int channels)
+{
+    constexpr struct
+    {
+        int channels;
+        uint32_t mask;
+    } types[] = {{0, 0}, {1, 0}, {2, 0}, {3, 0x07}, {4, 0x33}, {4, 0x0F}, {5, 0x37}, {6, 0x3F}};
+    return type < std::size(types) && types[type].channels == channels ? types[type].mask : 0;
+}
+
+} // namespace
 
 DsdLayoutOutcome parseDsf(ByteInput &input)
 {
@@ -37,6 +52,7 @@ DsdLayoutOutcome parseDsf(ByteInput &input)
     layout.rateHz = rate > std::numeric_limits<int>::max() ? 0 : static_cast<int>(rate);
     if (std::string error = dsdLimitError(layout); !error.empty())
         return {{}, error};
+    layout.speakers = speakersOf(littleU32(format + 20), layout.channels);
     const uint32_t order = littleU32(format + 32);
     layout.blockBytes = littleU32(format + 44);
     const uint64_t samples = littleU64(format + 36);

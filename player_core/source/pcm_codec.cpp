@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <iterator>
+#include <string_view>
 
 namespace kelp_core {
 namespace {
@@ -85,6 +87,20 @@ int validBits(const AVCodecParameters &parameters, const AVCodecContext &decoder
     return container;
 }
 
+/// The places of more than two channels. A WAV file that does not tell them has the usual ones.
+uint32_t speakersOf(const AVChannelLayout &layout, const ContentKind &kind)
+{
+    constexpr uint64_t waveBits = (uint64_t{1} << 18) - 1;
+    constexpr uint32_t usual[] = {0, 0, 0, 0x07, 0x33, 0x37, 0x3F, 0, 0x63F};
+    const int channels = layout.nb_channels;
+    if (channels <= 2)
+        return 0;
+    if (layout.order == AV_CHANNEL_ORDER_NATIVE)
+        return (layout.u.mask & ~waveBits) == 0 ? static_cast<uint32_t>(layout.u.mask) : 0;
+    const bool wave = std::string_view(kind.word) == "wav";
+    return wave && channels < static_cast<int>(std::size(usual)) ? usual[channels] : 0;
+}
+
 std::string describe(const SourceFacts &facts, const std::string &name)
 {
     const StreamFormat &format = facts.format;
@@ -115,6 +131,7 @@ SourceFacts pcmFacts(const ContentKind &kind, const AVCodecParameters &parameter
     facts.format.kind = SignalKind::pcm;
     facts.format.rateHz = decoder.sample_rate;
     facts.format.channels = decoder.ch_layout.nb_channels;
+    facts.format.speakers = speakersOf(decoder.ch_layout, kind);
     facts.format.isFloat = packed == AV_SAMPLE_FMT_FLT || packed == AV_SAMPLE_FMT_DBL;
     facts.format.depthBits =
         facts.format.isFloat ? av_get_bytes_per_sample(packed) * 8 : validBits(parameters, decoder);

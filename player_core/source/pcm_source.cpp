@@ -14,6 +14,9 @@
 namespace kelp_core {
 namespace {
 
+constexpr int lowestRateHz = 1000;
+constexpr int highestRateHz = 1'536'000;
+
 struct DecoderFree
 {
     void operator()(AVCodecContext *context) const { avcodec_free_context(&context); }
@@ -43,6 +46,8 @@ private:
     ReadOutcome feedPacket();
     ReadOutcome failAt(int code);
     ReadOutcome endOrFailure() const;
+    bool atStatedEnd() const;
+    bool goesOnBehindIt();
     bool restart();
     bool jump(int64_t frame);
     bool settleAt(int64_t frame);
@@ -88,8 +93,9 @@ std::string PcmSource::open(const std::string &path, const ContentKind &kind, co
     facts_ = pcmFacts(kind_, *reader_->audio()->codecpar, *decoder_, reader_->file());
     facts_.gains = gainTagsOf(*reader_->context(), reader_->audio()->index);
     const StreamFormat &format = facts_.format;
-    if (!isConvertible(decoder_->sample_fmt) || format.rateHz <= 0 || format.channels < 1 ||
-        format.channels > StreamFormat::maxChannels)
+    // A head that claims more than any device takes would only cost memory.
+    if (!isConvertible(decoder_->sample_fmt) || format.rateHz < lowestRateHz ||
+        format.rateHz > highestRateHz || format.channels < 1 || format.channels > StreamFormat::maxChannels)
         return "the file's audio format is not one that can be played (" + facts_.description + ")";
     if (error = measure(request); !error.empty())
         return error;
@@ -259,12 +265,25 @@ void PcmSource::dropDecoded()
     used_ = 0;
 }
 
+bool PcmSource::atStatedEnd() const
+{
+    return facts_.totalFrames >= 0 && position_ >= facts_.totalFrames;
+}
+
+/// Whatever stands behind the stated length is a tag or padding and no music, but for FLAC, whose frames are
+/// numbered: one that carries the next number was only forgotten by the head.
+bool PcmSource::goesOnBehindIt()
+{
+    if (!hasFrameNumbers_)
+        return false;
+    return decodedLeft() > 0 || decodeInOrder().status == ReadStatus::frames;
+}
+
 ReadOutcome PcmSource::read(AudioBlock &block, size_t maxFrames)
 {
     block.clear();
     while (block.frames < maxFrames && over_.status == ReadStatus::frames) {
-        if (facts_.totalFrames >= 0 && position_ >= facts_.totalFrames) {
-            // Whatever stands behind the stated length is a tag or padding, not music.
+        if (atStatedEnd() && !goesOnBehindIt()) {
             over_ = {ReadStatus::end, {}};
             break;
         }
@@ -280,7 +299,7 @@ ReadOutcome PcmSource::read(AudioBlock &block, size_t maxFrames)
             break;
         }
         size_t count = std::min(decodedLeft(), maxFrames - block.frames);
-        if (facts_.totalFrames >= 0)
+        if (facts_.totalFrames >= 0 && !hasFrameNumbers_)
             count =
                 static_cast<size_t>(std::min(static_cast<int64_t>(count), facts_.totalFrames - position_));
         appendAsDouble(*frame_, facts_.format.channels, used_, count, block.pcm);

@@ -26,6 +26,8 @@ SourceFacts factsOf(const SacdArea &area, const Stretch &stretch, const std::str
     layout.name = "SACD image";
     layout.rateHz = area.rateHz;
     layout.channels = area.channels;
+    // Front left and right, centre, with six the low tones, and the pair behind.
+    layout.speakers = area.channels == 6 ? 0x3F : area.channels == 5 ? 0x37 : 0;
     layout.totalFrames = stretch.frames * sacdFrameBytes;
     layout.dst = area.dst;
     SourceFacts facts = dsdFacts(layout);

@@ -22,6 +22,8 @@ void readFormat(ByteInput &input, int64_t body, WavHead &head)
 std::optional<WavHead> readRiff(ByteInput &input)
 {
     constexpr uint32_t open = 0xFFFFFFFF;
+    // What programs write into the head that cannot come back to it, because they write to a pipe.
+    constexpr uint32_t openFrom = 0x7FFF0000;
     WavHead head;
     int64_t longBytes = -1, at = 12;
     uint8_t chunk[8], size[8];
@@ -34,7 +36,12 @@ std::optional<WavHead> readRiff(ByteInput &input)
             readFormat(input, at + 8, head);
         if (std::memcmp(chunk, "data", 4) == 0) {
             // Zero is what a writer leaves that was stopped before it could come back to the head.
-            head.dataBytes = bytes == open ? longBytes : bytes == 0 ? -1 : static_cast<int64_t>(bytes);
+            const int64_t rest = input.sizeBytes() - at - 8;
+            head.dataBytes = bytes == 0 ? -1 : static_cast<int64_t>(bytes);
+            if (bytes == open)
+                head.dataBytes = longBytes >= 0 ? longBytes : rest;
+            else if (bytes >= openFrom && head.dataBytes > rest)
+                head.dataBytes = rest;
             return head;
         }
         at += 8 + static_cast<int64_t>(bytes) + (bytes & 1);

@@ -13,7 +13,8 @@ struct WavHead
 {
     bool extensible = false; ///< WAVE_FORMAT_EXTENSIBLE
     int blockAlign = 0;      ///< bytes of a frame
-    int64_t dataBytes = -1;  ///< as stated; −1 where the writer left it open
+    /// As stated, or to the end of the file where the writer did not know; −1 where it left a zero.
+    int64_t dataBytes = -1;
 };
 
 /// Walks the chunks up to the data; nothing when this is no such file.

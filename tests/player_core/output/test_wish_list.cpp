@@ -65,6 +65,31 @@ TEST(WishList, PcmKeepsRateAndAllBits)
     }
 }
 
+TEST(WishList, OneChannelGoesOutOnAPairWhereItCannotGoAlone)
+{
+    using enum SampleEncoding;
+    OutputRequest request = pcmRequest(44100, 24);
+    request.stream.channels = 1;
+    request.path = PathPolicy::exclusive;
+    std::vector<int> channels;
+    for (const Wish &wish : planWishes(request, card).wishes)
+        channels.push_back(wish.wire.channels);
+    EXPECT_THAT(channels, ElementsAre(1, 1, 1, 1, 2, 2, 2, 2)) << "alone wherever that is taken";
+
+    OutputRequest dsd = dsdRequest();
+    dsd.stream.channels = 1;
+    const WishPlan plan = planWishes(dsd, markedCard);
+    EXPECT_EQ(plan.wishes.front().wire.channels, 1);
+    const auto pair = std::find_if(plan.wishes.begin(), plan.wishes.end(),
+                                   [](const Wish &wish) { return wish.wire.channels == 2; });
+    ASSERT_NE(pair, plan.wishes.end());
+    EXPECT_EQ(pair->wire.carrier, Carrier::nativeDsd) << "before anything that is not its own bits";
+
+    request.stream.channels = 6;
+    for (const Wish &wish : planWishes(request, card).wishes)
+        EXPECT_EQ(wish.wire.channels, 6) << "more than two are never folded here";
+}
+
 TEST(WishList, ExclusiveNeverLosesBitsOrChangesTheRate)
 {
     OutputRequest request = pcmRequest(96000, 24);

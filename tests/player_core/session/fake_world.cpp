@@ -44,6 +44,8 @@ public:
                                       : ReadOutcome{};
         if (at_ == track_.stallAt)
             std::this_thread::sleep_for(track_.stall);
+        while (at_ == track_.stallAt && track_.hung && *track_.hung)
+            std::this_thread::sleep_for(std::chrono::milliseconds(1));
         const int64_t until = at_ < track_.stallAt ? std::min(track_.stallAt, end) : end;
         const int64_t n = std::min<int64_t>(until - at_, static_cast<int64_t>(maxFrames));
         if (track_.plain)

@@ -26,6 +26,7 @@ struct FakeTrack
     int64_t failAt = -1;  ///< the frame at which reading fails
     int64_t stallAt = -1; ///< the frame at which reading waits once, so long
     std::chrono::milliseconds stall{0};
+    std::shared_ptr<std::atomic<bool>> hung; ///< there it waits as long as this is true
     bool lengthKnown = true;
     uint32_t seed = 1; ///< gives each track samples of its own
     bool lossless = true;

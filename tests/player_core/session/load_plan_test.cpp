@@ -112,6 +112,17 @@ TEST(JoinTest, RateChannelsAndKindMustAgree)
     EXPECT_EQ(whyNotJoin({dsd, w, dsd}), "");
 }
 
+TEST(JoinTest, ThePlacesOfTheChannelsMustAgree)
+{
+    const WireFormat w = wire(SampleEncoding::s32, 24);
+    StreamFormat quad = pcm(44100, 4, 16);
+    StreamFormat centred = quad;
+    quad.speakers = 0x33;
+    centred.speakers = 0x107;
+    EXPECT_EQ(whyNotJoin({quad, w, quad}), "");
+    EXPECT_EQ(whyNotJoin({quad, w, centred}), "the places of the channels differ");
+}
+
 TEST(JoinTest, DepthMustFitTheOpenedDevice)
 {
     EXPECT_EQ(whyNotJoin({pcm(44100, 2, 24), wire(SampleEncoding::s32, 24), pcm(44100, 2, 16)}), "");

@@ -57,6 +57,12 @@ struct KeptCase
 };
 
 const KeptCase keptCases[] = {
+    {"the device's own order of speakers",
+     [](ChainFacts &f) {
+         f.transform.from.channels = f.transform.toChannels = 6;
+         f.output.speakerOrder = "FL FR RL RR FC LFE";
+     },
+     stage_name::channels, "6 in, 6 out, each to its speaker (FL FR RL RR FC LFE)"},
     {"the original's speed", [](ChainFacts &f) { f.transform.speed.ratio = 1.0004; }, stage_name::speed,
      "1.00x, no stage for another speed is in the chain"},
     {"no ReplayGain", [](ChainFacts &) {}, stage_name::replayGain, "off"},

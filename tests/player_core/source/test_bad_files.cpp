@@ -244,6 +244,58 @@ TEST_F(BadFiles, TagsAroundFlacAndAnUnknownLengthDoNoHarm)
     EXPECT_TRUE(all.pcm == signal.samples);
 }
 
+TEST_F(BadFiles, FlacPlaysOnBehindALengthThatIsTooShort)
+{
+    const PcmSignal signal = makeSignal({.shape = SignalShape::noise, .frames = 88200});
+    for (const uint64_t stated : {uint64_t{1}, uint64_t{4096}, uint64_t{50000}, uint64_t{88199}}) {
+        ASSERT_EQ(writePacked("flac", path_, signal), "");
+        std::vector<uint8_t> bytes = readFile(path_);
+        bytes[21] &= 0xF0;
+        for (size_t i = 0; i < 4; ++i)
+            bytes[22 + i] = static_cast<uint8_t>(stated >> (24 - 8 * i));
+        const std::vector<uint8_t> whole = bytes;
+        bytes.insert(bytes.end(), {'T', 'A', 'G'});
+        bytes.resize(bytes.size() + 125, ' ');
+        bytes.insert(bytes.end(), whole.begin(), whole.end()); // another one, glued behind it
+        writeFile(path_, bytes);
+        auto opened = openPath(path_);
+        ASSERT_TRUE(opened.source) << opened.error;
+        EXPECT_EQ(opened.source->facts().totalFrames, static_cast<int64_t>(stated));
+        const Delivered all = readAll(*opened.source);
+        EXPECT_EQ(all.last.status, ReadStatus::end) << all.last.message;
+        EXPECT_TRUE(all.pcm == signal.samples) << stated;
+    }
+}
+
+TEST_F(BadFiles, SizesThatAPipeLeavesInAHeadAreNoLengths)
+{
+    const PcmSignal signal = makeSignal({.frames = 20000});
+    const std::vector<uint8_t> whole = wavBytes(signal);
+    for (const uint32_t size : {0xFFFFFFFFu, 0x80000000u, 0x7FFFFFFFu, 0x7FFFF000u, 0x7FFFFFDAu}) {
+        std::vector<uint8_t> bytes = whole;
+        for (size_t i = 0; i < 4; ++i)
+            bytes[40 + i] = static_cast<uint8_t>(size >> (8 * i));
+        writeFile(path_, bytes);
+        auto opened = openPath(path_);
+        ASSERT_TRUE(opened.source) << opened.error;
+        EXPECT_EQ(opened.source->facts().totalFrames, 20000) << std::hex << size;
+        const Delivered all = readAll(*opened.source);
+        EXPECT_EQ(all.last.status, ReadStatus::end) << all.last.message;
+        EXPECT_TRUE(all.pcm == signal.samples);
+    }
+}
+
+TEST_F(BadFiles, ARateThatNoDeviceHasIsRefused)
+{
+    for (const int rate : {1, 999, 1'536'001, 0x7FFFFFFF}) {
+        writeFile(path_, wavBytes(makeSignal({.rateHz = rate, .frames = 1000})));
+        const auto opened = openPath(path_);
+        EXPECT_FALSE(opened.source) << rate;
+        EXPECT_EQ(opened.error, "the file's audio format is not one that can be played (WAV, 16 bit, " +
+                                    std::to_string(rate) + " Hz, 2 channels)");
+    }
+}
+
 TEST_F(BadFiles, CancellingOpensNothing)
 {
     writeFile(path_, wavBytes(makeSignal({})));

@@ -88,6 +88,21 @@ TEST_P(DsdFile, GivesBackItsBits)
     EXPECT_TRUE(all.dsd == signal_.bytes);
 }
 
+TEST(DsdPlaces, OfMoreThanTwoChannelsAreTold)
+{
+    TempDir dir;
+    for (const Kind kind : {Kind::dsf, Kind::dff}) {
+        for (const auto &[channels, speakers] :
+             {std::pair(2, 0x00u), std::pair(3, 0x07u), std::pair(6, 0x3Fu), std::pair(8, 0x00u)}) {
+            const std::string path = dir.file("a.dsd");
+            writeFile(path, fileBytes(kind, makeDsd(SignalShape::noise, 5000, 2822400, channels)));
+            const auto opened = openPath(path);
+            ASSERT_TRUE(opened.source) << opened.error;
+            EXPECT_EQ(opened.source->facts().format.speakers, speakers) << channels;
+        }
+    }
+}
+
 TEST_P(DsdFile, FindsEveryFrame)
 {
     auto opened = make();

@@ -113,6 +113,30 @@ TEST_P(PcmFile, FindsEveryFrame)
     EXPECT_EQ(readAll(*opened.source).frames, 2U);
 }
 
+TEST(PcmPlaces, OfMoreThanTwoChannelsAreTold)
+{
+    const struct
+    {
+        FileCase file;
+        uint32_t speakers;
+    } rows[] = {{{"wav", "wav", 16}, 0},
+                {{"wav", "wav", 16, false, 4}, 0x33},
+                {{"wav", "wav", 16, false, 5}, 0x37},
+                {{"wav", "wav", 16, false, 6}, 0x3F},
+                {{"wav", "wav", 16, false, 7}, 0},
+                {{"wav", "wav", 16, false, 8}, 0x63F},
+                {{"flac", "flac", 16, false, 6}, 0x3F},
+                {{"aiff", "aiff", 16, false, 6}, 0}};
+    TempDir dir;
+    for (const auto &row : rows) {
+        const PcmSignal signal = makeSignal({.channels = row.file.channels, .frames = 1000});
+        ASSERT_EQ(writeKind(row.file, dir.file("a"), signal), "");
+        const auto opened = openPath(dir.file("a"));
+        ASSERT_TRUE(opened.source) << opened.error;
+        EXPECT_EQ(opened.source->facts().format.speakers, row.speakers) << row.file.kind << row.file.channels;
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Kinds, PcmFile,
     testing::Values(
