@@ -23,6 +23,7 @@ int PlayerGuiWindow::lastPlayedRow() const
 void PlayerGuiWindow::noteStarted(const PlaylistEntry &entry)
 {
     m_start.started = entry;
+    m_start.startedEnded = false;
     m_start.lastPlayed = entry.path;
     m_start.lastPlayedKey = rowKey(entry);
     saveLastPlayedSoon();

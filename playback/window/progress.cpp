@@ -35,6 +35,8 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 
 void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
+    if (m_start.former.holdsPosition(progress.positionSec, progress.totalSec))
+        return;
     if (m_preload.pending && m_preload.row >= 0 &&
         preloadTaken({m_preload.positionSec, m_preload.totalSec, m_progress.lastPosSec, progress.positionSec,
                       progress.totalSec}))

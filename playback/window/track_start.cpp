@@ -70,6 +70,10 @@ void PlayerGuiWindow::playCurrentUnguarded()
     logStart(plan, entry, built.args);
 
     ++m_start.playGeneration;
+    if (m_start.startedEnded)
+        m_start.former.forget();
+    else
+        m_start.former.left(m_progress.lastPosSec, m_progress.lastTotalSec);
     resetTrackState(std::max(0., plan.startSec));
     showTrackOf(m_start.currentRow);
     noteStarted(entry);

@@ -281,6 +281,18 @@ TEST_P(ResumeWindow, APositionIsSavedWhenItHasMovedFiveSeconds)
     EXPECT_EQ(readUserSetting(settings::resumeSec), 10.);
 }
 
+TEST_P(ResumeWindow, ThePositionOfTheTrackThatWasLeftIsNotThatOfTheNext)
+{
+    m_window->startPlayback(0);
+    say(u"SRC 44100 16 2 wav 0 100"_s);
+    at(50.);
+    m_window->stepRow(1);
+    at(60.);
+    m_window->stopPlayback();
+    EXPECT_EQ(readUserSetting(settings::resumePath), fileAt(0));
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 50.);
+}
+
 TEST_P(ResumeWindow, APauseSavesAPositionPastHalfASecond)
 {
     m_window->startPlayback(0);
