@@ -133,7 +133,7 @@ void PlayerGuiWindow::checkPreload()
         m_preload.refusalTold = true;
         logLine(preloadRefusal(next.text));
     }
-    if (!plan.load)
+    if (!plan.load || !canBeNamed(next))
         return;
     m_preload.pending = true;
     m_preload.row = facts.nextRow;

@@ -321,7 +321,10 @@ private:
     void playCurrentUnguarded();
     void stopSession();
     void logElapsed(const QString &stage, qint64 elapsedMs);
+    /// A start came to nothing.
+    void leaveUnstarted();
     bool skipMissingFiles();
+    bool canBeNamed(const PlaylistEntry &entry) const;
     bool findEngine();
     void closeForRebuild();
     bool startSession(const struct TrackStartPlan &plan, const QStringList &args, const SessionShape &wanted);
