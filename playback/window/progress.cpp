@@ -37,9 +37,10 @@ void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
     if (m_start.former.holdsPosition(progress.positionSec, progress.totalSec))
         return;
+    const AbLoopState &loop = m_transport.abLoop;
     if (m_preload.pending && m_preload.row >= 0 &&
         preloadTaken({m_preload.positionSec, m_preload.totalSec, m_progress.lastPosSec, progress.positionSec,
-                      progress.totalSec}))
+                      progress.totalSec, loop.isSound() ? loop.pointA : -1.}))
         autoAdvanceTaken();
     m_progress.lastPosSec = progress.positionSec;
     updateProgress(progress.percent, progress.positionSec, progress.totalSec);
