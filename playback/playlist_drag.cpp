@@ -121,6 +121,9 @@ void PlaylistWidget::startDrag(Qt::DropActions supportedActions)
     if (onDragStarted)
         onDragStarted();
     runDrag(supportedActions);
+    // Rows that came or went meanwhile, without a drop, are no change of order.
+    if (!m_orderChange && count() != before.size())
+        return;
     if (orderSignature() != before && onOrderChanged)
         onOrderChanged();
 }
