@@ -568,7 +568,21 @@ TEST_F(Playlist, NothingButPlayingTouchesAFile)
     for (const QString &path : {fileAt(0), fileAt(1), fileAt(2)})
         QFile::remove(path);
     list()->selectAll();
+    list()->setCurrentRow(1);
     m_window->moveRow(0, 2);
     Q_EMIT list()->customContextMenuRequested(QPoint(5, 5));
     EXPECT_EQ(list()->count(), 3) << "rows whose file has gone are never dropped while the program runs";
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 0) << "nor are tags looked for";
+}
+
+TEST_F(Playlist, ARowThatWasPlayedIsChosenByItsTags)
+{
+    abc();
+    m_window->startPlayback(1);
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 1);
+    m_window->stopPlayback();
+    settle();
+    list()->setCurrentRow(0);
+    list()->setCurrentRow(1);
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 1) << "what is known is shown, and no more is read";
 }

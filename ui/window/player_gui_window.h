@@ -335,7 +335,8 @@ private:
     SessionShape wantedShape() const;
     void setPlayingUi(bool on);
     void showTrackOf(int row);
-    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from.
+    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from; of
+    /// that only what is known without a look into its file.
     void refreshNowPlaying(int row = -1);
     void showNowPlaying(const NowPlayingLabels &labels);
     void refreshStartButton();
