@@ -69,6 +69,9 @@ int ProcSession::writeLine(const QString &line, bool &flushed)
     flushed = false;
     if (!m_process || !isRunning())
         return session_code::refused;
+    // The engine would take what stands behind a break for a line of its own.
+    if (line.contains(u'\n'))
+        return 0;
     const QByteArray bytes = line.toUtf8() + '\n';
     if (QThread::currentThread() != m_process->thread())
         return writeFromOtherThread(bytes, flushed);

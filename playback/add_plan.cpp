@@ -3,10 +3,14 @@
 #include "playback/container_listing.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSet>
 #include <algorithm>
 #include <array>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 using namespace Qt::StringLiterals;
 
@@ -25,6 +29,24 @@ bool endsWithOneOf(QStringView name, const Table &suffixes)
     });
 }
 
+/// Supported files that a listing of the folder passes over in silence.
+int badNamesIn(const QString &folder)
+{
+    int bad = 0;
+    std::error_code error;
+    const std::filesystem::path path(QFile::encodeName(folder).toStdString());
+    for (std::filesystem::directory_iterator each(path, error), end; !error && each != end;
+         each.increment(error)) {
+        const std::string name = each->path().filename().string();
+        const QByteArrayView bytes(name.data(), qsizetype(name.size()));
+        std::error_code unknown;
+        if (!QUtf8StringView(bytes).isValidUtf8() && each->is_regular_file(unknown) &&
+            audioNameKind(QString::fromLatin1(bytes)) == AudioNameKind::Supported)
+            ++bad;
+    }
+    return bad;
+}
+
 void collectFolder(const QString &folder, CollectedPaths &collected)
 {
     const QFileInfoList files = QDir(folder).entryInfoList(QDir::Files | QDir::Readable, QDir::Name);
@@ -35,6 +57,7 @@ void collectFolder(const QString &folder, CollectedPaths &collected)
         else if (kind == AudioNameKind::NoDecoder)
             ++collected.noDecoder;
     }
+    collected.badNames += badNamesIn(folder);
 }
 
 } // namespace
@@ -66,22 +89,28 @@ CollectedPaths collectPaths(const QStringList &inputs)
     return collected;
 }
 
+QStringList localFiles(const QList<QUrl> &urls)
+{
+    QStringList paths;
+    for (const QUrl &url : urls) {
+        if (const QString path = url.toLocalFile(); !path.isEmpty())
+            paths.append(path);
+    }
+    return paths;
+}
+
 AddPlan planAdd(const QStringList &paths, const AddFacts &facts)
 {
     AddPlan plan;
     QSet<QString> fresh;
     for (const QString &path : paths) {
-        if (isContainerPath(path)) {
-            if (!facts.hasPath(path) && !facts.isPending(path) && !plan.containers.contains(path))
-                plan.containers.append(path);
-            continue;
-        }
-        if (facts.isListed(path))
+        const bool container = isContainerPath(path);
+        if (container ? facts.hasPath(path) || facts.isPending(path) : facts.isListed(path))
             continue;
         const qsizetype before = fresh.size();
         fresh.insert(path);
         if (fresh.size() > before)
-            plan.files.append(path);
+            (container ? plan.containers : plan.files).append(path);
     }
     return plan;
 }

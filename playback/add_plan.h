@@ -4,6 +4,7 @@
 
 #include <QStringList>
 #include <QStringView>
+#include <QUrl>
 #include <functional>
 
 /// More collected paths than this are laid out once, at the end.
@@ -25,12 +26,15 @@ struct CollectedPaths
 {
     QStringList paths; ///< absolute, in order of input
     int noDecoder = 0; ///< files in folders that were passed over for want of a decoder
-    int badNames = 0;  ///< inputs that no file can be opened by, because their names are no valid UTF-8
+    int badNames = 0;  ///< audio files that cannot be opened by their names, because these are no valid UTF-8
 };
 
 /// Lists folders, one level deep and sorted by name, and takes files as they are: a file that was named is
 /// not asked for its suffix. Reads the file system; what is neither file nor folder is passed over.
 CollectedPaths collectPaths(const QStringList &inputs);
+
+/// The paths of what was dropped; what is no local file is left out.
+QStringList localFiles(const QList<QUrl> &urls);
 
 /// What the list says about a path.
 struct AddFacts

@@ -2,6 +2,7 @@
 /// The window's memory for starting, ending and following tracks.
 #pragma once
 
+#include "playback/former_track.h"
 #include "playback/track_start.h"
 
 #include <QString>
@@ -35,6 +36,8 @@ struct TrackStartState
     bool resumeEnabled = false;
 
     PlaylistEntry started;        ///< what plays or played last; it stays when its row leaves the list
+    bool startedEnded = true;     ///< it has been played or its session has ended
+    FormerTrack former;           ///< the one before it, while the session may still tell of that
     QString lastPlayed;           ///< path
     QString lastPlayedKey;        ///< rowKey
     bool lastPlayedDirty = false; ///< the two are not in the settings as they are

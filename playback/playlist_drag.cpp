@@ -1,12 +1,12 @@
 // Rows on the move inside the list, and files that are dropped on it.
 #include "playback/playlist_widget.h"
 
+#include "playback/add_plan.h"
 #include "playback/playlist_item.h"
 
 #include <QDropEvent>
 #include <QHash>
 #include <QMimeData>
-#include <QUrl>
 #include <algorithm>
 
 namespace {
@@ -14,18 +14,6 @@ namespace {
 /// More dragged rows than this are moved in one go: the base class moves them one by one, and each of them
 /// visits all others.
 constexpr int mostRowsMovedSingly = 100;
-
-QStringList localFiles(const QMimeData &data)
-{
-    QStringList paths;
-    const QList<QUrl> urls = data.urls();
-    for (const QUrl &url : urls) {
-        const QString path = url.toLocalFile();
-        if (!path.isEmpty())
-            paths.append(path);
-    }
-    return paths;
-}
 
 /// The order that made one sequence of rows out of the other; both hold the same rows.
 RowRuns orderBetween(const QList<const QListWidgetItem *> &before,
@@ -73,7 +61,7 @@ int PlaylistWidget::dropRow(const QDropEvent &event) const
 void PlaylistWidget::dropEvent(QDropEvent *event)
 {
     if (event->mimeData()->hasUrls() && event->source() != this) {
-        const QStringList paths = localFiles(*event->mimeData());
+        const QStringList paths = localFiles(event->mimeData()->urls());
         event->accept();
         if (!paths.isEmpty() && onFilesDropped)
             onFilesDropped(paths);
@@ -121,6 +109,9 @@ void PlaylistWidget::startDrag(Qt::DropActions supportedActions)
     if (onDragStarted)
         onDragStarted();
     runDrag(supportedActions);
+    // Rows that came or went meanwhile, without a drop, are no change of order.
+    if (!m_orderChange && count() != before.size())
+        return;
     if (orderSignature() != before && onOrderChanged)
         onOrderChanged();
 }

@@ -10,6 +10,7 @@
 struct PlaylistState
 {
     QSet<QString> pendingContainers; ///< paths whose listing is still out
+    quint64 clearings = 0;           ///< counts them: a listing asked for before the last one is not wanted
     QString dragKey;                 ///< key of the playing row while rows are on the move
     PlaylistHistory history;
     bool historyDirty = false;   ///< not on disk as it is

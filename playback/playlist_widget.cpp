@@ -46,6 +46,21 @@ PlaylistWidget::~PlaylistWidget()
     m_index.clear();
 }
 
+// The base class lets an input method in where a row can be edited. Here it is what finds a title in a script
+// that no key has: the text it gives is searched for like a typed one.
+
+void PlaylistWidget::focusInEvent(QFocusEvent *event)
+{
+    QListWidget::focusInEvent(event);
+    setAttribute(Qt::WA_InputMethodEnabled);
+}
+
+void PlaylistWidget::currentChanged(const QModelIndex &current, const QModelIndex &previous)
+{
+    QListWidget::currentChanged(current, previous);
+    setAttribute(Qt::WA_InputMethodEnabled);
+}
+
 void PlaylistWidget::rowsInserted(const QModelIndex &parent, int start, int end)
 {
     for (int row = start; row <= end; ++row) {

@@ -79,6 +79,8 @@ protected:
     /// The drag itself; returns when it has ended.
     virtual void runDrag(Qt::DropActions supportedActions);
 
+    void focusInEvent(QFocusEvent *event) override;
+    void currentChanged(const QModelIndex &current, const QModelIndex &previous) override;
     void rowsInserted(const QModelIndex &parent, int start, int end) override;
     void rowsAboutToBeRemoved(const QModelIndex &parent, int start, int end) override;
 

@@ -98,10 +98,11 @@ bool preloadTaken(const PreloadTakenFacts &facts)
 {
     const double reachedSec = std::max(facts.posAtPreloadSec, facts.lastPositionSec);
     const bool ranBackward = reachedSec > 1. && reachedSec > facts.positionSec + 1.;
+    const bool jumpedInLoop = facts.loopFromSec >= 0. && facts.positionSec > facts.loopFromSec - 1.;
     const bool totalChanged = facts.totalSec > 0.5 && facts.totalAtPreloadSec > 0.5 &&
                               std::abs(facts.totalSec - facts.totalAtPreloadSec) > 0.5 &&
                               facts.positionSec < 5.;
-    return ranBackward || totalChanged;
+    return (ranBackward && !jumpedInLoop) || totalChanged;
 }
 
 bool isOfPreloadedTrack(const QString &doneFile, const QString &currentPath, const QString &preloadedPath)

@@ -57,8 +57,10 @@ struct PreloadTakenFacts
                                  ///< that only its last position tells that the next one begins
     double positionSec = 0.;
     double totalSec = 0.;
+    double loopFromSec = -1.; ///< point A of the loop that plays, -1 without one
 };
-/// The position has run backward, or the total has changed at the beginning of a track.
+/// The position has run backward, by more than a loop's jump,, or the total has changed at the beginning of a
+/// track.
 bool preloadTaken(const PreloadTakenFacts &facts);
 
 /// Whether a track's end is the end of the preloaded one, whose beginning went unnoticed: it was too short.

@@ -71,6 +71,14 @@ TrackStartPlan planTrackStart(const TrackStartFacts &facts)
     return plan;
 }
 
+bool fitsControlLine(const PlaylistEntry &entry, bool queued)
+{
+    const QString &path = !entry.isoPath.isEmpty()   ? entry.isoPath
+                          : !entry.cuePath.isEmpty() ? entry.cuePath
+                                                     : entry.path;
+    return !path.endsWith(u'\n') && !path.endsWith(u'\r') && (queued || !path.contains(u'\n'));
+}
+
 bool tracksResume(const PlaylistEntry &entry)
 {
     return !entry.path.isEmpty() && !entry.isContainerTrack();

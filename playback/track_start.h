@@ -59,6 +59,11 @@ TrackStartPlan planTrackStart(const TrackStartFacts &facts);
 /// Whether the position inside this row is remembered: only a plain file can be entered in its middle.
 bool tracksResume(const PlaylistEntry &entry);
 
+/// Whether a control line can carry the row's path. A line ends with its first break, and what breaks at its
+/// end is cut off; only in a queue of whole lines a break in the middle does no harm.
+/// \param queued the session queues its lines
+bool fitsControlLine(const PlaylistEntry &entry, bool queued);
+
 /// "Resuming at 1:05 (where it stopped last time)", translated.
 QString resumeAnnouncement(double startSec);
 /// The sentence for an engine that does not end in time, translated.

@@ -70,6 +70,7 @@ void LineActions::operator()(const ShowScan &effect) const
 void LineActions::operator()(const ShowSource &effect) const
 {
     const SourceLabels &labels = effect.labels;
+    window.m_start.former.announced();
     if (effect.newTrack)
         window.forgetTrackFacts();
     window.m_chain.cards = chainCardTexts(effect.source, labels);

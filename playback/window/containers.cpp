@@ -20,7 +20,12 @@ void PlayerGuiWindow::expandContainer(const QString &path, quint64 group,
 {
     m_list.pendingContainers.insert(path);
     askEngine({listingFlag(path), path}, containerProbeTimeoutMs,
-              [this, path, group, done](const PlayerProbeResult &result) {
+              [this, path, group, done, clearings = m_list.clearings](const PlayerProbeResult &result) {
+                  if (clearings != m_list.clearings) {
+                      logLine(tr("列表在列出分轨时被清空 ⇒ 不再加入: %1").arg(path));
+                      done(0);
+                      return;
+                  }
                   m_list.pendingContainers.remove(path);
                   done(addListedTracks(path, group, result));
               });

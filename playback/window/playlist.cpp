@@ -23,6 +23,7 @@ int PlayerGuiWindow::lastPlayedRow() const
 void PlayerGuiWindow::noteStarted(const PlaylistEntry &entry)
 {
     m_start.started = entry;
+    m_start.startedEnded = false;
     m_start.lastPlayed = entry.path;
     m_start.lastPlayedKey = rowKey(entry);
     saveLastPlayedSoon();
@@ -56,9 +57,11 @@ void PlayerGuiWindow::refreshNowPlaying(int row)
     if (m_ui.playlist->hasRow(shown)) {
         facts.row = shown;
         facts.entry = m_ui.playlist->entryAt(shown);
-        // A station has no file whose tags or folder could be read.
-        if (!facts.entry.isStream())
+        // A station has no file whose tags or folder could be read; and choosing a row touches none.
+        if (row >= 0 && !facts.entry.isStream())
             facts.summary = m_tagSummaries.tagSummaryFor(facts.entry.path);
+        else if (const TagSummary *known = m_tagSummaries.kept(facts.entry.path))
+            facts.summary = *known;
         facts.disc = discNumberFromPath(QFileInfo(facts.entry.path).absoluteFilePath().toStdString());
     }
     showNowPlaying(nowPlayingLabels(facts));

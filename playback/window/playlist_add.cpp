@@ -9,7 +9,6 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QMimeData>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -150,12 +149,7 @@ void PlayerGuiWindow::dropEvent(QDropEvent *event)
         QMainWindow::dropEvent(event);
         return;
     }
-    QStringList paths;
-    const QList<QUrl> urls = event->mimeData()->urls();
-    for (const QUrl &url : urls) {
-        if (const QString path = url.toLocalFile(); !path.isEmpty())
-            paths.append(path);
-    }
+    const QStringList paths = localFiles(event->mimeData()->urls());
     event->accept();
     if (!paths.isEmpty())
         addPaths(paths);

@@ -110,6 +110,9 @@ void PlayerGuiWindow::clearPlaylist()
     if (const int count = m_ui.playlist->count(); count > 0)
         recordChange(
             {PlaylistChange::Kind::Remove, {{0, count}}, m_ui.playlist->removeEntries({{0, count}}), 0});
+    // Tracks that are still being listed belonged to the old list.
+    ++m_list.clearings;
+    m_list.pendingContainers.clear();
     // A number from the old list would point into the next one.
     m_start.playingRow = -1;
     m_tagSummaries.clear();

@@ -107,6 +107,7 @@ void PlayerGuiWindow::restorePlaylist()
         const int row = last >= 0 ? last : m_ui.playlist->currentRow();
         if (row >= 0) {
             m_ui.playlist->showRow(row);
+            refreshNowPlaying(row);
             m_start.currentRow = row;
             m_start.lastStartedRow = row;
         }

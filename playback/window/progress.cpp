@@ -35,9 +35,12 @@ void PlayerGuiWindow::resetTrackState(double startSec)
 
 void PlayerGuiWindow::onProgress(const ProgressLine &progress)
 {
+    if (m_start.former.holdsPosition(progress.positionSec, progress.totalSec))
+        return;
+    const AbLoopState &loop = m_transport.abLoop;
     if (m_preload.pending && m_preload.row >= 0 &&
         preloadTaken({m_preload.positionSec, m_preload.totalSec, m_progress.lastPosSec, progress.positionSec,
-                      progress.totalSec}))
+                      progress.totalSec, loop.isSound() ? loop.pointA : -1.}))
         autoAdvanceTaken();
     m_progress.lastPosSec = progress.positionSec;
     updateProgress(progress.percent, progress.positionSec, progress.totalSec);
@@ -131,7 +134,7 @@ void PlayerGuiWindow::checkPreload()
         m_preload.refusalTold = true;
         logLine(preloadRefusal(next.text));
     }
-    if (!plan.load)
+    if (!plan.load || !canBeNamed(next))
         return;
     m_preload.pending = true;
     m_preload.row = facts.nextRow;

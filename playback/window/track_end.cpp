@@ -42,6 +42,8 @@ void PlayerGuiWindow::onEngineDone(int exitCode, bool crashed, int startIndex)
     }
     for (const SessionEndVerdict::Line &line : verdict.lines)
         logLine(line.text, line.isError);
+    if (!sessionRuns())
+        m_start.startedEnded = true;
     switch (verdict.kind) {
     case SessionEndVerdict::Kind::Ignored:
         // Nothing follows from it; but the controls must not go on showing what no longer runs.
@@ -97,6 +99,10 @@ void PlayerGuiWindow::retryWithoutExclusive()
 
 void PlayerGuiWindow::onDoneLine(const QString &file)
 {
+    if (m_start.former.holdsEnd()) {
+        logLine(tr("上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束"));
+        return;
+    }
     if (m_preload.pending) {
         const bool nextHasEndedToo = isOfPreloadedTrack(file, m_start.started.path, m_preload.path);
         logLine(tr("播放完成"));
@@ -115,6 +121,7 @@ void PlayerGuiWindow::onDoneLine(const QString &file)
 
 void PlayerGuiWindow::closeFinishedTrack()
 {
+    m_start.startedEnded = true;
     forgetResumePosition(m_start.lastPlayed);
     // Whoever plays it again wants it from its beginning and not its last seconds.
     m_progress.lastPosSec = 0.;

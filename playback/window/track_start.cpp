@@ -39,12 +39,12 @@ void PlayerGuiWindow::playCurrentUnguarded()
     if (std::exchange(m_start.currentRowGone, false))
         ++m_start.currentRow;
     if (!skipMissingFiles()) {
-        setPlayingUi(false);
+        leaveUnstarted();
         logLine(tr("播放列表结束"));
         return;
     }
     if (!findEngine()) {
-        setPlayingUi(false);
+        leaveUnstarted();
         return;
     }
 
@@ -65,11 +65,17 @@ void PlayerGuiWindow::playCurrentUnguarded()
     input.startSec = plan.startSec;
     const EngineArgsResult built = buildEngineArgs(input);
     tellNotices(built.notices);
-    if (built.args.isEmpty())
+    if (built.args.isEmpty()) {
+        leaveUnstarted();
         return;
+    }
     logStart(plan, entry, built.args);
 
     ++m_start.playGeneration;
+    if (m_start.startedEnded)
+        m_start.former.forget();
+    else
+        m_start.former.left(m_progress.lastPosSec, m_progress.lastTotalSec);
     resetTrackState(std::max(0., plan.startSec));
     showTrackOf(m_start.currentRow);
     noteStarted(entry);
@@ -88,6 +94,12 @@ void PlayerGuiWindow::playCurrentUnguarded()
     logElapsed(u"load"_s, clock.restart());
 }
 
+void PlayerGuiWindow::leaveUnstarted()
+{
+    // Nothing was sent, so a track that sounds goes on, and the listener must be able to stop it.
+    setPlayingUi(m_start.uiPlaying && !m_start.startedEnded && sessionRuns());
+}
+
 void PlayerGuiWindow::logElapsed(const QString &stage, qint64 elapsedMs)
 {
     if (elapsedMs > slowStageMs)
@@ -97,12 +109,22 @@ void PlayerGuiWindow::logElapsed(const QString &stage, qint64 elapsedMs)
 bool PlayerGuiWindow::skipMissingFiles()
 {
     for (; m_ui.playlist->hasRow(m_start.currentRow); ++m_start.currentRow) {
-        const QString path = m_ui.playlist->entryAt(m_start.currentRow).path.trimmed();
-        if (!path.isEmpty() && QFileInfo(path).isFile())
+        const PlaylistEntry entry = m_ui.playlist->entryAt(m_start.currentRow);
+        const QString path = entry.path.trimmed();
+        if (path.isEmpty() || !QFileInfo(path).isFile())
+            logLine(tr("跳过（文件不存在）: %1").arg(path), true);
+        else if (!canBeNamed(entry))
+            logLine(tr("跳过（路径里有换行，控制行装不下它）: %1").arg(path.simplified()), true);
+        else
             return true;
-        logLine(tr("跳过（文件不存在）: %1").arg(path), true);
     }
     return false;
+}
+
+bool PlayerGuiWindow::canBeNamed(const PlaylistEntry &entry) const
+{
+    const bool queued = m_link.session ? m_link.session->isQueuedWrite() : isInProcessPreferred();
+    return fitsControlLine(entry, queued);
 }
 
 bool PlayerGuiWindow::findEngine()

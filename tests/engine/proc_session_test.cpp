@@ -60,6 +60,16 @@ TEST_F(ProcSessionTest, EchoesLinesAndStops)
     EXPECT_EQ(heard.ends.size(), 1);
 }
 
+TEST_F(ProcSessionTest, ALineWithABreakInItIsNotSentAsTwo)
+{
+    ASSERT_EQ(start(u"echo"_s), 0);
+    EXPECT_EQ(session.writeLine(u"load /a\nstop"_s, flushed), 0);
+    EXPECT_GT(session.writeLine(u"report"_s, flushed), 0);
+    EXPECT_TRUE(eventually([this] { return heard.hasLine(u"[echo] report\n"_s); }));
+    EXPECT_TRUE(session.isRunning());
+    EXPECT_FALSE(heard.hasLine(u"[echo] load /a\n"_s));
+}
+
 TEST_F(ProcSessionTest, KeepsTheStreamsApart)
 {
     ASSERT_EQ(start(u"both"_s), 0);

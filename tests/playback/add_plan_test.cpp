@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -55,6 +56,21 @@ TEST(AudioNames, EverySupportedSuffixInEitherCase)
     for (const QString &name : {u"a.txt"_s, u"flac"_s, u"a.flac.bak"_s, u""_s})
         EXPECT_EQ(audioNameKind(name), AudioNameKind::Other);
     EXPECT_EQ(supportedSuffixes().size(), 18);
+}
+
+TEST_F(Folder, CountsAudioFilesWhoseNamesAreNoUtf8)
+{
+    make(u"a.flac"_s);
+    // As archives of other encodings leave them.
+    for (const char *name : {"\xc4\xe3.flac", "\xba\xc3.DSF", "\xc4\xe3.txt", "\xc4\xe3.mp3"}) {
+        FILE *raw = std::fopen((m_dir.path().toStdString() + '/' + name).c_str(), "w");
+        ASSERT_NE(raw, nullptr);
+        std::fclose(raw);
+    }
+    const CollectedPaths collected = collectPaths({m_dir.path()});
+    EXPECT_EQ(names(collected.paths), QStringList{u"a.flac"_s});
+    EXPECT_EQ(collected.badNames, 2);
+    EXPECT_EQ(collected.noDecoder, 0);
 }
 
 TEST_F(Folder, ListsItsFilesByNameAndNotItsFolders)

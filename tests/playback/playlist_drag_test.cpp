@@ -98,6 +98,19 @@ TEST_F(PlaylistDrag, TwoEqualRowsThatChangePlacesAreNoChange)
     EXPECT_EQ(m_changed, 0);
 }
 
+TEST_F(PlaylistDrag, RowsThatArriveDuringADragAreNoChangeOfOrder)
+{
+    m_list.drag = [this] { m_list.appendFiles({u"/m/late.wav"_s}); };
+    m_list.beginDrag();
+    EXPECT_EQ(m_changed, 0);
+    m_list.drag = [this] {
+        m_list.appendFiles({u"/m/later.wav"_s});
+        m_list.moveEntry(0, 3);
+    };
+    m_list.beginDrag();
+    EXPECT_EQ(m_changed, 1) << "but the drop is";
+}
+
 TEST_F(PlaylistDrag, WithoutCallbacksNothingIsCalled)
 {
     m_list.onDragStarted = {};

@@ -362,6 +362,24 @@ TEST(PlaylistWidget, TypingFindsARowAndEnterStartsIt)
     EXPECT_EQ(started.size(), 1);
 }
 
+TEST(PlaylistWidget, AnInputMethodFindsARow)
+{
+    PlaylistWidget list;
+    list.appendFiles({u"/m/Aria.flac"_s, u"/m/北京.flac"_s, u"/m/上海.flac"_s});
+    list.show();
+    list.setFocus();
+    list.setCurrentRow(0);
+    EXPECT_TRUE(list.testAttribute(Qt::WA_InputMethodEnabled));
+    QInputMethodEvent composing(u"shang"_s, {});
+    QCoreApplication::sendEvent(&list, &composing);
+    EXPECT_EQ(list.currentRow(), 0);
+    QInputMethodEvent written;
+    written.setCommitString(u"上"_s);
+    QCoreApplication::sendEvent(&list, &written);
+    EXPECT_EQ(list.currentRow(), 2);
+    EXPECT_TRUE(list.testAttribute(Qt::WA_InputMethodEnabled)) << "and another one after that";
+}
+
 TEST(PlaylistWidget, RowsAreOfOneHeight)
 {
     PlaylistWidget list;

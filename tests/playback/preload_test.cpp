@@ -184,6 +184,14 @@ TEST(PreloadTaken, SeesTheChangeBetweenTwoTracksOfTwoSeconds)
     EXPECT_FALSE(preloadTaken({0.55, 2., 0.55, 0.6, 2.}));
 }
 
+TEST(PreloadTaken, IsNotSeenInALoopsJump)
+{
+    EXPECT_FALSE(preloadTaken({98.5, 100., 99.5, 10., 100., 10.}));
+    EXPECT_FALSE(preloadTaken({98.5, 100., 99.5, 40., 100., 10.}));
+    EXPECT_TRUE(preloadTaken({98.5, 100., 99.5, 0.1, 100., 10.})) << "before the loop";
+    EXPECT_TRUE(preloadTaken({98.5, 100., 99.5, 0.1, 200., 0.})) << "another length";
+}
+
 TEST(PreloadTaken, AnEndThatNamesThePreloadedTrackIsItsEnd)
 {
     const QString first = u"/m/a.wav"_s, second = u"/m/b.wav"_s;

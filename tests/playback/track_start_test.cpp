@@ -158,3 +158,24 @@ TEST(TrackStart, TheTimeoutTextSaysWhatCanBeDone)
     EXPECT_TRUE(stopTimeoutText(false).contains(u"KELP_GUI_INPROC=0"_s));
     EXPECT_TRUE(stopTimeoutText(true).contains(u'5'));
 }
+
+TEST(ControlLine, CarriesNoBreakUnlessItIsQueuedWhole)
+{
+    PlaylistEntry entry;
+    const auto fits = [&entry](const QString &path, bool queued) {
+        entry.path = path;
+        return fitsControlLine(entry, queued);
+    };
+    for (const bool queued : {false, true}) {
+        EXPECT_TRUE(fits(u"/m/a \"b\" 'c' \t%1.wav"_s, queued));
+        EXPECT_EQ(fits(u"/m/a\nb.wav"_s, queued), queued);
+        EXPECT_TRUE(fits(u"/m/a\rb.wav"_s, queued));
+        EXPECT_FALSE(fits(u"/m/a\n"_s, queued)) << "what ends in a break loses it";
+        EXPECT_FALSE(fits(u"/m/a\r"_s, queued));
+    }
+    entry.path = u"/m/a.wav"_s;
+    entry.cuePath = u"/m/a\nb.cue"_s;
+    EXPECT_FALSE(fitsControlLine(entry, false)) << "the sheet is what is loaded";
+    entry.isoPath = u"/m/a.iso"_s;
+    EXPECT_TRUE(fitsControlLine(entry, false));
+}

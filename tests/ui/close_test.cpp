@@ -1,4 +1,6 @@
 // The end of the window.
+#include "app/settings_store.h"
+#include "platform/settings_table.h"
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
@@ -109,4 +111,15 @@ TEST_F(Close, AHangingEngineInsideThisProcessCanOnlyBeWaitedFor)
     m_window->killProc(false);
     EXPECT_TRUE(logHas(u"KELP_GUI_INPROC=0"_s));
     m_engine.endsOnStop = true;
+}
+
+TEST_F(Close, ATrackStartedAMomentAgoIsTheLastPlayed)
+{
+    makeWindow();
+    m_window->show();
+    addFiles(2);
+    m_window->startPlayback(1);
+    const QString path = fileAt(1);
+    EXPECT_TRUE(m_window->close());
+    EXPECT_EQ(SettingsStore().value(QString(settings::lastPlayed.key)).toString(), path);
 }

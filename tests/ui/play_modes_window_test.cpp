@@ -201,6 +201,25 @@ TEST_F(PlayModes, APreloadedTrackDiscardsTheLoop)
     EXPECT_TRUE(logHas(u"A/B 点已作废"_s));
 }
 
+TEST_F(PlayModes, ALoopClosedAfterTheHandOverKeepsItsTrack)
+{
+    m_window->startPlayback(0);
+    at(10.);
+    m_window->markA();
+    at(99.);
+    EXPECT_TRUE(WindowInspector::preload(*m_window).pending);
+    m_window->markB();
+    takeLines();
+    at(10.1);
+    at(98.9);
+    at(10.1);
+    EXPECT_EQ(start().currentRow, 0) << "the loop jumps back; the engine has not gone on";
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_FALSE(logHas(u"A/B 点已作废"_s));
+    at(0.1);
+    EXPECT_EQ(start().currentRow, 1) << "before point A it has";
+}
+
 TEST_F(PlayModes, ALoopMarkedWhileIdleWaitsForItsTrack)
 {
     m_window->startPlayback(0);

@@ -180,6 +180,28 @@ TEST_F(Playlist, AnImageAddedTwiceIsListedOnce)
     EXPECT_TRUE(logHas(u"SACD ISO: d.iso — 1 首"_s));
 }
 
+TEST_F(Playlist, TracksThatAreListedForAClearedListStayOutOfTheNewOne)
+{
+    const QString image = make({u"d.iso"_s}).first();
+    m_probe = [](const QStringList &) { return PlayerProbeResult{0, u"ISO\tx\t1\nTRACK\t1\t0\t60\tA\n"_s}; };
+    m_window.reset();
+    makeWindow();
+    int done = 0;
+    m_window->addPaths({image}, [&done] { ++done; });
+    m_window->clearPlaylist();
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done == 1; }, 20000));
+    EXPECT_EQ(list()->count(), 0);
+    EXPECT_TRUE(logHas(u"列表在列出分轨时被清空 ⇒ 不再加入: "_s + image));
+
+    m_window->addPaths({image}, [&done] { ++done; });
+    m_window->clearPlaylist();
+    m_window->addPaths({image}, [&done] { ++done; });
+    m_window->addPaths({image}, [&done] { ++done; });
+    EXPECT_EQ(done, 2) << "it is being listed for the new list";
+    ASSERT_TRUE(QTest::qWaitFor([&done] { return done == 4; }, 20000));
+    EXPECT_EQ(list()->count(), 1);
+}
+
 TEST_F(Playlist, AFailedProbeStillEndsTheAdding)
 {
     m_probe = [](const QStringList &) { return PlayerProbeResult{-4, {}}; };
@@ -550,7 +572,21 @@ TEST_F(Playlist, NothingButPlayingTouchesAFile)
     for (const QString &path : {fileAt(0), fileAt(1), fileAt(2)})
         QFile::remove(path);
     list()->selectAll();
+    list()->setCurrentRow(1);
     m_window->moveRow(0, 2);
     Q_EMIT list()->customContextMenuRequested(QPoint(5, 5));
     EXPECT_EQ(list()->count(), 3) << "rows whose file has gone are never dropped while the program runs";
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 0) << "nor are tags looked for";
+}
+
+TEST_F(Playlist, ARowThatWasPlayedIsChosenByItsTags)
+{
+    abc();
+    m_window->startPlayback(1);
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 1);
+    m_window->stopPlayback();
+    settle();
+    list()->setCurrentRow(0);
+    list()->setCurrentRow(1);
+    EXPECT_EQ(WindowInspector::tags(*m_window).size(), 1) << "what is known is shown, and no more is read";
 }

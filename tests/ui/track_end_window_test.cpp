@@ -30,6 +30,37 @@ TEST_P(TrackEnd, DoneOfTheLastTrackLeavesTheWindowIdleAndNamesTheOrder)
     EXPECT_TRUE(logHas(u"播放列表结束（顺序 · 不循环）"_s));
 }
 
+/// Tracks of one length, announced by their session.
+const QString announcement = u"SRC 44100 16 2 wav 0 100"_s;
+
+TEST_P(TrackEnd, AnEndThatMeetsAChoiceIsNotTheEndOfTheChosenTrack)
+{
+    m_window->startPlayback(0);
+    say(announcement);
+    at(99.9);
+    m_window->stepRow(1);
+    takeLines();
+    say(u"DONE a.wav"_s);
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_EQ(start().currentRow, 1);
+    EXPECT_TRUE(logHas(u"不算作新选这一首的结束"_s));
+    say(announcement);
+    say(u"DONE b.wav"_s);
+    EXPECT_EQ(takeLines(), QStringList{load(2)});
+}
+
+TEST_P(TrackEnd, AnEndThatMeetsTheSameTrackChosenAnewLeavesItPlaying)
+{
+    m_window->startPlayback(0);
+    say(announcement);
+    at(99.9);
+    m_window->startPlayback(0);
+    takeLines();
+    say(u"DONE a.wav"_s);
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_EQ(start().currentRow, 0);
+}
+
 TEST_P(TrackEnd, DoneAfterAStopStartsNothing)
 {
     m_engine.endsOnStop = false;
@@ -363,6 +394,25 @@ TEST_P(Preloading, ADoubleClickTakesThePlaceOfWhatWasHandedOver)
     EXPECT_FALSE(WindowInspector::preload(*m_window).pending);
     at(0.1);
     EXPECT_EQ(start().currentRow, 2);
+}
+
+TEST_P(Preloading, WhatIsStillToldOfTheTrackThatWasLeftHandsNothingOver)
+{
+    m_window->startPlayback(0);
+    say(announcement);
+    at(99.);
+    EXPECT_EQ(takeLines().last(), load(1)) << "handed over";
+    m_window->stepRow(1);
+    EXPECT_EQ(takeLines(), QStringList{load(1)}) << "chosen";
+    at(99.1);
+    at(99.9);
+    EXPECT_TRUE(takeLines().isEmpty()) << "the next one is still being opened";
+    say(announcement);
+    at(0.1);
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_EQ(start().currentRow, 1);
+    at(99.);
+    EXPECT_EQ(takeLines(), QStringList{load(2)}) << "its own end is followed as ever";
 }
 
 TEST_P(Preloading, RandomOrderHandsOverWhatItThenPlays)

@@ -1,6 +1,8 @@
 // Starting, stopping and stepping, whatever comes in between; positions that are remembered.
 #include "playback_fixture.h"
 
+#include "ui/dock_bar.h"
+
 #include <QFile>
 
 using namespace Qt::StringLiterals;
@@ -158,6 +160,40 @@ TEST_P(Transport, AFileThatVanishedBeforeItsTurnIsSkipped)
     EXPECT_EQ(start().playingRow, 2);
 }
 
+TEST_P(Transport, AChoiceWithoutAFileLeavesWhatSoundsAndTheMeansToStopIt)
+{
+    m_window->startPlayback(0);
+    at(10.);
+    QFile::remove(fileAt(2));
+    takeLines();
+    m_window->startPlayback(2);
+    EXPECT_TRUE(takeLines().isEmpty());
+    EXPECT_TRUE(logHas(u"播放列表结束"_s));
+    EXPECT_EQ(start().currentRow, 3);
+    EXPECT_TRUE(start().uiPlaying) << "the first track still sounds";
+    EXPECT_TRUE(ui().dock->stop->isEnabled());
+    say(u"DONE a.wav"_s);
+    EXPECT_FALSE(start().uiPlaying) << "and ends the list";
+    EXPECT_TRUE(takeLines().isEmpty());
+}
+
+TEST_P(Transport, APathThatNoControlLineCanCarryIsSkippedWithAWord)
+{
+    const QString broken = m_root.filePath(u"a\nstop.wav"_s);
+    QFile file(broken);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    m_window->appendFile(broken);
+    m_window->startPlayback(2);
+    takeLines();
+    at(99.);
+    const bool queued = GetParam();
+    EXPECT_EQ(takeLines(), queued ? QStringList{u"load "_s + broken} : QStringList());
+    m_window->startPlayback(3);
+    EXPECT_EQ(takeLines(), queued ? QStringList{u"load "_s + broken} : QStringList());
+    EXPECT_EQ(logHas(u"跳过（路径里有换行"_s), !queued);
+    EXPECT_TRUE(m_window->sessionRuns());
+}
+
 TEST_P(Transport, TwoRowsOfOneSheetAreOneSession)
 {
     const PlaylistEntry entry = appendSheet(2);
@@ -279,6 +315,18 @@ TEST_P(ResumeWindow, APositionIsSavedWhenItHasMovedFiveSeconds)
     EXPECT_EQ(readUserSetting(settings::resumeSec), 5.);
     at(10.);
     EXPECT_EQ(readUserSetting(settings::resumeSec), 10.);
+}
+
+TEST_P(ResumeWindow, ThePositionOfTheTrackThatWasLeftIsNotThatOfTheNext)
+{
+    m_window->startPlayback(0);
+    say(u"SRC 44100 16 2 wav 0 100"_s);
+    at(50.);
+    m_window->stepRow(1);
+    at(60.);
+    m_window->stopPlayback();
+    EXPECT_EQ(readUserSetting(settings::resumePath), fileAt(0));
+    EXPECT_EQ(readUserSetting(settings::resumeSec), 50.);
 }
 
 TEST_P(ResumeWindow, APauseSavesAPositionPastHalfASecond)

@@ -28,6 +28,7 @@ struct WindowInspector
     static ChainViewState &chain(PlayerGuiWindow &window) { return window.m_chain; }
     static CoverState &cover(PlayerGuiWindow &window) { return window.m_cover; }
     static DeviceState &devices(PlayerGuiWindow &window) { return window.m_devices; }
+    static TagSummaryCache &tags(PlayerGuiWindow &window) { return window.m_tagSummaries; }
     static PhoneRemoteState &remote(PlayerGuiWindow &window) { return window.m_remote; }
 };
 

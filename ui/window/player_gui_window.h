@@ -324,7 +324,10 @@ private:
     void playCurrentUnguarded();
     void stopSession();
     void logElapsed(const QString &stage, qint64 elapsedMs);
+    /// A start came to nothing.
+    void leaveUnstarted();
     bool skipMissingFiles();
+    bool canBeNamed(const PlaylistEntry &entry) const;
     bool findEngine();
     void closeForRebuild();
     bool startSession(const struct TrackStartPlan &plan, const QStringList &args, const SessionShape &wanted);
@@ -335,7 +338,8 @@ private:
     SessionShape wantedShape() const;
     void setPlayingUi(bool on);
     void showTrackOf(int row);
-    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from.
+    /// Of the row, or with -1 of the one that the buttons for the next and previous track go out from; of
+    /// that only what is known without a look into its file.
     void refreshNowPlaying(int row = -1);
     void showNowPlaying(const NowPlayingLabels &labels);
     void refreshStartButton();
