@@ -6,6 +6,7 @@
 #include "app/startup.h"
 #include "platform/console_streams.h"
 #include "platform/font_warm_up.h"
+#include "platform/letter_weight.h"
 #include "platform/process_facts.h"
 #include "ui/window/player_gui_window.h"
 
@@ -71,8 +72,10 @@ int main(int argc, char **argv)
     ensureStandardStreams();
     const QStringList arguments = ownArguments(argc, argv);
     const bool console = startup::isConsoleRole(arguments);
-    if (!console)
+    if (!console) {
         warmUpFonts();
+        drawLettersAtTheirWeight();
+    }
     std::vector<char *> toolkit = toolkitArguments(argc, argv, console);
     int toolkitCount = static_cast<int>(toolkit.size());
     toolkit.push_back(nullptr);

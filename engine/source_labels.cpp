@@ -32,9 +32,14 @@ QString formatText(const SourceInfo &source)
 QString infoText(const SourceInfo &source, const QString &format)
 {
     const QString depth = source.depthBits ? QString::number(*source.depthBits) : u"—"_s;
-    QString info = text(QT_TRANSLATE_NOOP("SourceLabels", "音频：%1 · %2 位 · %3 声道 · %4 秒"))
-                       .arg(format, depth, QString::number(source.channels),
-                            QString::number(source.durationSec, 'f', 1));
+    const QString pattern = text(QT_TRANSLATE_NOOP("SourceLabels", "音频：%1 · %2 位 · %3 声道 · %4 秒"));
+    // In a script that runs from right to left each value stays a piece of its own: a figure would otherwise
+    // join the Latin words before it and leave its unit behind.
+    const auto value = [isolate = pattern.isRightToLeft()](const QString &plain) {
+        return isolate ? QChar(0x2068) + plain + QChar(0x2069) : plain;
+    };
+    QString info = pattern.arg(value(format), value(depth), value(QString::number(source.channels)),
+                               value(QString::number(source.durationSec, 'f', 1)));
     if (source.isDsd())
         info += source.dst ? text(QT_TRANSLATE_NOOP("SourceLabels", " · DST：是"))
                            : text(QT_TRANSLATE_NOOP("SourceLabels", " · DST：否"));

@@ -5,6 +5,16 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// A value that reads from left to right as one piece: "46.4 ms" would otherwise become "ms 46.4".
+QString isolated(const QString &value)
+{
+    return QChar(0x2068) + value + QChar(0x2069);
+}
+
+} // namespace
+
 ChainRowList::ChainRowList(QWidget *parent)
     : QWidget(parent)
 {
@@ -27,7 +37,10 @@ void ChainRowList::setRows(const QList<ChainRow> &rows)
         label->setIndent(0);
         // Also a row that begins with a Latin word stands at the interface's leading edge.
         // Mirrored, a Latin value would drag its row to the other side.
-        const QString form = chainRowHtml(row);
+        ChainRow shown = row;
+        if (isRightToLeft())
+            shown.value = isolated(row.value);
+        const QString form = chainRowHtml(shown);
         label->setText(isRightToLeft() ? u"<div dir=\"rtl\">"_s + form + u"</div>"_s : form);
         label->setProperty("mirrored", isRightToLeft());
         // The tool tip is the value as it came, which may look like rich text and is none.

@@ -5,6 +5,9 @@
 #include "playback/chain_cards.h"
 #include "playback/self_check_state.h"
 
+#include <QPointer>
+#include <QWidget>
+
 class QListWidget;
 class ReportDialog;
 class SelfCheckDialog;
@@ -17,4 +20,6 @@ struct ChainViewState
     ReportDialog *reportDialog = nullptr;
     SelfCheckDialog *verifyDialog = nullptr;
     QListWidget *verifyList = nullptr; ///< of the dialog
+    /// What got the focus when the report's button, which had it, was disabled; null where it had not.
+    QPointer<QWidget> focusFromReport;
 };

@@ -117,7 +117,13 @@ void PlaylistDelegate::paint(QPainter *painter, const QStyleOptionViewItem &opti
         painter->drawText(part(option, sidePadding + inner - tagWidth, tagWidth),
                           static_cast<int>(leading) | Qt::TextSingleLine, tag);
     }
-    if ((option.state & QStyle::State_HasFocus) && !selected) {
+    if (!(option.state & QStyle::State_HasFocus))
+        return;
+    if (option.widget && option.widget->property("keyFocus").toBool()) {
+        constexpr int ringWidth = 2;
+        painter->setPen(QPen(m_colours.ring, ringWidth, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        painter->drawRect(option.rect.adjusted(1, 1, -1, -1));
+    } else if (!selected) {
         painter->setPen(QPen(m_colours.focus, 0));
         painter->drawRect(option.rect.adjusted(0, 0, -1, -1));
     }

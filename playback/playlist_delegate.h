@@ -22,6 +22,8 @@ struct PlaylistColours
     QColor playingSelected{0x1F, 0x1F, 0x26};
     QColor playingTag{0xB9, 0xB3, 0xA8};
     QColor focus{0x2C, 0x2C, 0x35}; ///< around a current row that is not selected
+    QColor ring{0xE0, 0xC8,
+                0x96}; ///< around the current row while keys lead, which is the list's property "keyFocus"
 };
 
 /// The rows of the light look: the playing row is printed in reverse, since its amber cannot be read on

@@ -205,7 +205,8 @@ int PlaylistWidget::highlightedRow() const
 
 void PlaylistWidget::showRow(int row)
 {
-    setCurrentRow(row);
+    // It alone: a row that was chosen before would go with it, moved or removed.
+    setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
     if (const QListWidgetItem *found = item(row))
         scrollToItem(found, PositionAtCenter);
 }

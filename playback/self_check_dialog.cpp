@@ -7,9 +7,11 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 #include <QStyledItemDelegate>
 #include <QVBoxLayout>
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +19,7 @@ namespace {
 
 constexpr QSize initialSize(720, 640);
 constexpr int plateHeight = 56;
+constexpr int leastListHeight = 120;
 constexpr int pagePadding = 24;
 
 void setPassed(QWidget *widget, const QVariant &passed)
@@ -81,6 +84,7 @@ SelfCheckDialog::SelfCheckDialog(QWidget *parent)
     plateRow->addWidget(m_verdict);
     plateRow->addWidget(m_about, 1);
     // The track's name gives way, the verdict does not.
+    m_about->setWordWrap(true);
     m_about->setMinimumWidth(0);
     m_about->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
 
@@ -109,6 +113,7 @@ SelfCheckDialog::SelfCheckDialog(QWidget *parent)
     m_list->setAccessibleName(tr("逐项检查的结果"));
     m_list->setWordWrap(true);
     m_list->setItemDelegate(new PlateDelegate(m_list));
+    m_list->setMinimumHeight(leastListHeight);
     m_list->setSelectionMode(QAbstractItemView::NoSelection);
     column->addWidget(m_list, 1);
 
@@ -176,4 +181,20 @@ void SelfCheckDialog::showStatements(const QList<VerifyItem> &items, bool finish
     const std::array<CheckStatement, 3> statements = checkStatements(items, finished);
     for (std::size_t i = 0; i < statements.size(); ++i)
         m_statements[i]->show(statements[i]);
+    if (isVisible())
+        growToWords();
+}
+
+void SelfCheckDialog::showEvent(QShowEvent *event)
+{
+    growToWords();
+    QDialog::showEvent(event);
+}
+
+void SelfCheckDialog::growToWords()
+{
+    const int wanted =
+        std::min(layout()->totalHeightForWidth(width()), screen()->availableGeometry().height());
+    if (height() < wanted)
+        resize(width(), wanted);
 }

@@ -42,7 +42,12 @@ public:
 Q_SIGNALS:
     void saveRequested();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
+    /// As high as its words need in this language, within the screen.
+    void growToWords();
     void showStatements(const QList<VerifyItem> &items, bool finished);
 
     SelfCheckColors m_colors;

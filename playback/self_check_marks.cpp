@@ -17,6 +17,9 @@ QLabel *addLabel(QFrame *parent, QLatin1StringView objectName)
     label->setObjectName(objectName);
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
+    // With the interface, not with the script of each text.
+    label->setAlignment((parent->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignAbsolute |
+                        Qt::AlignVCenter);
     return label;
 }
 

@@ -9,9 +9,23 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int cellPadding = 8;
+/// Of a card's leading edge and its figure: where the verdict above begins.
+constexpr int leading = 12;
+/// A figure in a narrow card may come near the line.
+constexpr int trailing = 4;
+constexpr int upright = 8;
+constexpr int uprightInOneLine = 4;
 /// The column less its padding.
 constexpr int oneLineBelow = 228 - 2 * 16;
+
+void setFlag(QLabel *label, const char *name, bool on)
+{
+    if (label->property(name).toBool() == on)
+        return;
+    label->setProperty(name, on);
+    label->style()->unpolish(label);
+    label->style()->polish(label);
+}
 
 QString orUnknown(const QString &text, QLatin1StringView unit = {})
 {
@@ -41,8 +55,6 @@ ValueCards::Card ValueCards::addCard(const QString &key)
     card.cell = new QWidget(this);
     card.cell->setObjectName("vesperCardCell"_L1);
     card.box = new QBoxLayout(QBoxLayout::TopToBottom, card.cell);
-    card.box->setContentsMargins(cellPadding, cellPadding, cellPadding, cellPadding);
-    card.box->setSpacing(2);
     auto *name = new QLabel(key, card.cell);
     name->setObjectName("vesperCardKey"_L1);
     card.value = new QLabel(card.cell);
@@ -67,9 +79,12 @@ void ValueCards::arrange(bool narrow)
         m_grid->removeWidget(card.cell);
         m_grid->addWidget(card.cell, narrow ? i : i / 2, narrow ? 0 : i % 2);
         card.box->setDirection(narrow ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
-        const int upright = narrow ? 4 : cellPadding;
-        card.box->setContentsMargins(cellPadding, upright, cellPadding, upright);
-        card.box->setSpacing(narrow ? cellPadding : 2);
+        const int ends = narrow ? uprightInOneLine : upright;
+        const int far = narrow ? leading : trailing;
+        card.box->setContentsMargins(isRightToLeft() ? far : leading, ends, isRightToLeft() ? leading : far,
+                                     ends);
+        card.box->setSpacing(narrow ? 8 : 2);
+        setFlag(card.value, "oneLine", narrow);
         // By the interface's direction, not by that of the figure.
         const bool left = narrow == isRightToLeft();
         card.value->setAlignment((left ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignAbsolute |
@@ -86,6 +101,8 @@ void ValueCards::setTexts(const ChainCardTexts &texts)
                                texts.plays ? QString::number(*texts.plays) : u"—"_s};
     for (std::size_t i = 0; i < m_cards.size(); ++i) {
         m_cards[i].value->setText(values[i]);
+        // The letters of a script that runs from right to left join up, and figures' cells tear them apart.
+        setFlag(m_cards[i].value, "words", values[i].isRightToLeft());
         m_cards[i].value->setToolTip(i == 1 && !texts.sampleRateTip.isEmpty() ? texts.sampleRateTip
                                                                               : values[i]);
     }

@@ -136,7 +136,10 @@ void DisplayPanel::applyPlan(const AreaPlan &plan)
         time.setLetterSpacing(QFont::AbsoluteSpacing, -0.03 * plan.timePixels);
         m_time->setFont(time);
         m_total->setFont(figureFont(static_cast<int>(plan.timePixels * totalPart)));
-        m_total->setContentsMargins(0, 0, 0, plan.timePixels / 10);
+        // All three stand on one line, however large each is.
+        for (QLabel *smaller : {m_total, m_status})
+            smaller->setContentsMargins(0, 0, 0,
+                                        m_time->fontMetrics().descent() - smaller->fontMetrics().descent());
     }
     const int side = plan.compact ? 14 : 20;
     const int ends = plan.compact ? 10 : 16;

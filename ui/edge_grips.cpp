@@ -1,7 +1,11 @@
 #include "ui/edge_grips.h"
 
+#include "ui/pixel_grid.h"
+#include "ui/theme.h"
+
 #include <QEvent>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QWindow>
 
 namespace {
@@ -9,13 +13,23 @@ namespace {
 constexpr int thickness = 5;
 constexpr int cornerLength = 14;
 
-constexpr std::array gripEdges = {Qt::Edges(Qt::LeftEdge),     Qt::Edges(Qt::RightEdge),
-                                  Qt::Edges(Qt::TopEdge),      Qt::Edges(Qt::BottomEdge),
-                                  Qt::TopEdge | Qt::LeftEdge,  Qt::BottomEdge | Qt::RightEdge,
-                                  Qt::TopEdge | Qt::RightEdge, Qt::BottomEdge | Qt::LeftEdge};
-constexpr std::array gripCursors = {Qt::SizeHorCursor,   Qt::SizeHorCursor,   Qt::SizeVerCursor,
-                                    Qt::SizeVerCursor,   Qt::SizeFDiagCursor, Qt::SizeFDiagCursor,
-                                    Qt::SizeBDiagCursor, Qt::SizeBDiagCursor};
+constexpr Qt::Edges upperLeft = Qt::TopEdge | Qt::LeftEdge;
+constexpr Qt::Edges upperRight = Qt::TopEdge | Qt::RightEdge;
+constexpr Qt::Edges lowerLeft = Qt::BottomEdge | Qt::LeftEdge;
+constexpr Qt::Edges lowerRight = Qt::BottomEdge | Qt::RightEdge;
+constexpr std::array<Qt::Edges, gripCount> gripEdges = {
+    Qt::LeftEdge, Qt::RightEdge, Qt::TopEdge, Qt::BottomEdge, upperLeft, upperRight,
+    lowerLeft,    lowerRight,    upperLeft,   upperRight,     lowerLeft, lowerRight};
+constexpr int firstUprightCorner = 8;
+
+Qt::CursorShape cursorOf(Qt::Edges edges)
+{
+    if (edges == upperLeft || edges == lowerRight)
+        return Qt::SizeFDiagCursor;
+    if (edges == upperRight || edges == lowerLeft)
+        return Qt::SizeBDiagCursor;
+    return edges & (Qt::LeftEdge | Qt::RightEdge) ? Qt::SizeHorCursor : Qt::SizeVerCursor;
+}
 
 class Grip final : public QWidget
 {
@@ -24,13 +38,28 @@ public:
         : QWidget(window)
         , m_edges(edgesOfGrip(index))
     {
-        setCursor(gripCursors.at(index));
+        setCursor(cursorOf(m_edges));
         setFocusPolicy(Qt::NoFocus);
         // Without this the sheet would paint a plate over the window's border.
         setAttribute(Qt::WA_NoSystemBackground);
     }
 
 protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        QPainter painter(this);
+        const PixelGrid grid(painter);
+        const double across = grid.width(1.);
+        const double down = grid.height(1.);
+        // The lines of the window's edges that run through this widget.
+        const QRect inside(-pos(), window()->size());
+        for (const QRectF &line :
+             {QRectF(inside.left(), 0., across, height()),
+              QRectF(grid.x(inside.left() + inside.width()) - across, 0., across, height()),
+              QRectF(0., inside.top(), width(), down),
+              QRectF(0., grid.y(inside.top() + inside.height()) - down, width(), down)})
+            painter.fillRect(line, theme::edge());
+    }
     void mousePressEvent(QMouseEvent *event) override
     {
         QWindow *handle = window()->windowHandle();
@@ -52,14 +81,21 @@ Qt::Edges edgesOfGrip(int index)
 QRect placeOfGrip(int index, QSize window)
 {
     const Qt::Edges edges = edgesOfGrip(index);
-    const bool horizontal = edges & (Qt::LeftEdge | Qt::RightEdge);
-    const bool vertical = edges & (Qt::TopEdge | Qt::BottomEdge);
-    const bool corner = horizontal && vertical;
-    const int width = corner ? cornerLength : horizontal ? thickness : window.width() - 2 * cornerLength;
-    const int height = corner ? thickness : vertical ? thickness : window.height() - 2 * cornerLength;
-    const int x = edges & Qt::LeftEdge ? 0 : edges & Qt::RightEdge ? window.width() - width : cornerLength;
-    const int y = edges & Qt::TopEdge ? 0 : edges & Qt::BottomEdge ? window.height() - height : cornerLength;
-    return {x, y, width, height};
+    const bool besides = edges & (Qt::LeftEdge | Qt::RightEdge);
+    const bool above = edges & (Qt::TopEdge | Qt::BottomEdge);
+    const bool corner = besides && above;
+    const bool upright = corner ? index >= firstUprightCorner : besides;
+    const int length =
+        corner ? cornerLength : (upright ? window.height() : window.width()) - 2 * cornerLength;
+    const QSize size = upright ? QSize(thickness, length) : QSize(length, thickness);
+    // What has no end of its own on an axis stands between the corners there.
+    const int x = edges & Qt::LeftEdge    ? 0
+                  : edges & Qt::RightEdge ? window.width() - size.width()
+                                          : cornerLength;
+    const int y = edges & Qt::TopEdge      ? 0
+                  : edges & Qt::BottomEdge ? window.height() - size.height()
+                                           : cornerLength;
+    return {QPoint(x, y), size};
 }
 
 EdgeGrips::EdgeGrips(QWidget *window)

@@ -191,6 +191,12 @@ void drawOther(GlyphPen &pen, Glyph glyph)
         pen.line({{3.5, 12.}, {16.5, 12.}});
         pen.line({{3.5, 15.5}, {9.5, 15.5}});
         break;
+    case Glyph::Report:
+        // A sheet with its corner folded, and what is written on it.
+        pen.line({{11.5, 3.5}, {5.5, 3.5}, {5.5, 16.5}, {14.5, 16.5}, {14.5, 6.5}, {11.5, 3.5}});
+        pen.line({{8., 9.5}, {12., 9.5}});
+        pen.line({{8., 13.}, {12., 13.}});
+        break;
     case Glyph::ChevronUp:
         pen.line({{5.75, 12.25}, {10., 8.}, {14.25, 12.25}});
         break;

@@ -22,6 +22,7 @@ enum class Glyph
     RepeatList,
     RepeatTrack,
     Lyrics,
+    Report,
     VolumeMuted,
     VolumeLow,
     VolumeMiddle,

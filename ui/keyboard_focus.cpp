@@ -36,16 +36,45 @@ bool KeyboardFocus::isOn(const QWidget *widget)
 
 bool KeyboardFocus::eventFilter(QObject *watched, QEvent *event)
 {
-    const QEvent::Type type = event->type();
-    if ((type != QEvent::FocusIn && type != QEvent::FocusOut) || !watched->isWidgetType())
-        return false;
-    auto *widget = static_cast<QWidget *>(watched);
-    const Qt::FocusReason reason = static_cast<QFocusEvent *>(event)->reason();
-    // A menu, or another window, only borrows the focus: what it leaves comes back as it was.
-    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason)
-        return false;
+    switch (event->type()) {
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+        m_keyWasLast = true;
+        break;
+    case QEvent::MouseButtonPress:
+    case QEvent::TouchBegin:
+        m_keyWasLast = false;
+        break;
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+        if (watched->isWidgetType())
+            follow(static_cast<QWidget *>(watched), *static_cast<QFocusEvent *>(event));
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void KeyboardFocus::follow(QWidget *widget, const QFocusEvent &event)
+{
+    const Qt::FocusReason reason = event.reason();
+    // A menu, or another window, only borrows the focus: what it leaves comes back as it was, unless the
+    // focus has been moved in the meantime.
+    if (reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason) {
+        if (event.lostFocus() || !m_marked || m_marked == widget || m_marked->window() != widget->window())
+            return;
+        mark(m_marked, false);
+        mark(widget, true);
+        m_marked = widget;
+        return;
+    }
     const bool byKey =
         reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason || reason == Qt::ShortcutFocusReason;
-    mark(widget, type == QEvent::FocusIn && byKey);
-    return false;
+    const bool on = event.gotFocus() && byKey && m_keyWasLast;
+    mark(widget, on);
+    if (on)
+        m_marked = widget;
+    else if (m_marked == widget)
+        m_marked.clear();
 }

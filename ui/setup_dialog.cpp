@@ -36,13 +36,14 @@ SetupDialog::SetupDialog(QWidget *parent)
     m_sections->setSpacing(12);
     m_sections->addStretch();
     auto *scroller = new QScrollArea(this);
+    scroller->setObjectName("vesperSetupPage");
     scroller->setWidget(inside);
     scroller->setWidgetResizable(true);
     scroller->setFrameShape(QFrame::NoFrame);
     scroller->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroller->setFocusPolicy(Qt::NoFocus);
     auto *buttons = new QDialogButtonBox(this);
-    buttons->setContentsMargins(24, 0, 24, 16);
+    buttons->setContentsMargins(24, 12, 24, 12);
     QPushButton *close = buttons->addButton(tr("关闭"), QDialogButtonBox::RejectRole);
     close->setDefault(true);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);

@@ -217,7 +217,7 @@ QTabBar::tab:hover { background: #18181E; color: #EDEAE3; }
 QTabBar::tab:selected { background: #1F1F26; border-color: #2C2C35; color: #EDEAE3; }
 QTabBar::tab:disabled { color: #4A4842; }
 QTabBar[keyFocus="true"]::tab:selected { border: 2px solid @ring@; padding: 0 11px; min-height: 22px; }
-QToolTip { background: #18181E; border: 1px solid #2C2C35; color: #EDEAE3; padding: 4px; }
+QToolTip { background: #18181E; border: 1px solid #2C2C35; color: #EDEAE3; padding: 1px 4px; font-size: 12px; }
 QProgressBar { background: #202028; border: none; border-radius: 2px; color: #EDEAE3; text-align: center; }
 QProgressBar::chunk { background: @accent@; border-radius: 2px; }
 QScrollArea, QScrollArea > QWidget > QWidget { background: transparent; border: none; }
@@ -239,10 +239,15 @@ QStringList figureFamilies()
             u"Monospace"_s};
 }
 
-/// Those families as the sheet writes them.
-QString figureType()
+QStringList interfaceFamilies()
 {
-    return u"font-family: \""_s + figureFamilies().join(u"\", \""_s) + u'"';
+    return {u"Inter"_s, u"Noto Sans"_s, eastAsianFamily, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s};
+}
+
+/// Families as the sheet writes them.
+QString typeOf(const QStringList &families)
+{
+    return u"font-family: \""_s + families.join(u"\", \""_s) + u'"';
 }
 
 QString valueText(const QColor &colour)
@@ -285,7 +290,7 @@ QColor namedColour(QStringView name)
 /// The type of the captions that the sheet sets, because their widgets cannot.
 QString captionType()
 {
-    return engravesCaptions ? figureType() + u"; font-size: 11px"_s : u"font-size: 12px"_s;
+    return engravesCaptions ? typeOf(figureFamilies()) + u"; font-size: 11px"_s : u"font-size: 12px"_s;
 }
 
 /// What stands between two "@" of the sheet.
@@ -293,7 +298,9 @@ QString placeText(QStringView name)
 {
     if (name == "caption"_L1)
         return captionType();
-    return name == "figures"_L1 ? figureType() : valueText(namedColour(name));
+    if (name == "words"_L1)
+        return typeOf(interfaceFamilies());
+    return name == "figures"_L1 ? typeOf(figureFamilies()) : valueText(namedColour(name));
 }
 
 } // namespace
@@ -342,7 +349,7 @@ void setFontLanguage(const QString &code)
 QFont interfaceFont(int pixelSize)
 {
     QFont font;
-    font.setFamilies({u"Inter"_s, u"Noto Sans"_s, eastAsianFamily, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s});
+    font.setFamilies(interfaceFamilies());
     font.setPixelSize(pixelSize);
     return font;
 }

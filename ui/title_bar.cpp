@@ -97,6 +97,9 @@ TitleBar::TitleBar(QWidget *parent)
 QLabel *TitleBar::addIndicator(const QString &word)
 {
     QLabel *indicator = label(this, "vesperInd"_L1, u"● "_s + word);
+    // The lamp leads, whatever direction its Latin word has.
+    if (isRightToLeft())
+        indicator->setText(QChar(0x200F) + indicator->text());
     indicator->setFont(figureFont(captionPixels));
     return indicator;
 }

@@ -11,6 +11,13 @@ constexpr QSize leastHold(120, 24);
 
 } // namespace
 
+QRect centredPlace(const QSize &size, const QRect &screen)
+{
+    QRect place(QPoint(), size.boundedTo(screen.size()));
+    place.moveCenter(screen.center());
+    return place;
+}
+
 QRect reachablePlace(const QRect &wanted, const QList<QRect> &screens)
 {
     const QRect titleBar(wanted.topLeft(), QSize(wanted.width(), areas::titleBar));
@@ -20,8 +27,5 @@ QRect reachablePlace(const QRect &wanted, const QList<QRect> &screens)
     });
     if (reachable)
         return wanted;
-    const QRect &primary = screens.first();
-    QRect place(QPoint(), wanted.size().boundedTo(primary.size()));
-    place.moveCenter(primary.center());
-    return place;
+    return centredPlace(wanted.size(), screens.first());
 }

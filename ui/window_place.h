@@ -5,6 +5,9 @@
 #include <QList>
 #include <QRect>
 
+/// That size, or as much of it as fits, in the middle of a screen's usable area.
+QRect centredPlace(const QSize &size, const QRect &screen);
+
 /// A place in which the title bar can be reached.
 /// \param wanted the remembered place
 /// \param screens the usable areas of the screens, the primary one first; at least one

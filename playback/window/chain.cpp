@@ -86,7 +86,18 @@ void PlayerGuiWindow::showChainBlock()
     m_signal.chainReport = std::exchange(m_lines.chain.chainBuffer, {});
     if (m_chain.reportDialog && m_chain.reportDialog->isVisible())
         m_chain.reportDialog->append(m_signal.chainReport);
-    m_ui.report->setEnabled(true);
+    offerReport(true);
+}
+
+void PlayerGuiWindow::offerReport(bool on)
+{
+    const bool focused = focusWidget() == m_ui.report;
+    m_ui.report->setEnabled(on);
+    // A disabled button hands its focus on to its neighbour, where the next key would do something else.
+    if (focused && !on)
+        m_chain.focusFromReport = focusWidget();
+    else if (on && std::exchange(m_chain.focusFromReport, nullptr) == focusWidget() && focusWidget())
+        m_ui.report->setFocus(Qt::TabFocusReason);
 }
 
 void PlayerGuiWindow::openChainReport()
@@ -104,8 +115,8 @@ void PlayerGuiWindow::openChainReport()
             m_chain.reportDialog->append(m_signal.chainReport);
         return;
     }
-    m_ui.report->setEnabled(false);
-    QTimer::singleShot(reportWaitMs, this, [this] { m_ui.report->setEnabled(true); });
+    offerReport(false);
+    QTimer::singleShot(reportWaitMs, this, [this] { offerReport(true); });
     sendCmd(u"report"_s);
 }
 

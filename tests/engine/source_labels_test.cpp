@@ -1,5 +1,7 @@
 #include "engine/source_labels.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,30 @@ TEST(SourceLabels, Pcm)
     EXPECT_EQ(labels.channels, u"2 声道"_s);
     EXPECT_EQ(labels.bitrate, u"1.41 Mbps"_s);
     EXPECT_EQ(labels.ledBits, 16);
+}
+
+class RightToLeft final : public QTranslator
+{
+public:
+    QString translate(const char *, const char *source, const char *, int) const override
+    {
+        return QByteArray(source).contains("%4") ? u"الصوت: %1 · %2 بت · القنوات: %3 · %4 ث"_s : QString();
+    }
+    bool isEmpty() const override { return false; }
+};
+
+TEST(SourceLabels, EachValueStaysAPieceOfItsOwnFromRightToLeft)
+{
+    int count = 1;
+    char name[] = "test";
+    char *arguments[] = {name, nullptr};
+    const QCoreApplication application(count, arguments);
+    RightToLeft words;
+    ASSERT_TRUE(QCoreApplication::installTranslator(&words));
+    const QString info = sourceLabels(pcm(44100, 16, 2)).info;
+    QCoreApplication::removeTranslator(&words);
+    EXPECT_EQ(info, u"الصوت: \u2068PCM 44100 Hz\u2069 · \u206816\u2069 بت · القنوات: \u20682\u2069 · "
+                    "\u206861.3\u2069 ث"_s);
 }
 
 TEST(SourceLabels, DsdNamesByRate)

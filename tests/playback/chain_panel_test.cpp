@@ -47,6 +47,27 @@ protected:
     ChainPanel m_panel;
 };
 
+TEST(ChainPanelMirrored, ValuesStayPiecesOfTheirOwn)
+{
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QGuiApplication::setLayoutDirection(direction);
+        ChainPanel panel;
+        panel.showRows({{u"延时"_s, u"46.4 ms"_s, false}});
+        ChainCardTexts cards;
+        cards.sampleRate = u"96000 Hz"_s;
+        cards.channels = u"القنوات: 2"_s;
+        panel.showCards(cards);
+        const bool mirrored = direction == Qt::RightToLeft;
+        EXPECT_EQ(panel.findChild<QLabel *>(u"vesperChainRow"_s)->text().contains(u"\u206846.4 ms\u2069"_s),
+                  mirrored);
+        const QList<QLabel *> values = panel.findChildren<QLabel *>(u"vesperCardVal"_s);
+        EXPECT_FALSE(values.at(1)->property("words").toBool());
+        EXPECT_TRUE(values.at(2)->property("words").toBool())
+            << "letters that join up are not set as figures";
+    }
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+}
+
 TEST_F(ChainPanelTest, RowsHaveTheirFormAndTheirProperty)
 {
     m_panel.showRows(threeRows);

@@ -127,6 +127,28 @@ TEST_F(Looks, ASelectedRowIsRaised)
     EXPECT_EQ(picture().pixelColor(150, rowRect(1).center().y()), QColor(0x1F, 0x1F, 0x26));
 }
 
+TEST_F(Looks, TheRowThatKeysLedToHasARing)
+{
+    QStyleOptionViewItem option;
+    option.rect = QRect(0, 0, 300, 32);
+    option.widget = &m_list;
+    const auto edgeOf = [&](QStyle::State state) {
+        option.state = state;
+        QImage image(300, 32, QImage::Format_RGB32);
+        image.fill(m_well);
+        QPainter painter(&image);
+        m_list.itemDelegate()->paint(&painter, option, m_list.model()->index(0, 0));
+        painter.end();
+        return image.pixelColor(150, 1);
+    };
+    const QColor ring = PlaylistColours().ring;
+    EXPECT_NE(edgeOf(QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_Selected), ring);
+    m_list.setProperty("keyFocus", true);
+    EXPECT_EQ(edgeOf(QStyle::State_Enabled | QStyle::State_HasFocus | QStyle::State_Selected), ring);
+    EXPECT_EQ(edgeOf(QStyle::State_Enabled | QStyle::State_HasFocus), ring);
+    EXPECT_NE(edgeOf(QStyle::State_Enabled | QStyle::State_Selected), ring) << "another row";
+}
+
 TEST_F(Looks, InTheLightLookThePlayingRowStandsOnADarkPlate)
 {
     auto *delegate = qobject_cast<PlaylistDelegate *>(m_list.itemDelegate());

@@ -14,6 +14,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A language that runs from right to left, for a while.
+class Mirrored
+{
+public:
+    Mirrored() { QGuiApplication::setLayoutDirection(Qt::RightToLeft); }
+    ~Mirrored() { QGuiApplication::setLayoutDirection(Qt::LeftToRight); }
+};
+
+TEST(SelfCheckDialogTest, GrowsWhereItsWordsNeedMoreRoom)
+{
+    SelfCheckDialog dialog;
+    dialog.setStyleSheet(u"QLabel { font-size: 17px; }"_s);
+    dialog.begin(
+        u"A long title that has to give way to the verdict beside it, and does it by a second line"_s);
+    dialog.show();
+    const VerifyItem item{u"delivery"_s, QString(u"not known: "_s + QString(120, u'x')), false};
+    dialog.showVerdict({u"BITPERFECT=0 | delivery"_s, u"BITPERFECT=0"_s, false}, {item});
+    QCoreApplication::sendPostedEvents();
+    QCoreApplication::processEvents();
+    for (const QLabel *label : dialog.findChildren<QLabel *>()) {
+        if (label->isVisible() && label->wordWrap()) {
+            EXPECT_GE(label->height(), label->heightForWidth(label->width()))
+                << label->objectName().toStdString();
+        }
+    }
+}
+
+TEST(SelfCheckDialogTest, EvidenceStandsAtTheInterfacesLeadingEdge)
+{
+    const Mirrored mirrored;
+    const SelfCheckDialog dialog;
+    for (const QLabel *label : dialog.findChildren<QLabel *>(u"vesperCheckEvidence"_s))
+        EXPECT_EQ(label->alignment() & Qt::AlignHorizontal_Mask, Qt::AlignRight | Qt::AlignAbsolute);
+}
+
 TEST(SelfCheckDialogTest, RunsThroughACheck)
 {
     SelfCheckDialog dialog;

@@ -198,6 +198,7 @@ protected:
         row->addWidget(&m_second);
         m_window.show();
         QApplication::setActiveWindow(&m_window);
+        QTest::keyClick(&m_window, Qt::Key_Shift);
     }
     void TearDown() override
     {
@@ -234,6 +235,44 @@ TEST_F(KeyboardFocusRing, OutlivesAMenuThatBorrowsTheFocus)
         QFocusEvent in(QEvent::FocusIn, reason);
         QCoreApplication::sendEvent(&m_first, &in);
         EXPECT_TRUE(KeyboardFocus::isOn(&m_first));
+    }
+}
+
+TEST_F(KeyboardFocusRing, IsNotThereWhereTheMouseMadeTheToolkitMoveTheFocus)
+{
+    m_first.setFocus(Qt::OtherFocusReason);
+    QTest::mouseClick(&m_second, Qt::LeftButton);
+    m_first.setFocus(Qt::OtherFocusReason);
+    m_second.setFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(KeyboardFocus::isOn(&m_second));
+    QTest::keyClick(&m_second, Qt::Key_Backtab);
+    EXPECT_TRUE(KeyboardFocus::isOn(&m_first)) << "a key again";
+}
+
+TEST_F(KeyboardFocusRing, GoesWithAFocusThatWasMovedWhileTheWindowWasAway)
+{
+    m_second.setFocus(Qt::OtherFocusReason);
+    m_first.setFocus(Qt::TabFocusReason);
+    ASSERT_TRUE(KeyboardFocus::isOn(&m_first));
+    QFocusEvent out(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&m_first, &out);
+    QFocusEvent in(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QCoreApplication::sendEvent(&m_second, &in);
+    EXPECT_TRUE(KeyboardFocus::isOn(&m_second));
+    EXPECT_FALSE(KeyboardFocus::isOn(&m_first));
+}
+
+TEST_F(PaintedTest, NoTwoSignsAreAlike)
+{
+    QList<QImage> pictures;
+    for (int i = 0; i <= static_cast<int>(Glyph::SliderCapLine); ++i) {
+        QImage picture(40, 40, QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::black);
+        QPainter painter(&picture);
+        drawGlyph(painter, static_cast<Glyph>(i), QRectF(0., 0., 40., 40.), Qt::white);
+        painter.end();
+        EXPECT_FALSE(pictures.contains(picture)) << i;
+        pictures.append(picture);
     }
 }
 

@@ -5,6 +5,8 @@
 #include "playback/report_dialog.h"
 #include "playback/self_check_dialog.h"
 #include "ui/dock_bar.h"
+#include "ui/light_look.h"
+#include "ui/theme.h"
 
 #include <QFile>
 #include <QListWidget>
@@ -83,6 +85,29 @@ protected:
 };
 
 const QStringList idleCards = {u"— kbps"_s, u"— Hz"_s, u"—"_s, u"—"_s};
+
+TEST_F(ChainWindow, SignsCanBeReadInTheLightLook)
+{
+    m_window->setThemeIndex(1);
+    play();
+    QStringList warned = cleanBlock;
+    warned[8] = u"underruns: 12"_s;
+    say({u"SRC 44100 16 2 wav 0 60.0"_s});
+    say(warned);
+    m_window->startBitPerfectCheck();
+    say({u"verify: source ok -- FLAC"_s, u"verify: volume FAIL -- scaled"_s,
+         u"verify: verdict BITPERFECT=0 | volume"_s});
+    QList<QLabel *> signs = chain().verifyDialog->findChildren<QLabel *>(u"vesperCheckMark"_s);
+    signs += m_window->findChildren<QLabel *>(u"vesperChainWarnings"_s);
+    ASSERT_EQ(signs.size(), 4);
+    for (QLabel *sign : signs) {
+        sign->ensurePolished();
+        const QColor ink = sign->palette().color(QPalette::WindowText);
+        EXPECT_GE(contrastRatio(ink.rgb() & 0xFFFFFF, theme::chassis().rgb() & 0xFFFFFF), 4.5)
+            << sign->objectName().toStdString() << " " << ink.name().toStdString();
+    }
+    m_window->setThemeIndex(0);
+}
 
 TEST_F(ChainWindow, ThePanelIsBuiltFromTheLabels)
 {

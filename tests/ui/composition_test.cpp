@@ -17,6 +17,7 @@
 #include "ui/theme.h"
 #include "ui/title_bar.h"
 #include "ui/tools_menu.h"
+#include "ui/window_place.h"
 
 #include "tests/support/patience.h"
 
@@ -216,8 +217,11 @@ TEST_F(Composition, ResetLayoutForgetsSizeAndWidth)
 {
     show({1500, 900});
     m_window->setSideWidth(300, false);
+    m_window->move(3, 5);
     writeUserSetting(settings::geometry, m_window->saveGeometry());
     m_window->resetLayout();
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    EXPECT_EQ(m_window->pos(), centredPlace(QSize(1280, 860), screen).topLeft());
     EXPECT_EQ(readUserSetting(settings::sideWidth), 240);
     EXPECT_TRUE(readUserSetting(settings::geometry).isEmpty());
     EXPECT_EQ(m_window->size(), QSize(1280, 860));
@@ -472,6 +476,8 @@ TEST_F(Composition, AreasAreMirroredAndInstrumentsAreNot)
     EXPECT_LT(x(ui().side), x(ui().centre));
     EXPECT_GT(x(ui().title->brand), x(ui().title->windowButtons().first()));
     EXPECT_GT(x(ui().stage), x(ui().display));
+    for (const QLabel *lamp : m_window->findChildren<QLabel *>(u"vesperIndOn"_s))
+        EXPECT_TRUE(lamp->text().isRightToLeft()) << "the lamp leads its word";
     EXPECT_LT(x(ui().dock->tools), x(ui().dock->start));
     EXPECT_LT(x(ui().dock->previous), x(ui().dock->start)) << "time runs from left to right";
     EXPECT_LT(x(ui().dock->start), x(ui().dock->next));

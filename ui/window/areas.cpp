@@ -96,7 +96,9 @@ void PlayerGuiWindow::resetLayout()
     store.remove(settings::geometry.key);
     if (isMaximized())
         showNormal();
+    // Its place belongs to the layout as well.
     resize(initialSize);
+    move(centredPlace(size(), screen()->availableGeometry()).topLeft());
     applyAreaPlan();
     logLine(tr("布局已重置(窗口大小/位置/侧栏宽度)"));
 }

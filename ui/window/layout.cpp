@@ -125,7 +125,7 @@ QWidget *PlayerGuiWindow::buildSide()
     rows->addSpacing(4);
     m_ui.selfCheck = new QPushButton(tr("位完美自检"), side);
     m_ui.selfCheck->setToolTip(tr("逐项检查现在的播放有没有改动样本"));
-    m_ui.report = new IconButton(Glyph::Lyrics, tr("信号链报告…"), side);
+    m_ui.report = new IconButton(Glyph::Report, tr("信号链报告…"), side);
     m_ui.report->setFixedSize(reportButton);
     m_ui.report->setToolTip(tr("显示引擎自己对信号链的报告，可以保存"));
     auto *checks = new QHBoxLayout;

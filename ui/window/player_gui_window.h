@@ -157,6 +157,8 @@ public:
     void showChainBlock();
     /// Opens the report dialog and asks the engine for a report.
     void openChainReport();
+    /// Lets the report be asked for, or not while one is on its way.
+    void offerReport(bool on);
     void saveChainReport();
     void startBitPerfectCheck();
     void onVerifyLine(const QString &text);

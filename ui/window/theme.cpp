@@ -46,6 +46,7 @@ PlaylistColours playlistColours()
     colours.hover = theme::raised();
     colours.selected = theme::raisedHover();
     colours.focus = theme::edge();
+    colours.ring = theme::focusRing();
     if (!theme::lightTheme) {
         colours.playingPlate = theme::wash();
         colours.playingHover = theme::strongWash();
