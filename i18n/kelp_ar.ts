@@ -1822,6 +1822,18 @@
         <source>显示</source>
         <translation>العرض</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>أُفرغت القائمة أثناء سرد المقاطع ⇒ لن تُضاف: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>انتهى المقطع السابق لحظةَ اختيار مقطع آخر ⇒ لا يُعدّ ذلك نهاية المقطع المختار</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>تم التخطي (في المسار فاصل أسطر لا يمكن لسطر تحكّم أن يحمله): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

@@ -1822,6 +1822,18 @@ Die rechte Spalte sagt, was die Samples durchlaufen. Nur wenn zurückgelesen wur
         <source>显示</source>
         <translation>Anzeige</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>Die Liste wurde geleert, während Titel aufgelistet wurden ⇒ sie werden nicht hinzugefügt: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>Der vorige Titel endete gerade, als ein anderer gewählt wurde ⇒ das ist nicht das Ende des gewählten</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Wird übersprungen (im Pfad steht ein Zeilenumbruch, den keine Steuerzeile tragen kann): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

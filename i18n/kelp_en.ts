@@ -1822,6 +1822,18 @@ The right column tells what the samples go through. Only when what the device re
         <source>显示</source>
         <translation>Display</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>The list was cleared while tracks were being listed ⇒ these are not added: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>The previous track ended just as another one was chosen ⇒ this is not the end of the chosen one</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Skipping (its path holds a line break, which no control line can carry): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

@@ -1822,6 +1822,18 @@ La columna derecha dice por dónde pasan las muestras. Solo dice “entrega veri
         <source>显示</source>
         <translation>Pantalla</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>La lista se vació mientras se enumeraban las pistas ⇒ no se añaden: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>La pista anterior terminó justo al elegirse otra ⇒ no es el final de la elegida</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Se omite (su ruta contiene un salto de línea, que ninguna línea de control puede llevar): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

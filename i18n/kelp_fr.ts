@@ -1822,6 +1822,18 @@ La colonne de droite dit ce que traversent les échantillons. Elle ne dit “tra
         <source>显示</source>
         <translation>Affichage</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>La liste a été vidée pendant l’énumération des pistes ⇒ elles ne sont pas ajoutées : %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>La piste précédente s’est terminée juste au moment où une autre était choisie ⇒ ce n’est pas la fin de la piste choisie</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Ignoré (son chemin contient un saut de ligne, qu’aucune ligne de commande ne peut porter) : %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

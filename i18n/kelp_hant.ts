@@ -1822,6 +1822,18 @@
         <source>显示</source>
         <translation>顯示</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>清單在列出分軌時被清空 ⇒ 不再加入: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>上一首恰好在換曲時放完 ⇒ 不算作新選這一首的結束</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>跳過（路徑裡有換行，控制行裝不下它）: %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

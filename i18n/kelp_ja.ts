@@ -1822,6 +1822,18 @@
         <source>显示</source>
         <translation>表示</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>トラックの列挙中にリストが消去されました ⇒ 追加しません: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>曲を切り替えた瞬間に前の曲が終わりました ⇒ 選んだ曲の終わりとはみなしません</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>スキップします（パスに改行があり、制御行では渡せません）: %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

@@ -1822,6 +1822,18 @@
         <source>显示</source>
         <translation>디스플레이</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>트랙을 나열하는 동안 목록이 비워졌습니다 ⇒ 추가하지 않습니다: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>곡을 바꾸는 순간 이전 곡이 끝났습니다 ⇒ 새로 고른 곡의 끝으로 보지 않습니다</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>건너뜀(경로에 줄바꿈이 있어 제어 줄로 보낼 수 없음): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

@@ -1822,6 +1822,18 @@ Prawa kolumna mówi, przez co przechodzą próbki. Dopiero gdy odczytano zwrotni
         <source>显示</source>
         <translation>Wyświetlanie</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>Listę wyczyszczono w trakcie wyliczania utworów ⇒ nie zostaną dodane: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>Poprzedni utwór skończył się właśnie wtedy, gdy wybrano inny ⇒ nie jest to koniec wybranego</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Pominięto (ścieżka zawiera znak końca wiersza, którego wiersz sterujący nie przeniesie): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

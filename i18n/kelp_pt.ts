@@ -1822,6 +1822,18 @@ A coluna da direita diz por onde passam as amostras. Só quando o que o disposit
         <source>显示</source>
         <translation>Exibição</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>A lista foi esvaziada enquanto as faixas eram listadas ⇒ elas não são adicionadas: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>A faixa anterior terminou justamente quando outra foi escolhida ⇒ não é o fim da escolhida</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Ignorado (o caminho contém uma quebra de linha, que nenhuma linha de controle pode levar): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

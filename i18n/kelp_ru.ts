@@ -1822,6 +1822,18 @@
         <source>显示</source>
         <translation>Отображение</translation>
     </message>
+    <message>
+        <source>列表在列出分轨时被清空 ⇒ 不再加入: %1</source>
+        <translation>Список был очищен, пока составлялся перечень дорожек ⇒ они не добавляются: %1</translation>
+    </message>
+    <message>
+        <source>上一首恰好在换曲时放完 ⇒ 不算作新选这一首的结束</source>
+        <translation>Предыдущая дорожка закончилась как раз при выборе другой ⇒ это не конец выбранной</translation>
+    </message>
+    <message>
+        <source>跳过（路径里有换行，控制行装不下它）: %1</source>
+        <translation>Пропуск (в пути есть перевод строки, который управляющая строка не передаст): %1</translation>
+    </message>
 </context>
 <context>
     <name>PlaylistChange</name>

@@ -59,7 +59,7 @@ struct PreloadTakenFacts
     double totalSec = 0.;
     double loopFromSec = -1.; ///< point A of the loop that plays, -1 without one
 };
-/// The position has run backward, by more than a loop's jump,, or the total has changed at the beginning of a
+/// The position has run backward, by more than a loop's jump, or the total has changed at the beginning of a
 /// track.
 bool preloadTaken(const PreloadTakenFacts &facts);
 
