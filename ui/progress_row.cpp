@@ -46,7 +46,7 @@ QPushButton *ProgressRow::addPoint(const QString &letter, const QString &tip)
     auto *button = new QPushButton(letter, this);
     button->setObjectName("vesperPoint"_L1);
     button->setCheckable(true);
-    button->setFont(figureFont(figurePixels - 1));
+    button->setFont(figureFont(figurePixels));
     button->setFixedSize(pointSize);
     button->setToolTip(tip);
     button->setAccessibleDescription(tip);

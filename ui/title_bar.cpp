@@ -15,7 +15,7 @@ namespace {
 constexpr int captionPixels = 11;
 constexpr int brandHeight = 28;
 constexpr int brandPixels = 12;
-constexpr int clockPixels = 13;
+constexpr int clockPixels = 12;
 constexpr int secondMs = 1000;
 constexpr QSize ruleSize(1, 24);
 
