@@ -15,6 +15,7 @@ constexpr int leastPort = 1;
 constexpr int mostPort = 65535;
 constexpr int controlHeight = 30;
 constexpr int gap = 8;
+constexpr std::chrono::milliseconds lookAgain{2000};
 
 } // namespace
 
@@ -59,6 +60,8 @@ RemoteControls::RemoteControls(QWidget *parent)
     rows->addWidget(addresses);
     showOff();
     connect(enable, &QCheckBox::toggled, this, &RemoteControls::switched);
+    m_lookAgain.setInterval(lookAgain);
+    connect(&m_lookAgain, &QTimer::timeout, this, &RemoteControls::addressesWanted);
 }
 
 void RemoteControls::showSwitch(bool on)
@@ -80,6 +83,19 @@ void RemoteControls::showListening(const QStringList &urls)
     addresses->setText(urls.isEmpty()
                            ? tr("本机没有局域网 IPv4 地址")
                            : tr("用手机浏览器打开（手机与电脑在同一 Wi-Fi）：\n%1").arg(urls.join(u'\n')));
+}
+
+void RemoteControls::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    m_lookAgain.start();
+    Q_EMIT addressesWanted();
+}
+
+void RemoteControls::hideEvent(QHideEvent *event)
+{
+    QWidget::hideEvent(event);
+    m_lookAgain.stop();
 }
 
 void RemoteControls::showOff()

@@ -2,6 +2,7 @@
 /// The switch of the phone remote, its port and the addresses to open.
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 class QCheckBox;
@@ -32,4 +33,14 @@ public:
 Q_SIGNALS:
     /// The user turned the switch.
     void switched(bool on);
+    /// The addresses are in view: they may have changed with the network. Comes at once and then again while
+    /// they are.
+    void addressesWanted();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+    void hideEvent(QHideEvent *event) override;
+
+private:
+    QTimer m_lookAgain; ///< runs while this is shown
 };

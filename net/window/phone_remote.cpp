@@ -63,9 +63,15 @@ void PlayerGuiWindow::showRemote()
     m_ui.remote->showPort(m_remote.remotePort);
     m_ui.remote->showSwitch(m_remote.remoteEnabled);
     if (m_remote.remoteEnabled)
-        m_ui.remote->showListening(remoteAddresses());
+        showRemoteAddresses();
     else
         m_ui.remote->showOff();
+}
+
+void PlayerGuiWindow::showRemoteAddresses()
+{
+    if (m_remote.remoteEnabled)
+        m_ui.remote->showListening(remoteAddresses());
 }
 
 void PlayerGuiWindow::setRemoteEnabled(bool on)

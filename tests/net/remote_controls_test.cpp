@@ -20,6 +20,18 @@ TEST(RemoteSwitch, TellsWhatTheUserDoesAndNotWhatIsShown)
     EXPECT_FALSE(told.first().first().toBool());
 }
 
+TEST(RemoteSwitch, AsksForTheAddressesWhileTheyAreInView)
+{
+    RemoteControls controls;
+    QSignalSpy wanted(&controls, &RemoteControls::addressesWanted);
+    controls.show();
+    EXPECT_EQ(wanted.count(), 1) << "at once";
+    EXPECT_TRUE(wanted.wait(20'000)) << "and again";
+    controls.hide();
+    controls.show();
+    EXPECT_EQ(wanted.count(), 3);
+}
+
 TEST(RemoteSwitch, ANumberThatIsNoPortStandsForTheUsualOne)
 {
     RemoteControls controls;

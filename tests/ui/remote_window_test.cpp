@@ -109,6 +109,26 @@ TEST_F(PhoneRemote, TheStoredSwitchTurnsItOnAtTheStart)
     EXPECT_EQ(fetch(u"/hello"_s).second, QByteArray(R"({"name":"Kelp Player","needToken":true})"));
 }
 
+TEST_F(PhoneRemote, TheAddressesAreThoseOfTheMomentTheyAreLookedAt)
+{
+    makeListening(0);
+    const QString now = controls().addresses->text();
+    // Switched on before the network was there.
+    controls().showListening({});
+    const QString before = controls().addresses->text();
+    m_window->openSetup();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return controls().isVisible(); }, patienceMs));
+    EXPECT_EQ(controls().addresses->text(), now);
+    EXPECT_EQ(now == before, m_window->remoteAddresses().isEmpty());
+    // A port that is being typed stays while the remote is off.
+    controls().enable->click();
+    controls().port->setValue(m_port == 4321 ? 4322 : 4321);
+    const int typed = controls().port->value();
+    Q_EMIT controls().addressesWanted();
+    EXPECT_EQ(controls().port->value(), typed);
+    EXPECT_EQ(controls().addresses->text(), u"手机遥控：已关闭"_s);
+}
+
 TEST_F(PhoneRemote, TheSwitchStoresItsPortAndItself)
 {
     makeWindow();

@@ -34,6 +34,7 @@ void PlayerGuiWindow::buildSetup()
     connect(this, &PlayerGuiWindow::sleepTimerShown, m_ui.sleep, &SleepControls::showTimer);
     showPlayModes();
     connect(m_ui.remote, &RemoteControls::switched, this, &PlayerGuiWindow::switchRemote);
+    connect(m_ui.remote, &RemoteControls::addressesWanted, this, &PlayerGuiWindow::showRemoteAddresses);
     showRemote();
 }
 

@@ -429,6 +429,8 @@ private:
 
     // ── net/window ──
     void switchRemote(bool on);
+    /// As they are now, while the phone remote listens.
+    void showRemoteAddresses();
     bool startRemote();
     /// What is known of the file without reading it: /library asks for a thousand at once.
     RemoteTags remoteTags(const QString &path) const;
