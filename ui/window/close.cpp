@@ -56,7 +56,6 @@ void PlayerGuiWindow::closeEvent(QCloseEvent *event)
     writeUserSetting(settings::geometry, saveGeometry());
     logGeometry(u"closed"_s);
     killProc(false);
-    saveLastPlayed();
     // Whoever sees the window gone may end the rest by force.
     userSettingsFile().flush();
     event->accept();

@@ -76,6 +76,9 @@ TEST_P(SacdFile, GivesBackTheBitsOfEveryTrack)
         EXPECT_EQ(facts.formatWord, "dsd");
         EXPECT_EQ(facts.format.rateHz, 2822400);
         EXPECT_EQ(facts.format.channels, GetParam().channels);
+        EXPECT_EQ(facts.format.speakers, GetParam().channels == 6   ? 0x3Fu
+                                         : GetParam().channels == 5 ? 0x37u
+                                                                    : 0u);
         EXPECT_EQ(facts.dst, GetParam().form == SacdForm::dstCoded || GetParam().form == SacdForm::dstStored);
         EXPECT_EQ(facts.totalFrames, static_cast<int64_t>(framesOfATrack * frameBytes));
         EXPECT_EQ(facts.firstFrame, static_cast<int64_t>((track - 1) * framesOfATrack) * 4704);
