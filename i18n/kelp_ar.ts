@@ -1484,19 +1484,19 @@
     </message>
     <message>
         <source>位完美自检：没有播放会话 —— 请先开始播放（没有音频流就无从判断）</source>
-        <translation>الفحص الذاتي للمطابقة بتًّا ببت: لا توجد جلسة تشغيل — ابدأ التشغيل أولًا (لا شيء يُحكم عليه دون دفق صوتي)</translation>
+        <translation>فحص سلامة البتات: لا توجد جلسة تشغيل — ابدأ التشغيل أولًا (لا شيء يُحكم عليه دون دفق صوتي)</translation>
     </message>
     <message>
         <source>位完美自检：已请引擎逐项检查</source>
-        <translation>الفحص الذاتي للمطابقة بتًّا ببت: طُلب من المحرك الفحص بندًا بندًا</translation>
+        <translation>فحص سلامة البتات: طُلب من المحرك الفحص بندًا بندًا</translation>
     </message>
     <message>
         <source>位完美自检的结论：%1</source>
-        <translation>حكم الفحص الذاتي للمطابقة بتًّا ببت: %1</translation>
+        <translation>حكم فحص سلامة البتات: %1</translation>
     </message>
     <message>
         <source>已恢复纯净默认（效果全关 / 1.0x / 无交叉淡化 / 音量 100 / 布局与主题复位），并已开始位完美自检</source>
-        <translation>استُعيدت الإعدادات النقية (كل المؤثرات معطّلة / 1.0x / بلا تلاشٍ متقاطع / مستوى الصوت 100 / أُعيد ضبط التخطيط والسمة) وبدأ الفحص الذاتي للمطابقة بتًّا ببت</translation>
+        <translation>استُعيدت الإعدادات النقية (كل المؤثرات معطّلة / 1.0x / بلا تلاشٍ متقاطع / مستوى الصوت 100 / أُعيد ضبط التخطيط والسمة) وبدأ فحص سلامة البتات</translation>
     </message>
     <message>
         <source>播放顺序: %1</source>
@@ -1727,7 +1727,7 @@
 
 ## المطابقة بتًّا ببت
 
-يبيّن عمود سلسلة الإشارة ما تمر به العينات. ولا يظهر فيه “تم التحقق من التسليم” إلا إذا قُرئ من الجهاز ما تلقّاه. أما “الفحص الذاتي للمطابقة بتًّا ببت” فيفحص كل مرحلة.
+يبيّن عمود سلسلة الإشارة ما تمر به العينات. ولا يظهر فيه “تم التحقق من التسليم” إلا إذا قُرئ من الجهاز ما تلقّاه. أما “فحص سلامة البتات” فيفحص كل مرحلة.
 </translation>
     </message>
     <message>
@@ -1752,7 +1752,7 @@
     </message>
     <message>
         <source>位完美自检</source>
-        <translation>الفحص الذاتي للمطابقة بتًّا ببت</translation>
+        <translation>فحص سلامة البتات</translation>
     </message>
     <message>
         <source>逐项检查现在的播放有没有改动样本</source>
@@ -2163,7 +2163,7 @@
     </message>
     <message>
         <source>位完美自检</source>
-        <translation>الفحص الذاتي للمطابقة بتًّا ببت</translation>
+        <translation>فحص سلامة البتات</translation>
     </message>
     <message>
         <source>引擎逐个检查正在播放的这条链路：源、解码、重采样、效果、变速、音量、淡化、峰值保护、位深、混音器、设备读回和欠载。判断只看各环节此刻的实际状态，不看设置；无法证明的不算通过。</source>
@@ -2187,7 +2187,7 @@
     </message>
     <message>
         <source>位完美自检 — %1</source>
-        <translation>الفحص الذاتي للمطابقة بتًّا ببت — %1</translation>
+        <translation>فحص سلامة البتات — %1</translation>
     </message>
     <message>
         <source>通过</source>
@@ -2263,7 +2263,7 @@
     </message>
     <message>
         <source>%1 声道</source>
-        <translation>القنوات: %1</translation>
+        <translation>%1 قناة</translation>
     </message>
 </context>
 <context>

@@ -1,10 +1,12 @@
 // The end of the window.
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
+#include "tests/support/settings_on_disk.h"
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
 #include "platform/settings_table.h"
+#include "tests/support/settings_on_disk.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -121,5 +123,5 @@ TEST_F(Close, ATrackStartedAMomentAgoIsTheLastPlayed)
     m_window->startPlayback(1);
     const QString path = fileAt(1);
     EXPECT_TRUE(m_window->close());
-    EXPECT_EQ(SettingsStore().value(QString(settings::lastPlayed.key)).toString(), path);
+    EXPECT_EQ(SettingsOnDisk().value(QString(settings::lastPlayed.key)).toString(), path);
 }
