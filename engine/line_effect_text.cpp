@@ -100,6 +100,7 @@ struct Describe
     QString operator()(const line_effect::UpdatePercent &e) const { return u"percent %1"_s.arg(e.percent); }
     QString operator()(const line_effect::ChangeSegment &e) const { return u"segment %1"_s.arg(e.number); }
     QString operator()(const line_effect::FinishTrack &) const { return u"track is done"_s; }
+    QString operator()(const line_effect::FailTrack &) const { return u"track has failed"_s; }
     QString operator()(const line_effect::ForgetDeviceTrouble &) const { return u"device opened"_s; }
     QString operator()(const line_effect::NoteBusyDevice &) const { return u"device is busy"_s; }
     QString operator()(const line_effect::NoteMissingDevice &) const { return u"device is missing"_s; }

@@ -132,6 +132,11 @@ struct FinishTrack
 {
     QString file; ///< as the engine names it
 };
+/// A track cannot be played, or not to its end; the engine stays up and says the reason and the path.
+struct FailTrack
+{
+    QString text; ///< the whole line
+};
 /// A device opened: what was known of a busy or missing one is void.
 struct ForgetDeviceTrouble
 {
@@ -156,7 +161,7 @@ using LineEffect =
                  line_effect::ClearScope, line_effect::ClearSpectrum, line_effect::ShowScope,
                  line_effect::ShowSpectrumZones, line_effect::ShowSpectrum, line_effect::SetEffectsPath,
                  line_effect::ReceiveProgress, line_effect::UpdatePercent, line_effect::ChangeSegment,
-                 line_effect::FinishTrack, line_effect::ForgetDeviceTrouble, line_effect::NoteBusyDevice,
-                 line_effect::NoteMissingDevice>;
+                 line_effect::FinishTrack, line_effect::FailTrack, line_effect::ForgetDeviceTrouble,
+                 line_effect::NoteBusyDevice, line_effect::NoteMissingDevice>;
 
 using LineEffects = std::vector<LineEffect>;

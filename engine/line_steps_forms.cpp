@@ -182,7 +182,10 @@ Next readPlainText(Reading &line)
                                "device '"_L1}))
             line.add(line_effect::NoteMissingDevice{});
     }
-    line.add(line_effect::LogLine{line.text});
+    const bool failed = bare.startsWith("FAILED "_L1);
+    line.add(line_effect::LogLine{line.text, failed});
+    if (failed)
+        line.add(line_effect::FailTrack{bare.toString()});
     return Next::End;
 }
 

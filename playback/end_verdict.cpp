@@ -1,6 +1,7 @@
 #include "playback/end_verdict.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -84,4 +85,14 @@ SessionEndVerdict sessionEndVerdict(const SessionEndFacts &facts)
     SessionEndVerdict verdict = plainVerdict(facts);
     verdict.ignoreTimePassed = facts.ignoreDoneUntilMs > 0;
     return verdict;
+}
+
+bool namesRow(QStringView failedLine, const PlaylistEntry &entry)
+{
+    for (const QString &path : {entry.path, entry.cuePath, entry.isoPath}) {
+        if (!path.isEmpty() &&
+            (failedLine.endsWith(u": " + path) || failedLine.endsWith(u": " + QFileInfo(path).fileName())))
+            return true;
+    }
+    return false;
 }

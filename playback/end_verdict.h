@@ -2,6 +2,8 @@
 /// What the end of a session means, and what follows from it.
 #pragma once
 
+#include "playback/playlist_entry.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -51,3 +53,7 @@ struct SessionEndVerdict
 };
 
 SessionEndVerdict sessionEndVerdict(const SessionEndFacts &facts);
+
+/// Whether "FAILED reason: path" is about this row: the path is its file's or that of what holds it, with or
+/// without the folder.
+bool namesRow(QStringView failedLine, const PlaylistEntry &entry);

@@ -175,6 +175,12 @@ void LineActions::operator()(const FinishTrack &effect) const
     window.onDoneLine(effect.file);
 }
 
+void LineActions::operator()(const FailTrack &effect) const
+{
+    window.drainMailbox();
+    window.onFailedLine(effect.text);
+}
+
 void LineActions::operator()(const ForgetDeviceTrouble &) const
 {
     window.m_devices.lastBusyDevice.clear();

@@ -36,6 +36,7 @@ struct LineActions
     void operator()(const line_effect::UpdatePercent &effect) const;
     void operator()(const line_effect::ChangeSegment &effect) const;
     void operator()(const line_effect::FinishTrack &effect) const;
+    void operator()(const line_effect::FailTrack &effect) const;
     void operator()(const line_effect::ForgetDeviceTrouble &effect) const;
     void operator()(const line_effect::NoteBusyDevice &effect) const;
     void operator()(const line_effect::NoteMissingDevice &effect) const;

@@ -119,6 +119,21 @@ void PlayerGuiWindow::onDoneLine(const QString &file)
     trackFinished();
 }
 
+void PlayerGuiWindow::onFailedLine(const QString &line)
+{
+    // Where the next track is handed over already, that one follows; and of another one nothing is to be
+    // learnt.
+    if (m_preload.pending || !namesRow(line, m_start.started))
+        return;
+    // As when a session fails: the list does not go on, and what shows that something plays must not go on
+    // either.
+    m_start.startedEnded = true;
+    if (m_link.noAudioTimer)
+        m_link.noAudioTimer->stop();
+    setPlayingUi(false);
+    showMessage(line);
+}
+
 void PlayerGuiWindow::closeFinishedTrack()
 {
     m_start.startedEnded = true;

@@ -219,6 +219,11 @@ TEST(TrackForms, SegmentAndDoneStandAtTheStart)
     EXPECT_EQ(all<ChangeSegment>(engine.say(u"SEG 0 1 7"_s)).at(0).number, 7);
     EXPECT_EQ(all<FinishTrack>(engine.say(u"DONE a b.flac"_s)).at(0).file, u"a b.flac"_s);
     EXPECT_FALSE(has<FinishTrack>(engine.say(u"DONE"_s)));
+    const LineEffects failed = engine.say(u"[player] FAILED cannot decode: /m/a.flac"_s);
+    ASSERT_EQ(all<FailTrack>(failed).size(), 1);
+    EXPECT_EQ(all<FailTrack>(failed).at(0).text, u"FAILED cannot decode: /m/a.flac"_s);
+    EXPECT_TRUE(all<LogLine>(failed).at(0).isError);
+    EXPECT_FALSE(has<FailTrack>(engine.say(u"Nothing FAILED here"_s)));
     EXPECT_FALSE(has<FinishTrack>(engine.say(u"[player] DONE a.flac"_s)));
     EXPECT_FALSE(has<ChangeSegment>(engine.say(u"[player] SEG 0 1 7"_s)));
 }

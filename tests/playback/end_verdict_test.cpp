@@ -158,3 +158,18 @@ TEST(EndVerdict, ClosingAndRestartGoOnTheirWay)
     facts.sessionClosing = true;
     EXPECT_EQ(sessionEndVerdict(facts).kind, Kind::Closed);
 }
+
+TEST(EndVerdict, AFailureIsOfTheRowWhosePathItNames)
+{
+    PlaylistEntry file;
+    file.path = QStringLiteral("/m/a: b.flac");
+    EXPECT_TRUE(namesRow(u"FAILED cannot decode: /m/a: b.flac", file));
+    EXPECT_TRUE(namesRow(u"FAILED cannot decode: a: b.flac", file));
+    EXPECT_FALSE(namesRow(u"FAILED cannot decode: /m/c.flac", file));
+    EXPECT_FALSE(namesRow(u"FAILED cannot decode: /m/a: b.flac.cue", file));
+    PlaylistEntry track;
+    track.path = QStringLiteral("/m/album.wav");
+    track.cuePath = QStringLiteral("/m/album.cue");
+    EXPECT_TRUE(namesRow(u"FAILED no such track: /m/album.cue", track));
+    EXPECT_FALSE(namesRow(u"FAILED : ", PlaylistEntry()));
+}

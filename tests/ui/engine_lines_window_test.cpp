@@ -193,13 +193,21 @@ TEST_F(EngineLines, AScanIsShownAndLoggedByTens)
 
 TEST_F(EngineLines, AFailedTrackStopsTheListAndLeavesTheSessionLive)
 {
-    say(u"FAILED cannot decode: a.wav"_s);
-    EXPECT_TRUE(logHas(u"FAILED cannot decode: a.wav"_s));
+    say(u"FAILED cannot decode: b.wav"_s);
+    EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying) << "of another track";
+    const QString line = u"FAILED cannot decode: %1"_s.arg(fileAt(0));
+    say(line);
+    EXPECT_TRUE(logHas(line));
+    EXPECT_EQ(m_window->widgets().message->text(), line);
+    EXPECT_FALSE(WindowInspector::start(*m_window).uiPlaying) << "nothing sounds, and the window says so";
     EXPECT_EQ(WindowInspector::start(*m_window).currentRow, 0);
     EXPECT_TRUE(WindowInspector::start(*m_window).sessionLive);
     EXPECT_TRUE(m_engine.current->isRunning());
     EXPECT_EQ(m_engine.lines().size(), 1) << "no other track is loaded";
-    EXPECT_EQ(lines().lastEngineLine, u"FAILED cannot decode: a.wav"_s);
+    EXPECT_EQ(lines().lastEngineLine, line);
+    m_window->startPlayback(1);
+    EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying);
+    EXPECT_TRUE(m_engine.lines().last().startsWith(u"load "_s)) << "the session takes the next choice";
 }
 
 TEST_F(EngineLines, TheSignalIsShownInWords)

@@ -358,6 +358,7 @@ private:
     void onEngineDone(int exitCode, bool crashed, int startIndex);
     void retryWithoutExclusive();
     void onDoneLine(const QString &file);
+    void onFailedLine(const QString &line);
     void trackFinished();
     bool advanceRow();
     int peekNextRow() const;
