@@ -58,7 +58,8 @@ void addStage(PcmChain &chain, std::string_view line)
     const StageName *stage = harmless(line);
     if (!stage) {
         if (chain.blocker.empty())
-            chain.blocker = std::string(line.substr(0, maxBlockerChars));
+            chain.blocker = line.empty() ? "a stage without a name" // and no blocker would be harmless
+                                         : std::string(line.substr(0, maxBlockerChars));
         chain.mixes |= !converts(line);
         return;
     }

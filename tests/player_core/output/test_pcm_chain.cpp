@@ -77,6 +77,16 @@ TEST(PcmChain, AFileNameCannotSpeakForTheChain)
     EXPECT_FALSE(chain.untouched);
 }
 
+TEST(PcmChain, AStageWithoutANameIsNotHarmless)
+{
+    for (const char *dump : {"\nSlave: Null PCM\n", "File PCM (file=a)\nSlave: \nSlave: Null PCM\n"}) {
+        const PcmChain chain = parsePcmChain(dump);
+        EXPECT_FALSE(chain.untouched) << dump;
+        EXPECT_EQ(chain.blocker, "a stage without a name") << dump;
+        EXPECT_TRUE(chain.mixes) << dump;
+    }
+}
+
 TEST(PcmChain, TheEndsSetupIsReadFromTheLastStage)
 {
     const std::string outer =
