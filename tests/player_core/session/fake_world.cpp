@@ -17,7 +17,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 /// Of a clocked device's clock from one look to the next.
-constexpr std::chrono::milliseconds longestStep{10};
+constexpr std::chrono::milliseconds longestStep{3};
 
 class FakeSource : public Source
 {
@@ -177,7 +177,8 @@ private:
     }
 
     /// By the device's own clock, which no busy machine puts ahead of the test: it moves by a step a look at
-    /// most, and stands still while the host is acting.
+    /// most, which is hardly more than write() sleeps from one look to the next, and stands still while the
+    /// host is acting.
     int64_t playedFrames()
     {
         const Clock::time_point now = Clock::now();
