@@ -90,8 +90,8 @@ SessionEndVerdict sessionEndVerdict(const SessionEndFacts &facts)
 bool namesRow(QStringView failedLine, const PlaylistEntry &entry)
 {
     for (const QString &path : {entry.path, entry.cuePath, entry.isoPath}) {
-        if (!path.isEmpty() &&
-            (failedLine.endsWith(u": " + path) || failedLine.endsWith(u": " + QFileInfo(path).fileName())))
+        if (!path.isEmpty() && (failedLine.endsWith(": "_L1 + path) ||
+                                failedLine.endsWith(": "_L1 + QFileInfo(path).fileName())))
             return true;
     }
     return false;
