@@ -207,7 +207,7 @@ TEST_F(EngineLines, AFailedTrackStopsTheListAndLeavesTheSessionLive)
     EXPECT_EQ(lines().lastEngineLine, line);
     m_window->startPlayback(1);
     EXPECT_TRUE(WindowInspector::start(*m_window).uiPlaying);
-    EXPECT_TRUE(m_engine.lines().last().startsWith(u"load "_s)) << "the session takes the next choice";
+    EXPECT_TRUE(m_engine.lines().last().startsWith(u"write load"_s)) << "the session takes the next choice";
 }
 
 TEST_F(EngineLines, TheSignalIsShownInWords)
