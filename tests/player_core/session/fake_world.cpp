@@ -314,6 +314,14 @@ bool FakeWorld::waitFor(std::unique_lock<std::mutex> &lock, const std::function<
     return isDone;
 }
 
+bool FakeWorld::waitFrames(uint64_t frames)
+{
+    device.hostWaits = true;
+    const bool came = kelp_test::waitUntil([&] { return device.frames >= frames; });
+    device.hostWaits = false;
+    return came;
+}
+
 int FakeWorld::wait()
 {
     std::unique_lock lock(mutex_);

@@ -90,6 +90,8 @@ public:
     int wait();
     /// Waits for a line that begins so; its text, or an empty one when none came.
     std::string waitLine(const std::string &prefix);
+    /// Waits until the device has taken so many; false when it does not.
+    bool waitFrames(uint64_t frames);
     /// Lines so far that begin so.
     std::vector<std::string> lines(const std::string &prefix = {});
     std::vector<int16_t> written16();

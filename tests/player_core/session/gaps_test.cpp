@@ -18,13 +18,6 @@ using namespace std::chrono_literals;
 
 const std::string ownPid = std::to_string(::getpid());
 
-void waitForFrames(FakeWorld &world, uint64_t frames)
-{
-    for (int tries = 0; tries < 3000 && world.device.frames < frames; ++tries)
-        std::this_thread::sleep_for(10ms);
-    ASSERT_GE(world.device.frames, frames);
-}
-
 int gapsTold(FakeWorld &world)
 {
     world.send("report");
@@ -48,7 +41,7 @@ TEST(GapsTest, ASourceThatHangsDoesNotKeepTheNextOneFromItsTurn)
         world.tracks["/b.wav"] = pcmTrack(20'000, 2);
         world.start({"-stream", "-parent-pid", ownPid});
         world.send("load /a.wav");
-        waitForFrames(world, 30'000);
+        ASSERT_TRUE(world.waitFrames(30'000));
         world.send("load /b.wav");
         EXPECT_EQ(world.waitLine("DONE "), "DONE /b.wav");
         world.send("vol 100");
@@ -129,9 +122,9 @@ TEST(GapsTest, ADeviceThatRunsDryInAPauseLeavesNoGap)
     const int before = gapsTold(world); // by this machine's own doing
     world.send("pause");
     const uint64_t paused = world.device.frames;
-    waitForFrames(world, paused + 22'050);
+    ASSERT_TRUE(world.waitFrames(paused + 22'050));
     world.device.underruns = 7;
-    waitForFrames(world, world.device.frames + 22'050);
+    ASSERT_TRUE(world.waitFrames(world.device.frames + 22'050));
     world.send("resume");
     EXPECT_LT(gapsTold(world) - before, 7) << "silence was missing, no music";
     world.send("stop");
@@ -150,7 +143,7 @@ TEST(GapsTest, AGapIsToldThoughTheDeviceIsClosedBehindIt)
     world.device.underruns = 1000;
     ASSERT_FALSE(world.waitLine("underruns: 1").empty());
     world.device.underruns = 2000; // within the time in which it is not told again
-    waitForFrames(world, world.device.frames + 22'050);
+    ASSERT_TRUE(world.waitFrames(world.device.frames + 22'050));
     world.send("load /b.wav"); // of another rate
     EXPECT_FALSE(world.waitLine("underruns: 2").empty());
     world.send("stop");
