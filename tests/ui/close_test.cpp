@@ -1,7 +1,4 @@
 // The end of the window.
-#include "app/settings_store.h"
-#include "platform/settings_table.h"
-#include "tests/support/settings_on_disk.h"
 #include "window_fixture.h"
 
 #include "app/settings_store.h"
