@@ -6,6 +6,7 @@
 #include "player_core/output/device_list.h"
 #include "player_core/output/player_conf.h"
 #include "player_core/output/pulse_connection.h"
+#include "player_core/output/sound_server.h"
 
 #include <algorithm>
 #include <array>
@@ -13,6 +14,13 @@
 
 namespace kelp_core {
 namespace {
+
+/// Null where there is no sound server, which is cheap to find out for most machines without one.
+std::unique_ptr<PulseConnection> soundServer()
+{
+    std::string why;
+    return soundServerMayExist() ? PulseConnection::connect(why) : nullptr;
+}
 
 constexpr std::array<int, 12> askedRatesHz{44100,  48000,  88200,  96000,  176400,  192000,
                                            352800, 384000, 705600, 768000, 1411200, 1536000};
@@ -94,8 +102,7 @@ std::string holderOf(const CardPcm &card)
 std::string listText()
 {
     DeviceList list;
-    std::string why;
-    if (const auto server = PulseConnection::connect(why)) {
+    if (const auto server = soundServer()) {
         list.server = server->serverName();
         for (const SinkFacts &sink : server->sinks())
             list.sinks.push_back({"pulse:" + sink.name, sink.description});
@@ -112,8 +119,7 @@ std::string listDevicesText()
     const AlsaMessages quiet;
     std::vector<DeviceCapability> devices;
     std::string busy;
-    std::string why;
-    if (const auto server = PulseConnection::connect(why))
+    if (const auto server = soundServer())
         for (const SinkFacts &sink : server->sinks())
             devices.push_back({"pulse:" + sink.name, "pulse", false, false, false, "shared", {sink.rateHz}});
     const std::vector<std::string> marks = readDsdOk();

@@ -1,5 +1,7 @@
 #include "player_core/output/pulse_connection.h"
 
+#include "player_core/output/pulse_library.h"
+
 #include <cstdlib>
 
 namespace kelp_core {
@@ -78,6 +80,8 @@ std::unique_ptr<PulseConnection> PulseConnection::connect(std::string &why)
 
 std::string PulseConnection::start()
 {
+    if (!loadPulseLibrary())
+        return "The client library of PulseAudio (libpulse) is not installed.";
     loop_ = pa_threaded_mainloop_new();
     if (!loop_)
         return "The sound server's client library gave no main loop.";
