@@ -25,7 +25,7 @@ function(kelp_parts folder)
     cmake_parse_arguments(arg "" "" "SOURCES;LINK" ${ARGN})
     add_library(${folder}_parts STATIC ${arg_SOURCES})
     kelp_qt_defaults(${folder}_parts)
-    target_link_libraries(${folder}_parts PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::Network Qt6::DBus
+    target_link_libraries(${folder}_parts PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets Qt6::DBus
         Threads::Threads ${arg_LINK})
     target_precompile_headers(${folder}_parts PRIVATE "${PROJECT_SOURCE_DIR}/cmake/pch_parts.h")
 endfunction()

@@ -1,7 +1,8 @@
 #include "engine/engine_library.h"
 
+#include "platform/program_library.h"
+
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <dlfcn.h>
 #include <utility>
@@ -33,10 +34,7 @@ EngineLibrary &EngineLibrary::ofProgram()
 
 QStringList EngineLibrary::candidatesFor(const QString &programDir)
 {
-    QStringList paths;
-    for (const QString &folder : {u"."_s, u"../lib/kelp-player"_s, u"../lib"_s})
-        paths.append(QDir::cleanPath(QDir(programDir).filePath(folder + u"/libkelp_player_core.so"_s)));
-    return paths;
+    return programLibraryPaths(programDir, u"libkelp_player_core.so"_s);
 }
 
 bool EngineLibrary::load()

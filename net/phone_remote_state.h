@@ -4,7 +4,7 @@
 
 #include <QString>
 
-class RemoteServer;
+class RemoteListener;
 
 /// What is known of a track beside its row. Empty where nothing is known.
 struct RemoteTags
@@ -17,6 +17,6 @@ struct RemoteTags
 struct PhoneRemoteState
 {
     bool remoteEnabled = false;
-    quint16 remotePort = 7788;            ///< taken from the spin box when the switch is turned
-    RemoteServer *remoteServer = nullptr; ///< child of the window; made at first use, null while off
+    quint16 remotePort = 7788;              ///< taken from the spin box when the switch is turned
+    RemoteListener *remoteServer = nullptr; ///< child of the window; made at first use, null while off
 };

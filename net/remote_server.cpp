@@ -3,6 +3,7 @@
 #include "net/remote_token.h"
 
 #include <QElapsedTimer>
+#include <QNetworkInterface>
 #include <QNetworkProxy>
 #include <QPointer>
 #include <QRandomGenerator>
@@ -55,7 +56,7 @@ void clearWaitingList(QTcpServer &server)
 } // namespace
 
 RemoteServer::RemoteServer(RemoteHost host, QObject *parent, const RemoteLimits &limits)
-    : QObject(parent)
+    : RemoteListener(parent)
     , m_host(std::move(host))
     , m_limits(limits)
 {
@@ -117,6 +118,19 @@ quint16 RemoteServer::port() const
 QString RemoteServer::errorText() const
 {
     return m_server->errorString();
+}
+
+QStringList RemoteServer::addresses() const
+{
+    QStringList addresses;
+    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
+        for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
+            const QHostAddress address = entry.ip();
+            if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback())
+                addresses.append(address.toString());
+        }
+    }
+    return addresses;
 }
 
 void RemoteServer::takeTurn()

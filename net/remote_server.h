@@ -1,12 +1,11 @@
 /// \file
-/// The listener of the phone remote.
+/// The listener of the phone remote, with the toolkit's sockets.
 #pragma once
 
-#include "net/remote_answer.h"
+#include "net/remote_listener.h"
 
 #include <QDeadlineTimer>
 #include <QHash>
-#include <QObject>
 #include <QTimer>
 
 #include <chrono>
@@ -31,9 +30,8 @@ struct RemoteLimits
     std::chrono::milliseconds turn{4};
 };
 
-/// One request a connection, no buffering across reads. Lives on one thread (the GUI thread), does everything
-/// there, and calls its host there.
-class RemoteServer final : public QObject
+/// One request a connection, no buffering across reads.
+class RemoteServer final : public RemoteListener
 {
     Q_OBJECT
 
@@ -41,16 +39,13 @@ public:
     explicit RemoteServer(RemoteHost host, QObject *parent = nullptr, const RemoteLimits &limits = {});
     ~RemoteServer() override;
 
-    /// Listens on every IPv4 address with a token made anew. \param port 0: any free one
-    /// \return false with errorText() set; there is then no token
-    bool listen(quint16 port);
-    /// Stops listening, ends every connection and forgets the token.
-    void close();
-    bool isListening() const;
-    quint16 port() const;
-    /// In memory only. Empty while not listening.
-    QString token() const { return QString::fromStdString(m_token); }
-    QString errorText() const;
+    bool listen(quint16 port) override;
+    void close() override;
+    bool isListening() const override;
+    quint16 port() const override;
+    QString token() const override { return QString::fromStdString(m_token); }
+    QString errorText() const override;
+    QStringList addresses() const override;
     qsizetype connectionCount() const { return m_open.size(); }
 
 private:

@@ -4,30 +4,16 @@
 #include "app/settings_store.h"
 #include "net/remote_addresses.h"
 #include "net/remote_controls.h"
-#include "net/remote_server.h"
+#include "net/remote_listener.h"
 #include "platform/settings_table.h"
 #include "playback/playlist_roles.h"
 #include "playback/playlist_widget.h"
 #include "ui/dock_bar.h"
 
 #include <QFileInfo>
-#include <QNetworkInterface>
 #include <QSpinBox>
 
 namespace {
-
-QStringList reachableAddresses()
-{
-    QStringList addresses;
-    for (const QNetworkInterface &interface : QNetworkInterface::allInterfaces()) {
-        for (const QNetworkAddressEntry &entry : interface.addressEntries()) {
-            const QHostAddress address = entry.ip();
-            if (address.protocol() == QAbstractSocket::IPv4Protocol && !address.isLoopback())
-                addresses.append(address.toString());
-        }
-    }
-    return addresses;
-}
 
 /// A number that is no port stands for the usual one.
 quint16 remotePortFrom(int stored)
@@ -104,9 +90,14 @@ bool PlayerGuiWindow::startRemote()
                 logLine(tr("手机遥控：拒绝了一个令牌不对的请求（%1）").arg(QString::fromStdString(path)));
             },
         };
-        m_remote.remoteServer = new RemoteServer(host, this);
+        QString error;
+        m_remote.remoteServer = m_options.makeRemote(host, this, error);
+        if (!m_remote.remoteServer) {
+            logLine(tr("手机遥控：无法监听端口 %1（%2）").arg(m_remote.remotePort).arg(error), true);
+            return false;
+        }
     }
-    RemoteServer &server = *m_remote.remoteServer;
+    RemoteListener &server = *m_remote.remoteServer;
     if (!server.listen(m_remote.remotePort)) {
         logLine(tr("手机遥控：无法监听端口 %1（%2）").arg(m_remote.remotePort).arg(server.errorText()), true);
         return false;
@@ -121,7 +112,7 @@ QStringList PlayerGuiWindow::remoteAddresses() const
 {
     if (!m_remote.remoteServer)
         return {};
-    return remoteUrls(reachableAddresses(), m_remote.remotePort, remoteToken());
+    return remoteUrls(m_remote.remoteServer->addresses(), m_remote.remotePort, remoteToken());
 }
 
 QString PlayerGuiWindow::remoteToken() const

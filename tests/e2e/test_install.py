@@ -8,6 +8,7 @@ import support
 from support import BUILD, Stage
 
 EXPECTED = ["bin/KelpPlayer", "bin/KelpPlayerEngine", "lib/kelp-player/libkelp_player_core.so",
+            "lib/kelp-player/libkelp_player_net.so",
             "share/applications/io.kelp.KelpPlayer.desktop", "share/metainfo/io.kelp.KelpPlayer.metainfo.xml",
             "share/icons/hicolor/scalable/apps/kelp-player.svg", "share/icons/hicolor/256x256/apps/kelp-player.png"]
 

@@ -45,6 +45,9 @@ protected:
     void SetUp() override
     {
         WindowTest::SetUp();
+        m_makeRemote = [](const RemoteHost &host, QObject *parent, QString &) {
+            return new RemoteServer(host, parent);
+        };
         m_port = freePort();
         writeUserSetting(settings::remotePort, m_port);
     }
@@ -290,4 +293,20 @@ TEST_F(PhoneRemote, TheLibraryHasAThousandRowsAtMost)
     EXPECT_EQ(ask(u"/library?n=5000"_s)[u"items"_s].toArray().size(), 1000);
     EXPECT_EQ(ask(u"/library?n=5000"_s)[u"total"_s].toInt(), 1200);
     EXPECT_EQ(ask(u"/library"_s)[u"items"_s].toArray().size(), 200);
+}
+
+TEST_F(PhoneRemote, WithoutItsLibraryTheSwitchGoesBack)
+{
+    m_makeRemote = [](const RemoteHost &, QObject *, QString &error) {
+        error = u"not found: libkelp_player_net.so"_s;
+        return nullptr;
+    };
+    makeWindow();
+    m_window->restoreRemote();
+    controls().enable->click();
+    EXPECT_FALSE(controls().enable->isChecked());
+    EXPECT_FALSE(state().remoteEnabled);
+    EXPECT_FALSE(state().remoteServer);
+    EXPECT_FALSE(readUserSetting(settings::remoteOn));
+    EXPECT_TRUE(logHas(u"手机遥控：无法监听端口 %1（not found: libkelp_player_net.so）"_s.arg(m_port)));
 }

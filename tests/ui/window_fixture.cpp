@@ -48,6 +48,8 @@ void WindowTest::makeWindow()
     };
     if (m_makeSession)
         options.makeSession = m_makeSession;
+    if (m_makeRemote)
+        options.makeRemote = m_makeRemote;
     options.askSavePath = [this](QWidget *, const QString &title, const QString &proposal) {
         m_saveAsked << title << proposal;
         return m_savePath;

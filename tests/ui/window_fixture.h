@@ -59,6 +59,7 @@ protected:
     bool m_asksBeforeClosing = false;
     TransportTimes m_times;
     WindowOptions::MakeSession m_makeSession; ///< empty: a fake one
+    WindowOptions::MakeRemote m_makeRemote;   ///< empty: out of the program's library
     QString m_savePath;                       ///< the answer to every question for a file to be written
     QStringList m_saveAsked;                  ///< title and proposal of each
     std::unique_ptr<PlayerGuiWindow> m_window;

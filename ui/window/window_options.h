@@ -4,6 +4,7 @@
 
 #include "engine/engine_probe.h"
 #include "engine/session_factory.h"
+#include "net/remote_listener.h"
 #include "playback/transport_times.h"
 
 #include <functional>
@@ -26,9 +27,13 @@ struct WindowOptions
     using AskSavePath =
         std::function<QString(QWidget *parent, const QString &title, const QString &proposal)>;
 
+    using MakeRemote =
+        std::function<RemoteListener *(const RemoteHost &host, QObject *parent, QString &error)>;
+
     MakeSession makeSession = &::makeSession;
     Probe probe = &runEngineProbe; ///< called on any thread
     AskSavePath askSavePath = &::askSavePath;
+    MakeRemote makeRemote = &makeRemoteListener;
     TransportTimes times = {};
     bool asksBeforeClosing = true; ///< false while a hook is armed that ends the program
 };
