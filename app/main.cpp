@@ -1,4 +1,5 @@
 // Two roles: with a first argument that begins with a dash a console front of the engine, else the window.
+#include "app/first_letters.h"
 #include "app/heartbeat.h"
 #include "app/hook_timers.h"
 #include "app/self_check.h"
@@ -7,10 +8,12 @@
 #include "platform/console_streams.h"
 #include "platform/font_warm_up.h"
 #include "platform/letter_weight.h"
-#include "platform/process_facts.h"
+#include "platform/memory_layout.h"
+#include "ui/first_fonts.h"
 #include "ui/window/player_gui_window.h"
 
 #include <QApplication>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -73,7 +76,7 @@ int main(int argc, char **argv)
     const QStringList arguments = ownArguments(argc, argv);
     const bool console = startup::isConsoleRole(arguments);
     if (!console) {
-        warmUpFonts();
+        warmUpFonts(firstFonts());
         drawLettersAtTheirWeight();
     }
     std::vector<char *> toolkit = toolkitArguments(argc, argv, console);
@@ -81,9 +84,9 @@ int main(int argc, char **argv)
     toolkit.push_back(nullptr);
 
     const QApplication application(toolkitCount, toolkit.data());
-    std::future<void> fonts;
+    std::optional<startup::FirstLetters> letters;
     if (!console)
-        fonts = startup::listFonts();
+        letters.emplace();
     applySettingsDirOverride();
     startup::sweepLogs();
     return console ? startup::runConsoleRole(argc, argv) : runWindow(arguments);

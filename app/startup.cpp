@@ -7,6 +7,8 @@
 #include "app/language_install.h"
 #include "app/session_log_sweep.h"
 #include "engine/engine_library.h"
+#include "platform/head_start.h"
+#include "platform/memory_layout.h"
 #include "platform/single_instance.h"
 #include "platform/termination_signals.h"
 #include "playback/playlist_widget.h"
@@ -16,9 +18,10 @@
 #include "ui/window/player_gui_window.h"
 
 #include <QApplication>
+#include <QBackingStore>
 #include <QDebug>
 #include <QFileInfo>
-#include <QFontMetrics>
+#include <QImage>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -83,6 +86,24 @@ void preloadForRows(const QListWidget &list)
                          Qt::SingleShotConnection);
 }
 
+/// Has the memory of the window's first picture laid out while the widgets find their places.
+void layOutCanvas(QWidget &window)
+{
+    window.winId(); // makes the window of the system, and the canvas with it
+    QBackingStore *store = window.backingStore();
+    if (!store)
+        return;
+    store->resize(window.size());
+    const QPaintDevice *device = store->paintDevice();
+    if (!device || device->devType() != QInternal::Image)
+        return;
+    const auto *picture = static_cast<const QImage *>(device);
+    const auto pixels = reinterpret_cast<std::uintptr_t>(picture->constBits());
+    const auto bytes = static_cast<std::size_t>(picture->sizeInBytes());
+    // Without a thread the painting does it page by page.
+    (void)runBeside([pixels, bytes] { layOutMemory(pixels, bytes); });
+}
+
 } // namespace
 
 bool isConsoleRole(const QStringList &arguments)
@@ -99,24 +120,6 @@ int runConsoleRole(int argc, char **argv)
         return couldNotRunEngine;
     }
     return entry(argc, argv);
-}
-
-std::future<void> listFonts()
-{
-    constexpr int anyPixels = 12;
-    // Made here: the language changes the families of those that are made later.
-    const auto list = [fonts = QList<QFont>{interfaceFont(anyPixels), figureFont(anyPixels)}] {
-        // A letter of each kind of type also has the toolkit look for what stands in where a family lacks
-        // one.
-        for (const QFont &font : fonts)
-            QFontMetrics(font).horizontalAdvance(u'0');
-    };
-    try {
-        return std::async(std::launch::async, list);
-    } catch (const std::system_error &) {
-        // Whoever needs the first font then waits for the list.
-        return {};
-    }
 }
 
 void sweepLogs()
@@ -185,6 +188,7 @@ void showWindow(PlayerGuiWindow &window)
     using namespace std::chrono_literals;
     constexpr auto preloadDelay = 300ms;
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
+    layOutCanvas(window);
     window.show();
     window.noteShown();
     traceStep(u"shown"_s);

@@ -9,8 +9,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <future>
-
 class PlayerGuiWindow;
 class QApplication;
 
@@ -20,11 +18,6 @@ namespace startup {
 bool isConsoleRole(const QStringList &arguments);
 /// Calls the engine's entry with the process's own arguments; its result is the exit code.
 int runConsoleRole(int argc, char **argv);
-
-/// Has the toolkit list the system's fonts, on a thread of its own, while the widgets are built. Whoever
-/// needs a font meanwhile waits for the list. Call when the application object stands. \return what waits for
-/// that thread when it ends, as it must before the application object does
-std::future<void> listFonts();
 
 void sweepLogs();
 /// False when another window runs: then the listener has been told, and the program ends.

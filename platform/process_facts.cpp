@@ -5,7 +5,6 @@
 #include <QList>
 
 #include <ctime>
-#include <malloc.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -53,11 +52,4 @@ std::optional<qint64> residentBytes()
     if (!ok || pageBytes <= 0)
         return std::nullopt;
     return pages * pageBytes;
-}
-
-void keepMemoryTogether()
-{
-    constexpr int arenas =
-        2; // one for the GUI thread, one for all others: they allocate little while they play
-    mallopt(M_ARENA_MAX, arenas);
 }

@@ -10,8 +10,3 @@ std::optional<qint64> processAgeMs();
 
 /// Memory in use by this process (resident set) in bytes; none where the system does not tell.
 std::optional<qint64> residentBytes();
-
-/// Keeps the C library from giving each of the many short-lived threads of engine sessions an arena of its
-/// own: what such arenas hold grows by some 60 KiB a session and never comes back. Call before the first
-/// thread starts.
-void keepMemoryTogether();

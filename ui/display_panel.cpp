@@ -136,16 +136,29 @@ void DisplayPanel::applyPlan(const AreaPlan &plan)
         time.setLetterSpacing(QFont::AbsoluteSpacing, -0.03 * plan.timePixels);
         m_time->setFont(time);
         m_total->setFont(figureFont(static_cast<int>(plan.timePixels * totalPart)));
-        // All three stand on one line, however large each is.
-        for (QLabel *smaller : {m_total, m_status})
-            smaller->setContentsMargins(0, 0, 0,
-                                        m_time->fontMetrics().descent() - smaller->fontMetrics().descent());
+        if (testAttribute(Qt::WA_WState_Polished))
+            alignTimes();
     }
     const int side = plan.compact ? 14 : 20;
     const int ends = plan.compact ? 10 : 16;
     m_screen->layout()->setContentsMargins(side, ends, side, ends);
     m_screen->layout()->setSpacing(plan.compact ? 6 : 10);
     fitTitle();
+}
+
+void DisplayPanel::alignTimes()
+{
+    for (QLabel *smaller : {m_total, m_status})
+        smaller->setContentsMargins(0, 0, 0,
+                                    m_time->fontMetrics().descent() - smaller->fontMetrics().descent());
+}
+
+bool DisplayPanel::event(QEvent *event)
+{
+    const bool done = QFrame::event(event);
+    if (event->type() == QEvent::Polish)
+        alignTimes();
+    return done;
 }
 
 void DisplayPanel::resizeEvent(QResizeEvent *event)

@@ -35,10 +35,12 @@ public:
     void applyPlan(const AreaPlan &plan);
 
 protected:
+    bool event(QEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
 
 private:
     void fitTitle();
+    void alignTimes();
 
     QFrame *m_screen;
     QLabel *m_meta;

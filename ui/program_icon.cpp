@@ -1,9 +1,9 @@
 #include "ui/program_icon.h"
 
+#include <QFile>
 #include <QIconEngine>
-#include <QImageReader>
 #include <QPainter>
-#include <future>
+#include <png.h>
 
 using namespace Qt::StringLiterals;
 
@@ -13,11 +13,27 @@ using Pictures = QList<QImage>;
 
 constexpr auto suffix = ".png"_L1;
 
+/// By the library that the toolkit reads it with, too. The toolkit's own reader looks for image plug-ins on
+/// the disk first, and all else that has to do with plug-ins waits for it.
 QImage readPng(const QString &path)
 {
-    QImageReader reader(path, QByteArrayLiteral("png"));
-    reader.setAutoDetectImageFormat(false);
-    return reader.read();
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const QByteArray bytes = file.readAll();
+    png_image header = {};
+    header.version = PNG_IMAGE_VERSION;
+    if (!png_image_begin_read_from_memory(&header, bytes.constData(), static_cast<size_t>(bytes.size())))
+        return {};
+    header.format = Q_BYTE_ORDER == Q_LITTLE_ENDIAN ? PNG_FORMAT_BGRA : PNG_FORMAT_ARGB;
+    QImage picture(static_cast<int>(header.width), static_cast<int>(header.height), QImage::Format_ARGB32);
+    if (picture.isNull() ||
+        !png_image_finish_read(&header, nullptr, picture.bits(),
+                               static_cast<png_int_32>(picture.bytesPerLine()), nullptr)) {
+        png_image_free(&header);
+        return {};
+    }
+    return picture;
 }
 
 QString pathOfSize(const QString &path, const QSize &size)
@@ -43,7 +59,7 @@ class ResourceEngine final : public QIconEngine
 public:
     ResourceEngine(const QString &path, const QList<QSize> &sizes)
         : m_sizes(sizes)
-        , m_pictures(std::async(std::launch::async, picturesOf, path, sizes).share())
+        , m_pictures(picturesOf(path, sizes))
     {
     }
 
@@ -78,11 +94,11 @@ private:
         qsizetype i = 0;
         while (i + 1 < m_sizes.size() && m_sizes.at(i).width() < size.width())
             ++i;
-        return m_pictures.get().at(i);
+        return m_pictures.at(i);
     }
 
     QList<QSize> m_sizes; ///< smallest first
-    std::shared_future<Pictures> m_pictures;
+    Pictures m_pictures;
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "ui/light_look.h"
 #include "ui/style_rules.h"
 #include "ui/theme.h"
+#include "ui/type_families.h"
 
 #include <QtPlugin>
 
@@ -230,18 +231,13 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 QSplitter::handle { background: #23232B; }
 )"_L1;
 
-/// The same list for the fonts of widgets and for those of the sheet: a font that differs in anything is
-/// matched with the system's all over again.
-QStringList figureFamilies()
+template<std::size_t count>
+QStringList namesOf(const char *const (&families)[count])
 {
-    // A word between figures falls back to the interface's families, not to whatever the system has first.
-    return {u"DejaVu Sans Mono"_s, u"Noto Sans Mono"_s, eastAsianFamily, u"Noto Sans Arabic"_s,
-            u"Monospace"_s};
-}
-
-QStringList interfaceFamilies()
-{
-    return {u"Inter"_s, u"Noto Sans"_s, eastAsianFamily, u"Noto Sans Arabic"_s, u"DejaVu Sans"_s};
+    QStringList names;
+    for (const char *family : families)
+        names << QString::fromLatin1(family);
+    return names;
 }
 
 /// Families as the sheet writes them.
@@ -304,6 +300,17 @@ QString placeText(QStringView name)
 }
 
 } // namespace
+
+QStringList figureFamilies()
+{
+    // A word between figures falls back to the interface's families, not to whatever the system has first.
+    return namesOf(type_families::figures) << eastAsianFamily << u"Noto Sans Arabic"_s << u"Monospace"_s;
+}
+
+QStringList interfaceFamilies()
+{
+    return namesOf(type_families::words) << eastAsianFamily << u"Noto Sans Arabic"_s << u"DejaVu Sans"_s;
+}
 
 QString darkStyleSheet()
 {

@@ -6,6 +6,7 @@
 
 #include <QFont>
 #include <QString>
+#include <QStringList>
 
 /// As the sheet is written down: dark neutrals, and "@name@" where a colour of the accent stands.
 QString darkStyleSheet();
@@ -16,6 +17,11 @@ QString styleSheetInForce();
 /// Settles which forms of the Chinese signs the fonts below take. Before the first widget is made.
 /// \param code of the interface's language, as the catalogues are named
 void setFontLanguage(const QString &code);
+
+/// The families of the two kinds of type, best first. The same for the fonts of widgets and for those of the
+/// sheet: a font that differs in anything is matched with the system's all over again.
+QStringList interfaceFamilies();
+QStringList figureFamilies();
 
 /// The interface's font: a list of families, so that every script finds one of its own.
 QFont interfaceFont(int pixelSize = 12);

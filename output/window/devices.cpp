@@ -3,6 +3,7 @@
 
 #include "app/settings_store.h"
 #include "output/engine_controls.h"
+#include "platform/head_start.h"
 #include "platform/settings_table.h"
 
 using namespace Qt::StringLiterals;
@@ -25,7 +26,8 @@ DeviceListing listDevices(const WindowOptions::Probe &probe, const QString &play
 void PlayerGuiWindow::beginDeviceListing()
 {
     locateEngine();
-    m_devices.firstListing = std::async(std::launch::async, listDevices, m_options.probe, m_link.playerBin);
+    m_devices.firstListing = besideTheStart(
+        [probe = m_options.probe, playerBin = m_link.playerBin] { return listDevices(probe, playerBin); });
 }
 
 void PlayerGuiWindow::populateDevicesBlocking()

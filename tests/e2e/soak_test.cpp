@@ -3,6 +3,7 @@
 //
 // usage: soak_test FIRST_TRACK SECOND_TRACK   (of the same format, minutes long, so that none ends by itself)
 
+#include "platform/memory_layout.h"
 #include "platform/process_facts.h"
 #include "tests/support/process_count.h"
 #include "ui/window/player_gui_window.h"
