@@ -101,7 +101,7 @@ void layOutCanvas(QWidget &window)
     const auto pixels = reinterpret_cast<std::uintptr_t>(picture->constBits());
     const auto bytes = static_cast<std::size_t>(picture->sizeInBytes());
     // Without a thread the painting does it page by page.
-    (void)runBeside([pixels, bytes] { layOutMemory(pixels, bytes); });
+    (void)runBeside(WorkRank::InTime, [pixels, bytes] { layOutMemory(pixels, bytes); });
 }
 
 } // namespace

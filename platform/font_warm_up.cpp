@@ -8,7 +8,7 @@ void warmUpFonts(std::vector<FontWish> wishes)
 {
     findFontLibrary();
     // Without a thread the toolkit asks for itself, later.
-    (void)runBeside([wishes = std::move(wishes)] {
+    (void)runBeside(WorkRank::InTime, [wishes = std::move(wishes)] {
         // The configuration is the library's own, guarded by itself, and stays until the process ends.
         if (!FcInit())
             return;

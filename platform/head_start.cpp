@@ -11,9 +11,6 @@
 
 namespace {
 
-/// As a nice value: enough that the display's and the session bus's answers go first; little enough that a
-/// busy machine still gives the work its share, for the window may come to wait for it.
-constexpr int stepsBack = 5;
 /// How long the work goes on before who has been woken gets its turn. Of its own accord the kernel lets it
 /// run for milliseconds.
 constexpr std::uint64_t sliceNs = 100'000;
@@ -21,6 +18,7 @@ constexpr std::uint64_t sliceNs = 100'000;
 struct Beginning
 {
     std::function<void()> work;
+    WorkRank rank;
     cpu_set_t allowed = {}; ///< the cores of the thread that asked
 };
 
@@ -48,13 +46,14 @@ struct Scheduling
     std::uint64_t periodNs = 0;
 };
 
-/// This thread alone, as Linux has it. A kernel that knows no slices of a thread's own leaves that out.
-void stepBack()
+/// This thread alone, as Linux has it. A kernel that knows no slices of a thread's own leaves them out.
+/// \param steps as a nice value
+void stepBack(int steps)
 {
     if (sched_getscheduler(0) != SCHED_OTHER)
         return;
     Scheduling wanted;
-    wanted.nice = getpriority(PRIO_PROCESS, 0) + stepsBack;
+    wanted.nice = getpriority(PRIO_PROCESS, 0) + steps;
     wanted.sliceNs = sliceNs;
     syscall(SYS_sched_setattr, 0, &wanted, 0);
 }
@@ -76,7 +75,7 @@ void *run(void *raw)
     const std::unique_ptr<Beginning> beginning(static_cast<Beginning *>(raw));
     if (CPU_COUNT(&beginning->allowed) > 0)
         sched_setaffinity(0, sizeof beginning->allowed, &beginning->allowed);
-    stepBack();
+    stepBack(static_cast<int>(beginning->rank));
     layOutArena();
     beginning->work();
     return nullptr;
@@ -84,10 +83,9 @@ void *run(void *raw)
 
 } // namespace
 
-bool runBeside(std::function<void()> work)
+bool runBeside(WorkRank rank, std::function<void()> work)
 {
-    auto beginning = std::make_unique<Beginning>();
-    beginning->work = std::move(work);
+    auto beginning = std::make_unique<Beginning>(Beginning{std::move(work), rank});
     pthread_attr_t attributes;
     if (pthread_attr_init(&attributes) != 0)
         return false;

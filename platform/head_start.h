@@ -9,20 +9,28 @@
 #include <type_traits>
 #include <utility>
 
-/// Runs the work once on a thread of its own, which begins on another core than the caller's and steps back
-/// (by a nice value that it keeps, and that programs it starts inherit) behind whatever the window waits for.
-/// The thread ends with the work. Any thread.
+/// How far a work steps back, as a nice value that programs it starts inherit. Little enough that a busy
+/// machine still gives the work its share, for the window may come to wait for it.
+enum class WorkRank
+{
+    Awaited = 0, ///< the window will soon wait for it
+    InTime = 5,  ///< the display's and the session bus's answers, for which the window waits, go first
+    Last = 10,   ///< wanted when the window is nearly built
+};
+
+/// Runs the work once on a thread of its own, which begins on another core than the caller's and gives way to
+/// whoever wakes up. The thread ends with the work. Any thread.
 /// \param work may outlive its caller, and must not throw
 /// \return false where there is no thread to be had; the work has then not been done
-[[nodiscard]] bool runBeside(std::function<void()> work);
+[[nodiscard]] bool runBeside(WorkRank rank, std::function<void()> work);
 
 /// The same with a result. Where there is no thread, the caller does the work at once.
 template<typename Work>
-[[nodiscard]] auto besideTheStart(Work work) -> std::future<std::invoke_result_t<Work>>
+[[nodiscard]] auto besideTheStart(WorkRank rank, Work work) -> std::future<std::invoke_result_t<Work>>
 {
     auto task = std::make_shared<std::packaged_task<std::invoke_result_t<Work>()>>(std::move(work));
     auto result = task->get_future();
-    if (!runBeside([task] { (*task)(); }))
+    if (!runBeside(rank, [task] { (*task)(); }))
         (*task)();
     return result;
 }

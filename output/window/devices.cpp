@@ -26,8 +26,10 @@ DeviceListing listDevices(const WindowOptions::Probe &probe, const QString &play
 void PlayerGuiWindow::beginDeviceListing()
 {
     locateEngine();
-    m_devices.firstListing = besideTheStart(
-        [probe = m_options.probe, playerBin = m_link.playerBin] { return listDevices(probe, playerBin); });
+    m_devices.firstListing =
+        besideTheStart(WorkRank::Last, [probe = m_options.probe, playerBin = m_link.playerBin] {
+            return listDevices(probe, playerBin);
+        });
 }
 
 void PlayerGuiWindow::populateDevicesBlocking()

@@ -23,9 +23,9 @@ int coresOfThisThread()
 TEST(HeadStart, GivesTheResultOfItsOwnThread)
 {
     const std::thread::id here = std::this_thread::get_id();
-    EXPECT_NE(besideTheStart([] { return std::this_thread::get_id(); }).get(), here);
+    EXPECT_NE(besideTheStart(WorkRank::InTime, [] { return std::this_thread::get_id(); }).get(), here);
     bool done = false;
-    besideTheStart([&done] { done = true; }).get();
+    besideTheStart(WorkRank::InTime, [&done] { done = true; }).get();
     EXPECT_TRUE(done);
 }
 
@@ -34,9 +34,11 @@ TEST(HeadStart, StepsBackAndMayUseAllCores)
 {
     const int nice = niceOfThisThread();
     const int most = 19;
-    EXPECT_EQ(besideTheStart(niceOfThisThread).get(), std::min(nice + 5, most));
+    EXPECT_EQ(besideTheStart(WorkRank::InTime, niceOfThisThread).get(), std::min(nice + 5, most));
+    EXPECT_EQ(besideTheStart(WorkRank::Last, niceOfThisThread).get(), std::min(nice + 10, most));
+    EXPECT_EQ(besideTheStart(WorkRank::Awaited, niceOfThisThread).get(), nice);
     EXPECT_EQ(niceOfThisThread(), nice);
-    EXPECT_EQ(besideTheStart(coresOfThisThread).get(), coresOfThisThread());
+    EXPECT_EQ(besideTheStart(WorkRank::Awaited, coresOfThisThread).get(), coresOfThisThread());
 }
 
 TEST(HeadStart, BoundToOneCoreItWorksThere)
@@ -47,14 +49,14 @@ TEST(HeadStart, BoundToOneCoreItWorksThere)
     CPU_ZERO(&one);
     CPU_SET(sched_getcpu(), &one);
     ASSERT_EQ(sched_setaffinity(0, sizeof one, &one), 0);
-    const int cores = besideTheStart(coresOfThisThread).get();
+    const int cores = besideTheStart(WorkRank::Awaited, coresOfThisThread).get();
     ASSERT_EQ(sched_setaffinity(0, sizeof before, &before), 0);
     EXPECT_EQ(cores, 1);
 }
 
 TEST(HeadStart, AWorkThatThrowsIsTheCallers)
 {
-    auto result = besideTheStart([]() -> int { throw 7; });
+    auto result = besideTheStart(WorkRank::InTime, []() -> int { throw 7; });
     EXPECT_THROW(result.get(), int);
 }
 
@@ -64,7 +66,7 @@ TEST(HeadStart, LeavesOtherPoliciesAlone)
     std::thread idle([] {
         const sched_param none = {};
         ASSERT_EQ(sched_setscheduler(0, SCHED_IDLE, &none), 0);
-        EXPECT_EQ(besideTheStart([] { return sched_getscheduler(0); }).get(), SCHED_IDLE);
+        EXPECT_EQ(besideTheStart(WorkRank::InTime, [] { return sched_getscheduler(0); }).get(), SCHED_IDLE);
     });
     idle.join();
 }
