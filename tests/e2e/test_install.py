@@ -30,6 +30,15 @@ class Install(unittest.TestCase):
             for inproc in (1, 0):
                 stage.player_to_its_end(track, KELP_GUI_INPROC=inproc, quit_after=4, done=lambda log: "Playback finished" in log)
 
+    def test_nothing_is_loaded_from_the_current_folder(self):
+        """A search path of the program's own comes before the system's, and an empty part of it is the current folder: that of
+        the music, where anybody's files lie."""
+        support.need("readelf")
+        for name in ("KelpPlayer", "KelpPlayerEngine", "libkelp_player_core.so", "libkelp_player_net.so"):
+            dynamic = subprocess.run(["readelf", "-d", os.path.join(BUILD, name)], check=True, capture_output=True, text=True).stdout
+            self.assertIn("NEEDED", dynamic)
+            self.assertNotRegex(dynamic, r"RUNPATH|RPATH", name)
+
     def test_the_desktop_files_are_valid(self):
         root = os.path.join(os.path.dirname(__file__), "..", "..", "packaging")
         support.need("desktop-file-validate", "appstreamcli")
