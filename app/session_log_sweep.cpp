@@ -1,15 +1,34 @@
 #include "app/session_log_sweep.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFileInfo>
+#include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr auto directoryPattern = "kelp-log-*"_L1;
+constexpr auto directoryPrefix = "kelp-log-"_L1;
 /// A younger directory may belong to a program that is running.
 constexpr qint64 youngSec = 3600;
+
+/// By a comparison: a pattern would be compiled to machine code at each start, to be used once.
+QFileInfoList newestFirst(const QString &folder)
+{
+    QFileInfoList found;
+    QDirIterator each(folder, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks);
+    while (each.hasNext()) {
+        each.next();
+        if (each.fileName().startsWith(directoryPrefix, Qt::CaseInsensitive))
+            found.append(each.fileInfo());
+    }
+    std::sort(found.begin(), found.end(), [](const QFileInfo &a, const QFileInfo &b) {
+        return std::pair(b.lastModified(), a.fileName()) < std::pair(a.lastModified(), b.fileName());
+    });
+    return found;
+}
 
 } // namespace
 
@@ -42,11 +61,8 @@ SweepPlan planSessionLogSweep(const QList<SessionLogDir> &newestFirst, const Swe
 
 QString sweepSessionLogs()
 {
-    const QDir temp(QDir::tempPath());
-    const QFileInfoList found = temp.entryInfoList(
-        {directoryPattern}, QDir::Dirs | QDir::NoDotAndDotDot | QDir::NoSymLinks, QDir::Time);
     QList<SessionLogDir> directories;
-    for (const QFileInfo &info : found)
+    for (const QFileInfo &info : newestFirst(QDir::tempPath()))
         directories.append(
             {info.absoluteFilePath(), info.lastModified(),
              QDir(info.absoluteFilePath())
