@@ -42,8 +42,10 @@ PlaylistWidget::PlaylistWidget(QWidget *parent)
 
 PlaylistWidget::~PlaylistWidget()
 {
-    // The rows outlive this part of the object, and must not look for the index then.
+    // The rows and their model outlive this part of the object. They must not look for the index then, nor
+    // tell of their end.
     m_index.clear();
+    model()->disconnect(this);
 }
 
 // The base class lets an input method in where a row can be edited. Here it is what finds a title in a script
