@@ -5,27 +5,17 @@
 /// with what fontconfig said then, as long as its configuration is the same; any other goes to fontconfig.
 #pragma once
 
-#include <fontconfig/fontconfig.h>
-#include <string>
-#include <vector>
+#include "platform/font_patterns.h"
 
-/// Fonts that will be asked for.
-struct FontWish
-{
-    std::vector<std::string> families; ///< the first of them that is installed is meant
-    int weight = FC_WEIGHT_REGULAR;    ///< in fontconfig's scale
-    std::vector<int> pixelSizes;
-};
+/// Keeps what was found for a request of the toolkit's. Any thread.
+/// \param request as the toolkit makes it, before substitutions
+void keepFontAnswer(const FcConfig *config, FontPattern request, FontPattern font);
 
-/// Finds fontconfig's functions. To be called before threads that prepare: while the loader is busy with the
-/// toolkit's plug-ins nobody else can look for a function.
-void findFontLibrary();
+/// Keeps the list of all fonts, to be given away once. Any thread.
+void keepFontList(const FcConfig *config, FontSet list);
 
-/// Asks for the list of all fonts as the toolkit does, and keeps the answer for it. Any thread.
-void prepareFontList();
-
-/// Asks how to render the wished fonts, as the toolkit does for each, and keeps the answers. Any thread.
-void prepareFontAnswers(const std::vector<FontWish> &wishes);
+/// What the toolkit wants to know of every font, when it makes its own list.
+FontObjects listedFontObjects();
 
 /// How often a font's rendering was asked for since the program began.
 struct FontQuestions
@@ -35,8 +25,3 @@ struct FontQuestions
     int lists = 0;    ///< lists of all fonts that were given from what had been prepared
 };
 FontQuestions fontQuestions();
-
-/// The font of the set that a request means which names a file, as the toolkit's requests do.
-/// \return null where the request names none, where the set does not hold exactly one font of that file, and
-/// where that font is variable: there the whole set has to be searched
-FcPattern *fontOfNamedFile(const FcFontSet *set, const FcPattern *request);

@@ -2,7 +2,7 @@
 /// What the toolkit will ask of the system's fonts, begun beside its start.
 #pragma once
 
-#include "platform/font_answers.h"
+#include "platform/font_wishes.h"
 
 /// Reads the system's font configuration, lists its fonts and prepares the wished ones on a thread of its
 /// own, which ends by itself. The toolkit would do all that when it draws its first letter, while nothing

@@ -3,7 +3,9 @@ pkg_check_modules(FONTCONFIG REQUIRED IMPORTED_TARGET GLOBAL fontconfig)
 add_library(platform_start STATIC
     console_streams.cpp
     font_answers.cpp
+    font_library.cpp
     font_warm_up.cpp
+    font_wishes.cpp
     head_start.cpp
     letter_weight.cpp
     memory_layout.cpp)

@@ -1,23 +1,16 @@
 #include "platform/font_answers.h"
+#include "platform/font_library.h"
+#include "platform/font_wishes.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
 #include <string>
 #include <thread>
 
 namespace {
 
-struct SetDeleter
-{
-    void operator()(FcFontSet *set) const { FcFontSetDestroy(set); }
-};
-struct PatternDeleter
-{
-    void operator()(FcPattern *pattern) const { FcPatternDestroy(pattern); }
-};
-using Set = std::unique_ptr<FcFontSet, SetDeleter>;
-using Pattern = std::unique_ptr<FcPattern, PatternDeleter>;
+using Set = FontSet;
+using Pattern = FontPattern;
 
 FcPattern *addFont(const Set &set, const char *file, int index = 0, bool variable = false)
 {

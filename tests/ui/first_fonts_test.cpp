@@ -4,6 +4,7 @@
 #include "window_fixture.h"
 
 #include "app/startup.h"
+#include "platform/font_answers.h"
 
 namespace {
 
