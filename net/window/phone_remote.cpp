@@ -81,6 +81,7 @@ void PlayerGuiWindow::setRemoteEnabled(bool on)
 
 bool PlayerGuiWindow::startRemote()
 {
+    QString error;
     if (!m_remote.remoteServer) {
         const RemoteHost host{
             [this] { return remoteState(); },
@@ -90,19 +91,17 @@ bool PlayerGuiWindow::startRemote()
                 logLine(tr("手机遥控：拒绝了一个令牌不对的请求（%1）").arg(QString::fromStdString(path)));
             },
         };
-        QString error;
         m_remote.remoteServer = m_options.makeRemote(host, this, error);
-        if (!m_remote.remoteServer) {
-            logLine(tr("手机遥控：无法监听端口 %1（%2）").arg(m_remote.remotePort).arg(error), true);
-            return false;
-        }
     }
-    RemoteListener &server = *m_remote.remoteServer;
-    if (!server.listen(m_remote.remotePort)) {
-        logLine(tr("手机遥控：无法监听端口 %1（%2）").arg(m_remote.remotePort).arg(server.errorText()), true);
+    RemoteListener *const server = m_remote.remoteServer;
+    if (!server || !server->listen(m_remote.remotePort)) {
+        logLine(tr("手机遥控：无法监听端口 %1（%2）")
+                    .arg(m_remote.remotePort)
+                    .arg(server ? server->errorText() : error),
+                true);
         return false;
     }
-    logLine(tr("手机遥控：已打开，端口 %1，令牌 %2").arg(m_remote.remotePort).arg(server.token()));
+    logLine(tr("手机遥控：已打开，端口 %1，令牌 %2").arg(m_remote.remotePort).arg(server->token()));
     for (const QString &url : remoteAddresses())
         logLine(tr("手机遥控地址：%1").arg(url));
     return true;
