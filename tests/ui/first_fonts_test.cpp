@@ -5,6 +5,9 @@
 
 #include "app/startup.h"
 #include "platform/font_answers.h"
+#include "ui/style_sheet.h"
+
+#include <QFontDatabase>
 
 namespace {
 
@@ -16,6 +19,10 @@ class FirstFonts : public WindowTest
 
 TEST_F(FirstFonts, AreAllThatTheFirstPictureAsksFor)
 {
+    for (const QString &family : {interfaceFamilies().first(), figureFamilies().first()}) {
+        if (!QFontDatabase::hasFamily(family))
+            GTEST_SKIP() << qPrintable(family) << " is not installed";
+    }
     qputenv("KELP_LANG", "en");
     startup::setPaletteAndIdentity();
     startup::installTranslator();
@@ -30,7 +37,5 @@ TEST_F(FirstFonts, AreAllThatTheFirstPictureAsksFor)
     if (after.prepared == before.prepared && after.searched == before.searched)
         GTEST_SKIP() << "this platform of the toolkit does not ask fontconfig";
     EXPECT_GT(after.prepared, before.prepared + 5);
-    // Signs that no family of ours has come from whatever font of the system has them.
-    const int signsOfOthers = 2;
-    EXPECT_LE(after.searched - before.searched, signsOfOthers);
+    EXPECT_EQ(after.searched, before.searched);
 }
