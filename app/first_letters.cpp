@@ -13,7 +13,7 @@ FirstLetters::FirstLetters()
     constexpr int anyPixels = 12;
     // Made here: the language changes the families of those that are made later.
     const QList<QFont> fonts = {interfaceFont(anyPixels), figureFont(anyPixels)};
-    m_letters = besideTheStart(WorkRank::Awaited, [fonts] {
+    m_letters = besideTheStart(WorkRank::InTime, [fonts] {
         for (const QFont &font : fonts)
             QFontMetrics(font).horizontalAdvance(u'0');
     });

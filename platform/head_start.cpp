@@ -3,6 +3,8 @@
 #include <array>
 #include <cstdint>
 #include <cstdlib>
+#include <deque>
+#include <mutex>
 #include <pthread.h>
 #include <sched.h>
 #include <sys/resource.h>
@@ -11,15 +13,62 @@
 
 namespace {
 
-/// How long the work goes on before who has been woken gets its turn. Of its own accord the kernel lets it
-/// run for milliseconds.
-constexpr std::uint64_t sliceNs = 100'000;
+/// As a nice value. With less, who has just been woken would first owe the work its turn, until the next
+/// tick.
+constexpr int stepsBack = 10;
+
+/// The longest that the kernel takes: who wakes up with a shorter slice, and everybody has one, takes the
+/// core from the work at once.
+constexpr std::uint64_t sliceNs = 100'000'000;
 
 struct Beginning
 {
     std::function<void()> work;
     WorkRank rank;
-    cpu_set_t allowed = {}; ///< the cores of the thread that asked
+    int nice = 0;           ///< of the thread that asked
+    cpu_set_t allowed = {}; ///< its cores
+};
+
+/// Who works now, and who is to work when nobody else does.
+class Turns
+{
+public:
+    /// Never ends: threads may outlive the program's last line.
+    static Turns &ofProcess()
+    {
+        static auto *turns = new Turns;
+        return *turns;
+    }
+
+    /// \return false when the work waits for its turn, and is kept here until then
+    bool takesTurn(std::unique_ptr<Beginning> &beginning)
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (beginning->rank == WorkRank::Last && m_working > 0) {
+            m_waiting.push_back(std::move(beginning));
+            return false;
+        }
+        ++m_working;
+        return true;
+    }
+
+    /// \return the work whose turn it is now; none where others go on or nothing waits
+    std::unique_ptr<Beginning> afterTurn()
+    {
+        const std::scoped_lock lock(m_mutex);
+        if (m_working > 1 || m_waiting.empty()) {
+            --m_working;
+            return nullptr;
+        }
+        auto next = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        return next;
+    }
+
+private:
+    std::mutex m_mutex;
+    int m_working = 0;
+    std::deque<std::unique_ptr<Beginning>> m_waiting;
 };
 
 /// Where the system starts a thread on its parent's core, the parent waits until the next tick.
@@ -47,13 +96,12 @@ struct Scheduling
 };
 
 /// This thread alone, as Linux has it. A kernel that knows no slices of a thread's own leaves them out.
-/// \param steps as a nice value
-void stepBack(int steps)
+void stepBack(const Beginning &beginning)
 {
     if (sched_getscheduler(0) != SCHED_OTHER)
         return;
     Scheduling wanted;
-    wanted.nice = getpriority(PRIO_PROCESS, 0) + steps;
+    wanted.nice = beginning.nice + stepsBack;
     wanted.sliceNs = sliceNs;
     syscall(SYS_sched_setattr, 0, &wanted, 0);
 }
@@ -72,32 +120,47 @@ void layOutArena()
 
 void *run(void *raw)
 {
-    const std::unique_ptr<Beginning> beginning(static_cast<Beginning *>(raw));
+    std::unique_ptr<Beginning> beginning(static_cast<Beginning *>(raw));
     if (CPU_COUNT(&beginning->allowed) > 0)
         sched_setaffinity(0, sizeof beginning->allowed, &beginning->allowed);
-    stepBack(static_cast<int>(beginning->rank));
     layOutArena();
-    beginning->work();
+    for (; beginning; beginning = Turns::ofProcess().afterTurn()) {
+        stepBack(*beginning);
+        beginning->work();
+    }
     return nullptr;
+}
+
+/// \return false where there is no thread to be had
+bool begin(Beginning &beginning)
+{
+    pthread_attr_t attributes;
+    if (pthread_attr_init(&attributes) != 0)
+        return false;
+    pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
+    if (sched_getaffinity(0, sizeof beginning.allowed, &beginning.allowed) == 0)
+        beginElsewhere(attributes, beginning.allowed);
+    else
+        CPU_ZERO(&beginning.allowed);
+    pthread_t thread = {};
+    const bool began = pthread_create(&thread, &attributes, run, &beginning) == 0;
+    pthread_attr_destroy(&attributes);
+    return began;
 }
 
 } // namespace
 
 bool runBeside(WorkRank rank, std::function<void()> work)
 {
-    auto beginning = std::make_unique<Beginning>(Beginning{std::move(work), rank});
-    pthread_attr_t attributes;
-    if (pthread_attr_init(&attributes) != 0)
-        return false;
-    pthread_attr_setdetachstate(&attributes, PTHREAD_CREATE_DETACHED);
-    if (sched_getaffinity(0, sizeof beginning->allowed, &beginning->allowed) == 0)
-        beginElsewhere(attributes, beginning->allowed);
-    else
-        CPU_ZERO(&beginning->allowed);
-    pthread_t thread = {};
-    const bool began = pthread_create(&thread, &attributes, run, beginning.get()) == 0;
-    pthread_attr_destroy(&attributes);
-    if (began)
+    const int nice = getpriority(PRIO_PROCESS, 0);
+    auto beginning = std::make_unique<Beginning>(Beginning{std::move(work), rank, nice});
+    if (!Turns::ofProcess().takesTurn(beginning))
+        return true;
+    if (begin(*beginning)) {
         (void)beginning.release(); // the thread's now
-    return began;
+        return true;
+    }
+    while (const auto waiting = Turns::ofProcess().afterTurn())
+        waiting->work();
+    return false;
 }

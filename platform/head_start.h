@@ -9,17 +9,17 @@
 #include <type_traits>
 #include <utility>
 
-/// How far a work steps back, as a nice value that programs it starts inherit. Little enough that a busy
-/// machine still gives the work its share, for the window may come to wait for it.
+/// When a work begins.
 enum class WorkRank
 {
-    Awaited = 0, ///< the window will soon wait for it
-    InTime = 5,  ///< the display's and the session bus's answers, for which the window waits, go first
-    Last = 10,   ///< wanted when the window is nearly built
+    InTime, ///< at once
+    Last,   ///< when no other work goes on, for it is wanted when the window is nearly built
 };
 
 /// Runs the work once on a thread of its own, which begins on another core than the caller's and gives way to
-/// whoever wakes up. The thread ends with the work. Any thread.
+/// whoever wakes up: the display and the session bus, whose answers the window waits for. It steps back by a
+/// nice value of ten, which programs that it starts inherit; a busy machine still gives it a share, for the
+/// window may come to wait for it. A work of the last rank may follow another on its thread. Any thread.
 /// \param work may outlive its caller, and must not throw
 /// \return false where there is no thread to be had; the work has then not been done
 [[nodiscard]] bool runBeside(WorkRank rank, std::function<void()> work);

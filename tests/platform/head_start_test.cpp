@@ -1,9 +1,14 @@
 #include "platform/head_start.h"
 
+#include <atomic>
+#include <chrono>
+#include <future>
 #include <gtest/gtest.h>
 #include <sched.h>
 #include <sys/resource.h>
+#include <sys/syscall.h>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -16,6 +21,20 @@ int coresOfThisThread()
 {
     cpu_set_t cores;
     return sched_getaffinity(0, sizeof cores, &cores) == 0 ? CPU_COUNT(&cores) : -1;
+}
+
+/// In nanoseconds; 0 where the kernel knows no slices of a thread's own.
+std::uint64_t sliceOfThisThread()
+{
+    struct
+    {
+        std::uint32_t size, policy;
+        std::uint64_t flags;
+        std::int32_t nice;
+        std::uint32_t priority;
+        std::uint64_t slice, deadline, period;
+    } scheduling = {};
+    return syscall(SYS_sched_getattr, 0, &scheduling, sizeof scheduling, 0) == 0 ? scheduling.slice : 0;
 }
 
 } // namespace
@@ -34,11 +53,20 @@ TEST(HeadStart, StepsBackAndMayUseAllCores)
 {
     const int nice = niceOfThisThread();
     const int most = 19;
-    EXPECT_EQ(besideTheStart(WorkRank::InTime, niceOfThisThread).get(), std::min(nice + 5, most));
+    EXPECT_EQ(besideTheStart(WorkRank::InTime, niceOfThisThread).get(), std::min(nice + 10, most));
     EXPECT_EQ(besideTheStart(WorkRank::Last, niceOfThisThread).get(), std::min(nice + 10, most));
-    EXPECT_EQ(besideTheStart(WorkRank::Awaited, niceOfThisThread).get(), nice);
     EXPECT_EQ(niceOfThisThread(), nice);
-    EXPECT_EQ(besideTheStart(WorkRank::Awaited, coresOfThisThread).get(), coresOfThisThread());
+    EXPECT_EQ(besideTheStart(WorkRank::InTime, coresOfThisThread).get(), coresOfThisThread());
+}
+
+// Else the display, woken on the same core, waits for the work's slice to end.
+TEST(HeadStart, WhoWakesUpHasTheShorterSlice)
+{
+    const std::uint64_t slice = sliceOfThisThread();
+    if (slice == 0)
+        GTEST_SKIP() << "this kernel has no slices of a thread's own";
+    EXPECT_GT(besideTheStart(WorkRank::InTime, sliceOfThisThread).get(), slice);
+    EXPECT_EQ(sliceOfThisThread(), slice);
 }
 
 TEST(HeadStart, BoundToOneCoreItWorksThere)
@@ -49,9 +77,26 @@ TEST(HeadStart, BoundToOneCoreItWorksThere)
     CPU_ZERO(&one);
     CPU_SET(sched_getcpu(), &one);
     ASSERT_EQ(sched_setaffinity(0, sizeof one, &one), 0);
-    const int cores = besideTheStart(WorkRank::Awaited, coresOfThisThread).get();
+    const int cores = besideTheStart(WorkRank::InTime, coresOfThisThread).get();
     ASSERT_EQ(sched_setaffinity(0, sizeof before, &before), 0);
     EXPECT_EQ(cores, 1);
+}
+
+TEST(HeadStart, TheLastBeginsWhenNoOtherGoesOn)
+{
+    std::promise<void> mayEnd;
+    auto first = besideTheStart(WorkRank::InTime, [end = mayEnd.get_future().share()] { end.wait(); });
+    std::atomic_int done = 0;
+    auto last = besideTheStart(WorkRank::Last, [&done] { return ++done; });
+    auto veryLast = besideTheStart(WorkRank::Last, [&done] { return ++done; });
+    EXPECT_EQ(besideTheStart(WorkRank::InTime, [&done] { return done.load(); }).get(), 0)
+        << "who is not the last waits for nobody";
+    EXPECT_EQ(last.wait_for(std::chrono::milliseconds(50)), std::future_status::timeout);
+    mayEnd.set_value();
+    EXPECT_EQ(last.get(), 1);
+    EXPECT_EQ(veryLast.get(), 2);
+    // Nobody is left to wait for.
+    EXPECT_EQ(besideTheStart(WorkRank::Last, [&done] { return ++done; }).get(), 3);
 }
 
 TEST(HeadStart, AWorkThatThrowsIsTheCallers)
