@@ -34,7 +34,6 @@ QFrame#vesperSide, QFrame#vesperChainBox { background: #131317; border: none;
 QFrame#vesperSide[mirrored="true"] { border-left: none; border-right: 1px solid #23232B; }
 QFrame#vesperStatusLine { background: #0C0C0F; border: none; border-top: 1px solid #23232B; }
 QFrame#vesperCard { background: #18181E; border: 1px solid #23232B; border-radius: 6px; }
-QFrame#vesperWell { background: #0C0C0F; border: 1px solid #23232B; border-radius: 6px; }
 QFrame#vesperRule, QFrame#vesperVfdLine { background: #23232B; border: none; }
 QFrame#vesperVfd { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #08080A, stop:1 #0C0C0F);
     border: 1px solid #2C2C35; border-radius: 6px; }
@@ -44,15 +43,12 @@ QLabel#vesperBayLabel, QLabel#vesperInd, QLabel#vesperVfdMeta { color: #8A857C; 
 QLabel#vesperIndOn { color: @ink@; }
 QLabel#vesperClock, QLabel#vesperCardVal, QLabel#vesperVfdStatus { color: #EDEAE3; }
 QLabel#vesperVfdFormat { border: 1px solid #2C2C35; border-radius: 3px; padding: 1px 8px; }
-QLabel#vesperVfdTitle, QLabel#vesperNowTitle, QLabel#vesperStatement { color: #EDEAE3; font-weight: 600; }
+QLabel#vesperVfdTitle, QLabel#vesperNowTitle { color: #EDEAE3; font-weight: 600; }
 QLabel#vesperVfdArtist { font-size: 15px; }
 QLabel#vesperVfdTime { color: #8A857C; }
 QLabel#vesperVfdMeta[sounding="true"], QLabel#vesperVfdTime[sounding="true"] { color: @ink@; }
 QLabel#vesperNowTitle { font-size: 14px; }
-QLabel#vesperNowArtist, QLabel#vesperMessage, QLabel#vesperSecondary { color: #B9B3A8; }
-QLabel#vesperDeviceHint, QLabel#vesperWarning { color: @warning@; }
-QLabel#vesperFailure { color: @failure@; }
-QLabel#vesperProof { color: @proof@; }
+QLabel#vesperNowArtist, QLabel#vesperMessage { color: #B9B3A8; }
 )"_L1;
 
 // Buttons in all their states.
@@ -90,14 +86,6 @@ QPushButton#vesperChip[place="last"] { border-top-right-radius: 4px; border-bott
 QPushButton#vesperChip:hover { background: #18181E; color: #EDEAE3; }
 QPushButton#vesperChip:checked { background: #1F1F26; color: #EDEAE3; font-weight: 600; }
 QPushButton#vesperChip[keyFocus="true"] { border: 2px solid @ring@; min-height: 24px; padding: 0 7px; }
-QPushButton#vesperOnOff { background: transparent; color: #B9B3A8; font-weight: 600; min-height: 22px;
-    padding: 0 10px; }
-QPushButton#vesperOnOff:hover { background: #1F1F26; color: #EDEAE3; }
-QPushButton#vesperOnOff:pressed { background: #0C0C0F; }
-QPushButton#vesperOnOff:checked { background: @ink@; border-color: @ink@; color: #08080A; }
-QPushButton#vesperOnOff:disabled { background: transparent; border-color: #23232B; color: #4A4842; }
-QPushButton#vesperOnOff[keyFocus="true"] { border: 2px solid @ring@; min-height: 20px; padding: 0 9px; }
-QPushButton#vesperPath { border-radius: 14px; min-height: 26px; }
 QToolButton { background: transparent; border: 1px solid transparent; border-radius: 4px; color: #B9B3A8;
     padding: 0; }
 QToolButton:hover { background: #1F1F26; color: #EDEAE3; }
@@ -246,14 +234,16 @@ QString typeOf(const QStringList &families)
     return u"font-family: \""_s + families.join(u"\", \""_s) + u'"';
 }
 
-QString valueText(const QColor &colour)
+/// A translucent colour as it looks on the chassis. The toolkit hands a translucent shape as tall as a button
+/// to threads of its own, and waits for them.
+QColor onChassis(const QColor &colour)
 {
-    if (colour.alpha() == 255)
-        return colour.name();
-    return u"rgba(%1, %2, %3, %4)"_s.arg(colour.red())
-        .arg(colour.green())
-        .arg(colour.blue())
-        .arg(colour.alpha());
+    const QColor below = theme::chassis();
+    const auto mixed = [share = colour.alphaF()](float top, float ground) {
+        return ground + (top - ground) * share;
+    };
+    return QColor::fromRgbF(mixed(colour.redF(), below.redF()), mixed(colour.greenF(), below.greenF()),
+                            mixed(colour.blueF(), below.blueF()));
 }
 
 QColor namedColour(QStringView name)
@@ -268,8 +258,8 @@ QColor namedColour(QStringView name)
         {"ink"_L1, theme::accentInk()},
         {"bright"_L1, theme::accentBright},
         {"ring"_L1, theme::focusRing()},
-        {"wash"_L1, theme::wash()},
-        {"strong"_L1, theme::strongWash()},
+        {"wash"_L1, onChassis(theme::wash())},
+        {"strong"_L1, onChassis(theme::strongWash())},
         {"plate"_L1, theme::lightTheme ? theme::reversedPlate() : theme::well()},
         {"plateink"_L1, theme::lightTheme ? theme::reversedInk() : theme::ink2()},
         {"proof"_L1, theme::statusInk(theme::proof())},
@@ -296,7 +286,7 @@ QString placeText(QStringView name)
         return captionType();
     if (name == "words"_L1)
         return typeOf(interfaceFamilies());
-    return name == "figures"_L1 ? typeOf(figureFamilies()) : valueText(namedColour(name));
+    return name == "figures"_L1 ? typeOf(figureFamilies()) : namedColour(name).name();
 }
 
 } // namespace
