@@ -69,6 +69,11 @@ void traceStep(const QString &step)
     std::fflush(stderr);
 }
 
+void giveIcon(const QList<QSize> &sizes)
+{
+    QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, sizes));
+}
+
 void preloadEngine()
 {
     kelp::EngineLibrary *library = &kelp::EngineLibrary::ofProgram();
@@ -170,8 +175,7 @@ LanguageChoice installTranslator()
 
 void setWindowIcon()
 {
-    const QList<QSize> sizes = {{32, 32}, {128, 128}};
-    QApplication::setWindowIcon(programIcon(u":/icons/kelp.png"_s, sizes));
+    giveIcon({{32, 32}});
     traceStep(u"icon"_s);
 }
 
@@ -186,14 +190,18 @@ void addAboutBlock(PlayerGuiWindow &window)
 void showWindow(PlayerGuiWindow &window)
 {
     using namespace std::chrono_literals;
-    constexpr auto preloadDelay = 300ms;
+    constexpr auto afterFirstPicture = 300ms;
     QObject::connect(qApp, &QCoreApplication::aboutToQuit, &window, &PlayerGuiWindow::shutdown);
     layOutCanvas(window);
     window.show();
     window.noteShown();
     traceStep(u"shown"_s);
-    // Not with the first picture of the window, which need not share the processor.
-    QTimer::singleShot(preloadDelay, &window, [&window] { preloadForRows(*window.widgets().playlist); });
+    // Not with the first picture of the window, which need not share the processor; and what is more than the
+    // display takes at once, the large icon, twice holds up who sends it.
+    QTimer::singleShot(afterFirstPicture, &window, [&window] {
+        giveIcon({{32, 32}, {128, 128}});
+        preloadForRows(*window.widgets().playlist);
+    });
 }
 
 void startServices(PlayerGuiWindow &window)
