@@ -85,8 +85,10 @@ int main(int argc, char **argv)
 
     const QApplication application(toolkitCount, toolkit.data());
     std::optional<startup::FirstLetters> letters;
-    if (!console)
+    if (!console) {
         letters.emplace();
+        startup::layOutHeap();
+    }
     applySettingsDirOverride();
     startup::sweepLogs();
     return console ? startup::runConsoleRole(argc, argv) : runWindow(arguments);

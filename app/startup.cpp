@@ -91,6 +91,12 @@ void preloadForRows(const QListWidget &list)
                          Qt::SingleShotConnection);
 }
 
+/// Without a thread, whoever touches a page first does it, page by page.
+void layOutBeside(MemoryPart part)
+{
+    (void)runBeside(WorkRank::InTime, [part] { layOutMemory(part); });
+}
+
 /// Has the memory of the window's first picture laid out while the widgets find their places.
 void layOutCanvas(QWidget &window)
 {
@@ -103,10 +109,8 @@ void layOutCanvas(QWidget &window)
     if (!device || device->devType() != QInternal::Image)
         return;
     const auto *picture = static_cast<const QImage *>(device);
-    const auto pixels = reinterpret_cast<std::uintptr_t>(picture->constBits());
-    const auto bytes = static_cast<std::size_t>(picture->sizeInBytes());
-    // Without a thread the painting does it page by page.
-    (void)runBeside(WorkRank::InTime, [pixels, bytes] { layOutMemory(pixels, bytes); });
+    layOutBeside({reinterpret_cast<std::uintptr_t>(picture->constBits()),
+                  static_cast<std::size_t>(picture->sizeInBytes())});
 }
 
 } // namespace
@@ -125,6 +129,14 @@ int runConsoleRole(int argc, char **argv)
         return couldNotRunEngine;
     }
     return entry(argc, argv);
+}
+
+void layOutHeap()
+{
+    constexpr std::size_t ofTheWindow = 3584UL * 1024;
+    MemoryPart heap = spareHeap();
+    heap.bytes = std::min(heap.bytes, ofTheWindow);
+    layOutBeside(heap);
 }
 
 void sweepLogs()
@@ -199,6 +211,7 @@ void showWindow(PlayerGuiWindow &window)
     // Not with the first picture of the window, which need not share the processor; and what is more than the
     // display takes at once, the large icon, twice holds up who sends it.
     QTimer::singleShot(afterFirstPicture, &window, [&window] {
+        settleHeap();
         giveIcon({{32, 32}, {128, 128}});
         preloadForRows(*window.widgets().playlist);
     });

@@ -19,6 +19,8 @@ bool isConsoleRole(const QStringList &arguments);
 /// Calls the engine's entry with the process's own arguments; its result is the exit code.
 int runConsoleRole(int argc, char **argv);
 
+/// Has the memory laid out that the window's objects will take.
+void layOutHeap();
 void sweepLogs();
 /// False when another window runs: then the listener has been told, and the program ends.
 bool takeSingleInstanceGuard();

@@ -29,7 +29,8 @@ struct Beginning
     cpu_set_t allowed = {}; ///< its cores
 };
 
-/// Who works now, and who is to work when nobody else does.
+/// Whose turn it is. One at a time: two works would hold each other up, and on a machine with two cores the
+/// display as well.
 class Turns
 {
 public:
@@ -44,31 +45,32 @@ public:
     bool takesTurn(std::unique_ptr<Beginning> &beginning)
     {
         const std::scoped_lock lock(m_mutex);
-        if (beginning->rank == WorkRank::Last && m_working > 0) {
-            m_waiting.push_back(std::move(beginning));
+        if (std::exchange(m_working, true)) {
+            (beginning->rank == WorkRank::Last ? m_last : m_inTime).push_back(std::move(beginning));
             return false;
         }
-        ++m_working;
         return true;
     }
 
-    /// \return the work whose turn it is now; none where others go on or nothing waits
+    /// \return the work whose turn it is now; none when nothing waits
     std::unique_ptr<Beginning> afterTurn()
     {
         const std::scoped_lock lock(m_mutex);
-        if (m_working > 1 || m_waiting.empty()) {
-            --m_working;
+        auto &waiting = m_inTime.empty() ? m_last : m_inTime;
+        m_working = !waiting.empty();
+        if (waiting.empty())
             return nullptr;
-        }
-        auto next = std::move(m_waiting.front());
-        m_waiting.pop_front();
+        auto next = std::move(waiting.front());
+        waiting.pop_front();
         return next;
     }
 
 private:
+    using Waiting = std::deque<std::unique_ptr<Beginning>>;
     std::mutex m_mutex;
-    int m_working = 0;
-    std::deque<std::unique_ptr<Beginning>> m_waiting;
+    bool m_working = false;
+    Waiting m_inTime;
+    Waiting m_last;
 };
 
 /// Where the system starts a thread on its parent's core, the parent waits until the next tick.

@@ -9,17 +9,17 @@
 #include <type_traits>
 #include <utility>
 
-/// When a work begins.
+/// Whose turn it is first when several works wait for theirs: one goes on at a time.
 enum class WorkRank
 {
-    InTime, ///< at once
-    Last,   ///< when no other work goes on, for it is wanted when the window is nearly built
+    InTime,
+    Last, ///< what is wanted when the window is nearly built
 };
 
-/// Runs the work once on a thread of its own, which begins on another core than the caller's and gives way to
-/// whoever wakes up: the display and the session bus, whose answers the window waits for. It steps back by a
-/// nice value of ten, which programs that it starts inherit; a busy machine still gives it a share, for the
-/// window may come to wait for it. A work of the last rank may follow another on its thread. Any thread.
+/// Runs the work once on a thread that is not the caller's, as soon as it is its turn. The thread begins on
+/// another core and gives way to whoever wakes up: the display and the session bus, whose answers the window
+/// waits for. It steps back by a nice value of ten, which programs that it starts inherit; a busy machine
+/// still gives it a share, for the window may come to wait for it. Any thread.
 /// \param work may outlive its caller, and must not throw
 /// \return false where there is no thread to be had; the work has then not been done
 [[nodiscard]] bool runBeside(WorkRank rank, std::function<void()> work);

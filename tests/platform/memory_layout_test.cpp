@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <vector>
@@ -28,7 +29,7 @@ TEST(MemoryLayout, LaysOutWholePagesAndKeepsWhatStandsThere)
     text[70 * page] = 'k';
     ASSERT_EQ(residentPages(memory, bytes), 1U);
     // From within the first page to within the last: those two are not whole.
-    layOutMemory(reinterpret_cast<std::uintptr_t>(memory) + 1, bytes - 2);
+    layOutMemory({reinterpret_cast<std::uintptr_t>(memory) + 1, bytes - 2});
 #ifdef MADV_POPULATE_WRITE
     const std::size_t laidOut = residentPages(memory, bytes);
     // A kernel before 5.14 does not know how.
@@ -36,6 +37,41 @@ TEST(MemoryLayout, LaysOutWholePagesAndKeepsWhatStandsThere)
 #endif
     EXPECT_EQ(text[70 * page], 'k');
     munmap(memory, bytes);
-    layOutMemory(reinterpret_cast<std::uintptr_t>(memory), bytes); // is left alone
-    layOutMemory(0, 0);
+    layOutMemory({reinterpret_cast<std::uintptr_t>(memory), bytes}); // is left alone
+    layOutMemory({});
+}
+
+TEST(MemoryLayout, TheSpareHeapIsWhereTheNextBlocksStand)
+{
+    keepMemoryTogether();
+    constexpr std::size_t block = 100 * 1024; // a larger one would not be taken from the heap
+    std::vector<std::unique_ptr<char[]>> blocks;
+    // Until the gaps of earlier tests are filled.
+    for (int i = 0; i < 100; ++i)
+        blocks.push_back(std::make_unique<char[]>(block));
+    const MemoryPart spare = spareHeap();
+    if (spare.bytes == 0)
+        GTEST_SKIP() << "the heap of this build is not the system's own";
+    ASSERT_GT(spare.bytes, block);
+    layOutMemory(spare);
+    const auto next = std::make_unique<char[]>(block);
+    const auto stands = reinterpret_cast<std::uintptr_t>(next.get());
+    EXPECT_GE(stands, spare.begin);
+    EXPECT_LE(stands + block, spare.begin + spare.bytes);
+}
+
+TEST(MemoryLayout, AStartThatIsOverKeepsLittleSpare)
+{
+    keepMemoryTogether();
+    constexpr std::size_t mib = 1024 * 1024;
+    std::vector<std::unique_ptr<char[]>> blocks;
+    for (int i = 0; i < 100; ++i)
+        blocks.push_back(std::make_unique<char[]>(mib / 10));
+    blocks.clear();
+    if (spareHeap().bytes == 0)
+        GTEST_SKIP() << "the heap of this build is not the system's own";
+    EXPECT_GT(spareHeap().bytes, 2 * mib);
+    settleHeap();
+    EXPECT_LT(spareHeap().bytes, 2 * mib);
+    EXPECT_GT(spareHeap().bytes, mib / 2);
 }
