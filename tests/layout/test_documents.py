@@ -1,18 +1,17 @@
 """The documents at the door tell the truth: paths and commands they name exist."""
 import os
 import re
+import sys
 import unittest
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "support"))
+from source_tree import ROOT, read  # noqa: E402
+
 DOCUMENTS = ["README.md", "CONTRIBUTING.md", "docs/ARCHITECTURE.md", "player_core/README.md", "licenses/THIRD-PARTY.md"]
 # What looks like a path: a word in backticks with a slash or a known ending, without blanks and wild cards.
 PATH = re.compile(r"`([A-Za-z0-9_.-]+(?:/[A-Za-z0-9_.-]+)*/?)`")
 MADE_BY_BUILDING = ("build/", "build-")
-
-
-def read(path):
-    with open(os.path.join(ROOT, path), encoding="utf-8") as file:
-        return file.read()
 
 
 class Documents(unittest.TestCase):

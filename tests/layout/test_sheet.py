@@ -5,23 +5,10 @@ import sys
 import unittest
 
 sys.dont_write_bytecode = True
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "support"))
+from source_tree import read, sources  # noqa: E402
+
 SHEETS = ["ui/style_sheet.cpp", "ui/style_rules.cpp"]
-FOLDERS = ["app", "dsp", "engine", "net", "output", "playback", "ui"]
-
-
-def read(path):
-    with open(os.path.join(ROOT, path), encoding="utf-8") as file:
-        return file.read()
-
-
-def sources():
-    for folder in FOLDERS:
-        for place, _, names in os.walk(os.path.join(ROOT, folder)):
-            for name in names:
-                path = os.path.relpath(os.path.join(place, name), ROOT)
-                if name.endswith((".cpp", ".h")) and path not in SHEETS:
-                    yield path
 
 
 class Sheet(unittest.TestCase):
@@ -31,7 +18,7 @@ class Sheet(unittest.TestCase):
         cls.objects = set(re.findall(r"Q[A-Za-z]+#(\w+)", rules))
         cls.properties = set(re.findall(r"\[(\w+)=\"", rules))
         cls.words = set()
-        for path in sources():
+        for path in sources(without=SHEETS):
             cls.words.update(re.findall(r'"(\w+)"', read(path)))
 
     def test_the_rules_were_found(self):

@@ -1,11 +1,14 @@
 """Keys of settings are spelt in one place: the table. Everything else names the constant."""
 import os
 import re
+import sys
 import unittest
 
-ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
+sys.dont_write_bytecode = True
+sys.path.insert(0, os.path.join(os.path.dirname(os.path.dirname(os.path.abspath(__file__))), "support"))
+from source_tree import read, sources  # noqa: E402
+
 TABLE = "platform/settings_table.h"
-FOLDERS = ["platform", "tags", "lyrics", "engine", "library", "dsp", "output", "playback", "net", "maintenance", "ui", "app"]
 LITERAL = re.compile(r'"((?:[^"\\\n]|\\.)*)"')
 CONSTANT = re.compile(r'inline constexpr Setting<\w+> (\w+)\{"([^"]+)"_L1')
 # A literal that begins like this is a key, or the beginning of one, whether or not the table knows it.
@@ -13,20 +16,6 @@ GROUPS = ("param/", "ui/", "play/", "fx/", "engine/", "ui-language/")
 # Include lines, and paths of resources and sources, look like groups and are none.
 INCLUDE = re.compile(r"^\s*#\s*include\b")
 FILE_ENDINGS = (".h", ".cpp", ".svg", ".png", ".md", ".qm", ".css", ".qss", ".html")
-
-
-def read(path):
-    with open(os.path.join(ROOT, path), encoding="utf-8") as file:
-        return file.read()
-
-
-def sources():
-    for top in FOLDERS:
-        for folder, _, files in os.walk(os.path.join(ROOT, top)):
-            for name in files:
-                path = os.path.relpath(os.path.join(folder, name), ROOT)
-                if name.endswith((".h", ".cpp")) and path != TABLE:
-                    yield path
 
 
 def spelt(text, keys):
@@ -54,7 +43,7 @@ class SettingsKeys(unittest.TestCase):
         self.assertEqual(listed, [name for name, _ in self.constants])
 
     def test_no_other_source_spells_a_key(self):
-        for path in sources():
+        for path in sources(without=[TABLE]):
             for number, literal in spelt(read(path), self.keys):
                 self.fail(f'{path}:{number}: "{literal}" is a key of a setting; name its constant in {TABLE}')
 
