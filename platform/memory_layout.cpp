@@ -21,6 +21,8 @@ void keepMemoryTogether()
     // built its helpers allocate a lot: with one arena for them all, they would wait for each other.
     constexpr int arenas = 8;
     mallopt(M_ARENA_MAX, arenas);
+    // From here on the library keeps its threshold, too: a block of 128 KiB comes from the system and goes
+    // back to it, where otherwise a first large one would have those that follow stay in the heap.
     mallopt(M_TOP_PAD, startHeapBytes);
 }
 
