@@ -59,6 +59,14 @@ function(kelp_warnings target)
         $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wextra-semi>)
 endfunction()
 
+# What a sanitizer should know; nothing in a build without one.
+if(KELP_SANITIZE STREQUAL "address" OR KELP_SANITIZE STREQUAL "thread")
+    add_library(sanitizer_defaults OBJECT "${PROJECT_SOURCE_DIR}/tests/support/sanitizer_defaults.cpp")
+    kelp_warnings(sanitizer_defaults)
+else()
+    add_library(sanitizer_defaults INTERFACE)
+endif()
+
 # Qt without its implicit conversions and macros: what is converted stands in the code.
 set(KELP_QT_DEFINITIONS QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
     QT_NO_URL_CAST_FROM_STRING QT_NO_FOREACH QT_NO_KEYWORDS QT_DISABLE_DEPRECATED_BEFORE=0x060400)

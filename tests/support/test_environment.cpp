@@ -1,5 +1,5 @@
-// The environment of every test, however it is started: nothing of the user's language or settings, and what
-// the sanitizers should know of libraries that are not ours. Linked into each test program.
+// The environment of every test, however it is started: nothing of the user's language or settings. Linked
+// into each test program.
 #include <cstdlib>
 
 namespace {
@@ -14,52 +14,3 @@ namespace {
 }
 
 } // namespace
-
-// What the sanitizers' libraries ask a program for; they look the names up.
-#pragma GCC visibility push(default)
-extern "C" {
-const char *__lsan_default_suppressions();
-const char *__tsan_default_suppressions();
-const char *__tsan_default_options();
-const char *__ubsan_default_options();
-
-/// Caches that libraries of the distribution keep until the process ends.
-const char *__lsan_default_suppressions()
-{
-    return "leak:libfontconfig\n"
-           "leak:libasound\n"
-           "leak:libdbus-1\n"
-           "leak:libQt6\n"
-           "leak:libglib\n";
-}
-
-/// Libraries of the distribution that ThreadSanitizer cannot see into; nothing of ours is named here.
-const char *__tsan_default_suppressions()
-{
-    // A library stands under called_from_lib only where its locks do not guard data of ours: their locking is
-    // not seen then, and callbacks would be reported for races that there are not.
-    return "called_from_lib:libasound.so\n"
-           "called_from_lib:libglib-2.0.so\n"
-           // PulseAudio hands buffers from one connection's thread to another's by lists without locks.
-           "race:pa_iochannel_\n"
-           "race:pa_packet_\n"
-           "race:pa_pstream_\n"
-           "race:pa_memblock\n"
-           "race:pa_tagstruct\n"
-           "race:pa_mutex_\n"
-           "race:pa_cond_\n"
-           // The C library guards its time zone by a lock that is not seen.
-           "race:tzset_internal\n";
-}
-
-const char *__tsan_default_options()
-{
-    return "halt_on_error=1:second_deadlock_stack=1";
-}
-
-const char *__ubsan_default_options()
-{
-    return "print_stacktrace=1";
-}
-}
-#pragma GCC visibility pop
