@@ -47,7 +47,11 @@ class UserSettingsTest : public testing::Test
 {
 protected:
     void SetUp() override { use(u"one"_s); }
-    void TearDown() override { qunsetenv("KELP_SETTINGS_DIR"); }
+    void TearDown() override
+    {
+        userSettingsFile().flush(); // else it is still being written when the process ends
+        qunsetenv("KELP_SETTINGS_DIR");
+    }
     void use(const QString &name)
     {
         qputenv("KELP_SETTINGS_DIR", QFile::encodeName(m_folder.filePath(name)));
