@@ -6,14 +6,14 @@
 
 namespace startup {
 
-/// Has the toolkit list the system's fonts and draw a letter of each kind of type, on a thread of its own:
-/// for the first letter of a kind it looks for what stands in where a family lacks one. Whoever needs a font
+/// Has the toolkit list the system's fonts and draw a letter of each kind of type, beside the start: for
+/// the first letter of a kind it looks for what stands in where a family lacks one. Whoever needs a font
 /// meanwhile waits for the list. Made when the application object stands.
 class FirstLetters
 {
 public:
     FirstLetters();
-    /// Waits for the thread, which needs the application object.
+    /// Waits for the letters, which need the application object.
     ~FirstLetters();
     FirstLetters(const FirstLetters &) = delete;
     FirstLetters &operator=(const FirstLetters &) = delete;

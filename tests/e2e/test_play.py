@@ -148,6 +148,19 @@ class Play(unittest.TestCase):
                 wait_until(lambda engine=engine: subprocess.run(engine, capture_output=True).returncode != 0,
                            what="the end of the engine's process")
 
+    def test_the_window_gets_its_icon_small_at_once_and_then_large(self):
+        with Stage() as stage:
+            stage.display()
+            player = stage.player()
+            seen = ["xprop", "-name", "Kelp Player", "_NET_WM_ICON"]
+
+            def icon():
+                return subprocess.run(seen, env=stage.env, capture_output=True, text=True).stdout
+            wait_until(lambda: "Icon (32 x 32)" in icon(), what="the small icon")
+            wait_until(lambda: "Icon (128 x 128)" in icon(), what="the large icon")
+            self.assertIn("Icon (32 x 32)", icon())
+            support.end_process(player.process)
+
 
 if __name__ == "__main__":
     support.main()

@@ -59,6 +59,17 @@ protected:
         m_window->restoreRemote();
         ASSERT_TRUE(state().remoteEnabled) << qPrintable(takeLog());
     }
+    /// Switched on by the listener, it goes back and stays off.
+    void expectRefused()
+    {
+        makeWindow();
+        m_window->restoreRemote();
+        controls().enable->click();
+        EXPECT_FALSE(controls().enable->isChecked());
+        EXPECT_FALSE(state().remoteEnabled);
+        EXPECT_FALSE(state().remoteServer);
+        EXPECT_FALSE(readUserSetting(settings::remoteOn));
+    }
     PhoneRemoteState &state() { return WindowInspector::remote(*m_window); }
     RemoteControls &controls() { return m_window->remoteControls(); }
     QString token() { return m_window->remoteToken(); }
@@ -165,14 +176,8 @@ TEST_F(PhoneRemote, AfterOffAndOnTheOldUrlIsRefused)
 TEST_F(PhoneRemote, OfflineModeRefusesIt)
 {
     writeUserSetting(settings::offlineMode, true);
-    makeWindow();
-    m_window->restoreRemote();
-    controls().enable->click();
-    EXPECT_FALSE(controls().enable->isChecked());
-    EXPECT_FALSE(state().remoteEnabled);
-    EXPECT_FALSE(state().remoteServer);
+    expectRefused();
     EXPECT_TRUE(logHas(u"拒绝了 手机遥控(监听端口)"_s));
-    EXPECT_FALSE(readUserSetting(settings::remoteOn));
     QTcpServer free;
     EXPECT_TRUE(free.listen(QHostAddress::AnyIPv4, m_port));
 }
@@ -301,12 +306,6 @@ TEST_F(PhoneRemote, WithoutItsLibraryTheSwitchGoesBack)
         error = u"not found: libkelp_player_net.so"_s;
         return nullptr;
     };
-    makeWindow();
-    m_window->restoreRemote();
-    controls().enable->click();
-    EXPECT_FALSE(controls().enable->isChecked());
-    EXPECT_FALSE(state().remoteEnabled);
-    EXPECT_FALSE(state().remoteServer);
-    EXPECT_FALSE(readUserSetting(settings::remoteOn));
+    expectRefused();
     EXPECT_TRUE(logHas(u"手机遥控：无法监听端口 %1（not found: libkelp_player_net.so）"_s.arg(m_port)));
 }
