@@ -113,6 +113,7 @@ int main(int argc, char **argv)
 
     PlayerGuiWindow window({.asksBeforeClosing = false});
     window.show();
+    settleHeap(); // as the program does when its first picture stands
     window.widgets().device->addItem(u"null"_s, u"null"_s);
     window.widgets().device->setCurrentIndex(window.widgets().device->count() - 1);
     window.appendFile(QString::fromLocal8Bit(argv[1]));
